@@ -1,0 +1,12 @@
+# MinGW-w64 with POSIX threads: the default flavour lacks std::mutex.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_CXX_COMPILER ${MINGW_TRIPLE}-g++-posix)
+set(CMAKE_RC_COMPILER ${MINGW_TRIPLE}-windres)
+set(MINGW_WIDL ${MINGW_TRIPLE}-widl)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+
+add_compile_definitions(_WIN32_WINNT=0x0601 UNICODE _UNICODE)
+# Nothing but system DLLs is needed where the library is installed.
+set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
+set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/in-wine)

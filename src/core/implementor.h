@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vector>
+
+#include "core/output_sink.h"
+#include "core/text.h"
+
+namespace quorvel {
+
+/// Port: whoever fills the slots of a reference assembly, an element of the library or an object of
+/// the host.
+class Implementor {
+public:
+    virtual ~Implementor() = default;
+
+    /// Writes the element to the sink; `toString` of the assembly calls it with a sink of its own.
+    virtual void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) = 0;
+
+    /// Fills the slots for the current output: texts into `items`, and what carries its own fonts
+    /// into the fragments of `formattedItems` (empty references at the plain slots).
+    /// @return True when there is nothing to assemble.
+    virtual bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
+                                       std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) = 0;
+};
+
+}  // namespace quorvel

@@ -1,0 +1,311 @@
+#include "core/output_template.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "core/common_model_processing_functions.h"
+#include "core/procedure.h"
+
+namespace quorvel {
+
+namespace {
+
+constexpr TextView kClosingMark(&kRightDoubleQuotationMark, 1);
+
+std::size_t at(std::int32_t index) {
+    if (index < 0) {
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+    }
+    return static_cast<std::size_t>(index);
+}
+
+/// The part-th of `parts` equal runs of a separator array.
+std::shared_ptr<const std::vector<Text>> part(const std::vector<Text>& separators, std::size_t part,
+                                              std::size_t parts) {
+    const auto length = static_cast<std::ptrdiff_t>(separators.size() / parts);
+    const auto first = separators.begin() + length * static_cast<std::ptrdiff_t>(part);
+    return std::make_shared<const std::vector<Text>>(first, first + length);
+}
+
+std::int16_t upperBound(const std::vector<Text>& array) {
+    return static_cast<std::int16_t>(std::min<std::size_t>(array.size(), INT16_MAX) - 1);
+}
+
+/// The separator list of a slot as one line of a dump.
+Text summary(const std::shared_ptr<const std::vector<Text>>& list) {
+    return list ? join(*list, u"|") : Text();
+}
+
+}  // namespace
+
+void outputTemplate::Initialize(const OutputSinkRef& formattedStr) {
+    procedure(*this, u"OutputTemplate.Initialize", {{u"formattedStr", formattedStr}},
+              [&] { mFormattedStr = object(formattedStr).Clone(); });
+}
+
+void outputTemplate::Reset(std::int16_t maxReferenceItems, const std::vector<std::int16_t>& separatorFonts) {
+    procedure(*this, u"OutputTemplate.Reset",
+              {{u"maxReferenceItems", maxReferenceItems}, {u"separatorFonts", separatorFonts}}, [&] {
+                  mReferenceItemsInitialized = false;
+                  mIndexToFormatted.clear();
+                  mReferenceItems.assign(at(maxReferenceItems) + 1, {});
+                  mMaxReferenceItems = maxReferenceItems;
+                  mSeparatorFonts.assign(at(maxReferenceItems) + 2, static_cast<std::int16_t>(OutputSink::kPlain));
+                  for (std::size_t i = 0; i < separatorFonts.size(); ++i) {
+                      mSeparatorFonts.at(i) = separatorFonts[i];
+                  }
+              });
+}
+
+void outputTemplate::Add(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators) {
+    procedure(
+        *this, u"OutputTemplate.Add",
+        {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
+        [&] {
+            ReferenceItem& item = mReferenceItems.at(at(Index));
+            item = ReferenceItem();
+            item.isFormatted = isFormatted;
+            if (Index == mMaxReferenceItems) {
+                mIndexToFormatted.clear();
+                for (std::int16_t i = 0; i <= mMaxReferenceItems; ++i) {
+                    if (mReferenceItems[at(i)].isFormatted) {
+                        mIndexToFormatted.push_back(i);
+                    }
+                }
+            }
+            const std::int16_t ubound = upperBound(separators);
+            const bool isOneList = ubound == mMaxReferenceItems + 1 - Index;
+            if (hasFootnoteSeparators(Index, isChecking, ubound)) {
+                const std::size_t parts = isChecking ? 4 : 2;
+                item.bibliographySeparators = part(separators, 0, parts);
+                item.footnoteSeparators = part(separators, 1, parts);
+                if (isChecking) {
+                    item.checkBibliographySeparators = part(separators, 2, parts);
+                    item.checkFootnoteSeparators = part(separators, 3, parts);
+                }
+            } else {
+                const std::size_t parts = isChecking && !isOneList ? 2 : 1;
+                item.bibliographySeparators = part(separators, 0, parts);
+                item.footnoteSeparators = item.bibliographySeparators;
+                if (isChecking) {
+                    item.checkBibliographySeparators = part(separators, parts - 1, parts);
+                    item.checkFootnoteSeparators = item.checkBibliographySeparators;
+                }
+            }
+        });
+}
+
+bool outputTemplate::hasFootnoteSeparators(std::int16_t Index, bool isChecking, std::int16_t uboundSeparators) const {
+    return procedure(*this, u"OutputTemplate.hasFootnoteSeparators",
+                     {{u"Index", Index}, {u"isChecking", isChecking}, {u"uboundSeparators", uboundSeparators}}, [&] {
+                         const int uboundOneList = mMaxReferenceItems + 1 - Index;
+                         if (uboundSeparators - 1 == 2 * uboundOneList) {
+                             return !isChecking;
+                         }
+                         // A length that fits no shape counts as four lists and shows at the entry that is missing.
+                         return uboundSeparators != uboundOneList;
+                     });
+}
+
+void outputTemplate::ResetReferenceItems() {
+    procedure(*this, u"OutputTemplate.ResetReferenceItems", kNoParameters, [&] {
+        mItems.resize(mReferenceItems.size());
+        for (Text& item : mItems) {
+            item.clear();
+        }
+        // By value: the host's answer to a call below may be a new layout.
+        const std::vector<std::int16_t> indexToFormatted = mIndexToFormatted;
+        if (!mReferenceItemsInitialized) {
+            mFormattedItems.assign(mReferenceItems.size(), nullptr);
+        }
+        for (const std::int16_t i : indexToFormatted) {
+            OutputSinkRef fragment = mFormattedItems.at(at(i));
+            if (!mReferenceItemsInitialized) {
+                const OutputSinkRef maker = mFormattedStr;
+                fragment = object(maker).BuildNewFormattedString();
+                mFormattedItems.at(at(i)) = fragment;
+            }
+            object(fragment).Reset();
+        }
+        mReferenceItemsInitialized = true;
+    });
+}
+
+void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implementor& implementor,
+                                       bool shortenedVersion, bool isFootnote, const std::vector<bool>& checkingArray) {
+    procedure(*this, u"OutputTemplate.ToFormattedString",
+              {{u"formattedStr", formattedStr},
+               {u"implementor", HostObjectRef()},
+               {u"shortenedVersion", shortenedVersion},
+               {u"isFootnote", isFootnote},
+               {u"checkingArray", checkingArray}},
+              [&] {
+                  if (implementor.ToFormattedStringImpl(isFootnote, mItems, mFormattedItems, shortenedVersion)) {
+                      return;
+                  }
+                  std::int16_t i = nextFilled(0);
+                  if (i > mMaxReferenceItems) {
+                      return;
+                  }
+                  Separators list = getSeparators(i, checkingArray, isFootnote);
+                  bool noQuote = false;
+                  buildReferenceStringFirst(i, formattedStr, getSeparator(*list, i, i, formattedStr, noQuote));
+                  while (i <= mMaxReferenceItems) {
+                      const std::int16_t j = nextFilled(static_cast<std::int16_t>(i + 1));
+                      addSeparator(*list, i, j, formattedStr, mSeparatorFonts.at(at(j)));
+                      if (j <= mMaxReferenceItems) {
+                          list = getSeparators(j, checkingArray, isFootnote);
+                          buildReferenceString(j, formattedStr);
+                      }
+                      i = j;
+                  }
+              });
+}
+
+Text outputTemplate::toString(Implementor& implementor, bool shortenedVersion, bool isFootnote, bool isRTF) {
+    return procedure(*this, u"OutputTemplate.toString",
+                     {{u"implementor", HostObjectRef()},
+                      {u"shortenedVersion", shortenedVersion},
+                      {u"isFootnote", isFootnote},
+                      {u"isRTF", isRTF}},
+                     [&] {
+                         // Held on its own: the host may release the owner while it is being written to.
+                         const OutputSinkRef sink = mFormattedStr;
+                         object(sink).Reset();
+                         implementor.ToFormattedString(sink, isFootnote, shortenedVersion);
+                         return isRTF ? sink->toRTFString() : sink->toString();
+                     });
+}
+
+bool outputTemplate::isBlank(std::int16_t Index) const {
+    return procedure(*this, u"OutputTemplate.isBlank", {{u"Index", Index}}, [&] {
+        if (mReferenceItems.at(at(Index)).isFormatted) {
+            const OutputSinkRef fragment = mFormattedItems.at(at(Index));
+            return object(fragment).IsEmpty();
+        }
+        return mItems.at(at(Index)).empty();
+    });
+}
+
+outputTemplate::Separators outputTemplate::getSeparators(std::int16_t Index, const std::vector<bool>& checkingArray,
+                                                         bool isFootnote) const {
+    static const auto kNone = std::make_shared<const std::vector<Text>>();
+    Separators result = kNone;
+    procedure(*this, u"OutputTemplate.getSeparators",
+              {{u"Index", Index}, {u"checkingArray", checkingArray}, {u"isFootnote", isFootnote}}, [&] {
+                  const ReferenceItem& item = mReferenceItems.at(at(Index));
+                  const bool isChecked = at(Index) < checkingArray.size() && checkingArray[at(Index)];
+                  const Separators& list =
+                      isChecked ? (isFootnote ? item.checkFootnoteSeparators : item.checkBibliographySeparators)
+                                : (isFootnote ? item.footnoteSeparators : item.bibliographySeparators);
+                  if (list) {
+                      result = list;
+                  }
+              });
+    return result;
+}
+
+Text outputTemplate::getSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j,
+                                  const OutputSinkRef& formattedStr, bool& removeQuoteFromPreviousPhrase) const {
+    return procedure(*this, u"OutputTemplate.getSeparator",
+                     {{u"list", list},
+                      {u"i", i},
+                      {u"j", j},
+                      {u"formattedStr", formattedStr},
+                      {u"removeQuoteFromPreviousPhrase", removeQuoteFromPreviousPhrase}},
+                     [&]() -> Text {
+                         const Text& entry = list.at(at(j - i));
+                         if (i == j) {
+                             // The opening text looks at the end of its own slot, which is deliberate; no
+                             // quotation stands before it.
+                             return CommonModelProcessingFunctions::removeDoublePeriodsOnly(textOf(i), entry);
+                         }
+                         return CommonModelProcessingFunctions::removeDoublePeriods(textOf(i), entry,
+                                                                                    removeQuoteFromPreviousPhrase);
+                     });
+}
+
+void outputTemplate::addSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j,
+                                  const OutputSinkRef& formattedStr, std::int16_t separatorFont) const {
+    procedure(
+        *this, u"OutputTemplate.addSeparator",
+        {{u"list", list}, {u"i", i}, {u"j", j}, {u"formattedStr", formattedStr}, {u"separatorFont", separatorFont}},
+        [&] {
+            OutputSink& sink = object(formattedStr);
+            bool removeQuote = false;
+            Text separator = getSeparator(list, i, j, formattedStr, removeQuote);
+            std::int16_t font = separatorFont;
+            if (removeQuote && separatorFont == OutputSink::kPlain) {
+                const std::int16_t phraseFont = sink.removeQuoteFromLastPhrase();
+                if (phraseFont != OutputSink::kPlain) {
+                    // The mark keeps the font of the phrase that it closes.
+                    const std::vector<Text> pieces = split(separator, kClosingMark);
+                    sink.Add(concatenate({pieces.at(0), kClosingMark}), phraseFont);
+                    separator = pieces.at(1);
+                    font = OutputSink::kPlain;
+                }
+            }
+            sink.Add(separator, font);
+        });
+}
+
+void outputTemplate::buildReferenceStringFirst(std::int16_t Index, const OutputSinkRef& formattedStr,
+                                               TextView prefix) const {
+    procedure(*this, u"OutputTemplate.buildReferenceStringFirst",
+              {{u"Index", Index}, {u"formattedStr", formattedStr}, {u"prefix", prefix}}, [&] {
+                  object(formattedStr).Add(prefix);
+                  buildReferenceString(Index, formattedStr);
+              });
+}
+
+void outputTemplate::buildReferenceString(std::int16_t Index, const OutputSinkRef& formattedStr) const {
+    procedure(*this, u"OutputTemplate.buildReferenceString", {{u"Index", Index}, {u"formattedStr", formattedStr}}, [&] {
+        if (mReferenceItems.at(at(Index)).isFormatted) {
+            const OutputSinkRef fragment = mFormattedItems.at(at(Index));
+            object(formattedStr).addFormattedString(object(fragment));
+        } else {
+            object(formattedStr).Add(mItems.at(at(Index)));
+        }
+    });
+}
+
+Text outputTemplate::textOf(std::int16_t Index) const {
+    if (mReferenceItems.at(at(Index)).isFormatted) {
+        const OutputSinkRef fragment = mFormattedItems.at(at(Index));
+        return object(fragment).toString();
+    }
+    return mItems.at(at(Index));
+}
+
+/// The first slot from `from` on that is not blank; the virtual slot behind the last when there is none.
+std::int16_t outputTemplate::nextFilled(std::int16_t from) const {
+    std::int16_t slot = from;
+    while (slot <= mMaxReferenceItems && isBlank(slot)) {
+        ++slot;
+    }
+    return slot;
+}
+
+void outputTemplate::dumpVariables(VBWPROTECTOR& report) const {
+    std::vector<Text> referenceItems;
+    for (const ReferenceItem& item : mReferenceItems) {
+        referenceItems.push_back(
+            concatenate({item.isFormatted ? TextView(u"formatted") : TextView(u"plain"), u"; ",
+                         summary(item.bibliographySeparators), u"; ", summary(item.footnoteSeparators), u"; ",
+                         summary(item.checkBibliographySeparators), u"; ", summary(item.checkFootnoteSeparators)}));
+    }
+    std::vector<TraceValue::Object> formattedItems;
+    for (const OutputSinkRef& item : mFormattedItems) {
+        formattedItems.push_back(item.get());
+    }
+    report.vbwReportVariable(u"mMaxReferenceItems", mMaxReferenceItems);
+    report.vbwReportVariable(u"mReferenceItems", referenceItems);
+    report.vbwReportVariable(u"mIndexToFormatted", mIndexToFormatted);
+    report.vbwReportVariable(u"mReferenceItemsInitialized", mReferenceItemsInitialized);
+    report.vbwReportVariable(u"mItems", mItems);
+    report.vbwReportVariable(u"mSeparatorFonts", mSeparatorFonts);
+    report.vbwReportVariable(u"mFormattedStr", mFormattedStr);
+    report.vbwReportVariable(u"mFormattedItems", formattedItems);
+}
+
+}  // namespace quorvel

@@ -1,0 +1,143 @@
+#include "core/text.h"
+
+#include <algorithm>
+
+namespace quorvel {
+
+namespace {
+
+struct CodeUnitRange {
+    char16_t first;
+    char16_t last;
+};
+
+// Space separators (Zs), line breaks and tabs, all read as a blank.
+constexpr CodeUnitRange kSpaces[] = {
+    {u'\u0009', u'\u000D'}, {u'\u0020', u'\u0020'}, {u'\u0085', u'\u0085'}, {u'\u00A0', u'\u00A0'},
+    {u'\u1680', u'\u1680'}, {u'\u2000', u'\u200A'}, {u'\u2028', u'\u2029'}, {u'\u202F', u'\u202F'},
+    {u'\u205F', u'\u205F'}, {u'\u3000', u'\u3000'},
+};
+
+// Characters that a word processor leaves behind and a reader never sees. The joiners U+200C and
+// U+200D are not among them: in several scripts they shape the letters of a name.
+constexpr CodeUnitRange kInvisible[] = {
+    {u'\u00AD', u'\u00AD'},
+    {u'\u200B', u'\u200B'},
+    {u'\u2060', u'\u2060'},
+    {u'\uFEFF', u'\uFEFF'},
+};
+
+template <std::size_t N>
+bool isIn(const CodeUnitRange (&ranges)[N], char16_t unit) {
+    return std::any_of(std::begin(ranges), std::end(ranges),
+                       [unit](const CodeUnitRange& range) { return range.first <= unit && unit <= range.last; });
+}
+
+}  // namespace
+
+Text replaceAll(TextView text, TextView find, TextView replacement) {
+    Text result;
+    std::size_t from = 0;
+    if (!find.empty()) {
+        for (std::size_t at = text.find(find); at != TextView::npos; at = text.find(find, from)) {
+            result.append(text.substr(from, at - from)).append(replacement);
+            from = at + find.size();
+        }
+    }
+    return result.append(text.substr(from));
+}
+
+bool startsWith(TextView text, TextView prefix) {
+    return text.starts_with(prefix);
+}
+
+bool endsWith(TextView text, TextView suffix) {
+    return text.ends_with(suffix);
+}
+
+bool contains(TextView text, TextView part) {
+    return text.find(part) != TextView::npos;
+}
+
+bool removePrefix(Text& text, TextView prefix) {
+    const bool found = startsWith(text, prefix);
+    if (found) {
+        text.erase(0, prefix.size());
+    }
+    return found;
+}
+
+bool removeSuffix(Text& text, TextView suffix) {
+    const bool found = endsWith(text, suffix);
+    if (found) {
+        text.resize(text.size() - suffix.size());
+    }
+    return found;
+}
+
+std::vector<Text> split(TextView text, TextView separator) {
+    std::vector<Text> pieces;
+    std::size_t from = 0;
+    if (!separator.empty()) {
+        for (std::size_t at = text.find(separator); at != TextView::npos; at = text.find(separator, from)) {
+            pieces.emplace_back(text.substr(from, at - from));
+            from = at + separator.size();
+        }
+    }
+    pieces.emplace_back(text.substr(from));
+    return pieces;
+}
+
+Text join(const std::vector<Text>& pieces, TextView separator) {
+    Text result;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        if (i > 0) {
+            result.append(separator);
+        }
+        result.append(pieces[i]);
+    }
+    return result;
+}
+
+TextView trim(TextView text) {
+    const std::size_t first = text.find_first_not_of(u' ');
+    if (first == TextView::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(u' ') - first + 1);
+}
+
+TextView before(TextView text, TextView separator) {
+    return text.substr(0, text.find(separator));
+}
+
+Text concatenate(std::initializer_list<TextView> parts) {
+    std::size_t size = 0;
+    for (const TextView part : parts) {
+        size += part.size();
+    }
+    Text result;
+    result.reserve(size);
+    for (const TextView part : parts) {
+        result.append(part);
+    }
+    return result;
+}
+
+Text cleanUp(TextView text) {
+    Text result;
+    result.reserve(text.size());
+    for (const char16_t unit : text) {
+        // Printable ASCII is nearly all of the input and never in a table but for the blank.
+        const bool plain = unit > u' ' && unit < u'\u007F';
+        if (plain || (!isIn(kSpaces, unit) && !isIn(kInvisible, unit))) {
+            result.push_back(unit);
+        } else if (isIn(kSpaces, unit) && !result.empty() && result.back() != u' ') {
+            result.push_back(u' ');
+        }
+    }
+    removeSuffix(result, u" ");
+    return result;
+}
+
+}  // namespace quorvel

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// Text as the library knows it: UTF-16 code units, and the ordinary string handling that every
+/// element shares. All comparisons are binary; letter case is letter_case.h.
+namespace quorvel {
+
+using Text = std::u16string;
+using TextView = std::u16string_view;
+
+inline constexpr char16_t kEnDash = u'\u2013';
+inline constexpr char16_t kLeftDoubleQuotationMark = u'\u201C';
+inline constexpr char16_t kRightDoubleQuotationMark = u'\u201D';
+
+/// Every occurrence of `find` replaced, left to right; an empty `find` changes nothing.
+Text replaceAll(TextView text, TextView find, TextView replacement);
+
+bool startsWith(TextView text, TextView prefix);
+bool endsWith(TextView text, TextView suffix);
+bool contains(TextView text, TextView part);
+
+/// True when the text began with the prefix, which is then gone from it.
+bool removePrefix(Text& text, TextView prefix);
+/// True when the text ended with the suffix, which is then gone from it.
+bool removeSuffix(Text& text, TextView suffix);
+
+/// The pieces between the separators, at least one. An empty separator gives the whole text.
+std::vector<Text> split(TextView text, TextView separator);
+Text join(const std::vector<Text>& pieces, TextView separator);
+
+/// Without the blanks (U+0020) at both ends.
+TextView trim(TextView text);
+
+/// What stands before the first occurrence of the separator; the whole text when there is none.
+TextView before(TextView text, TextView separator);
+
+/// One text made of several parts with a single allocation.
+Text concatenate(std::initializer_list<TextView> parts);
+
+/// The clean-up that an element's text passes before it is read: non-breaking and other Unicode
+/// spaces become blanks, zero-width characters and soft hyphens are dropped, runs of blanks become
+/// one, and the ends are trimmed.
+Text cleanUp(TextView text);
+
+}  // namespace quorvel

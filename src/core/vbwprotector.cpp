@@ -1,0 +1,199 @@
+#include "core/vbwprotector.h"
+
+#include <charconv>
+#include <cstddef>
+#include <mutex>
+#include <new>
+
+#include "core/instrumented.h"
+
+namespace quorvel {
+
+namespace {
+
+constexpr TextView kLibraryPrefix = u"QuorvelTemplate.";
+constexpr TextView kBanner =
+    u"\r\n**************************\r\n* MODULE LEVEL VARIABLES *\r\n**************************\r\n";
+
+struct StartUp {
+    std::mutex mutex;
+    TraceSwitches switches;
+    ErrorReportServiceFinder* finder = nullptr;
+};
+
+StartUp& startUpState() {
+    static StartUp state;
+    return state;
+}
+
+Text decimal(std::int32_t number) {
+    char digits[12];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    return Text(std::begin(digits), end);
+}
+
+}  // namespace
+
+/// Keeps what the service calls in the library from being reported to the service.
+class VBWPROTECTOR::Reporting {
+public:
+    explicit Reporting(VBWPROTECTOR& protector) : mProtector(protector) { mProtector.mIsReporting = true; }
+    Reporting(const Reporting&) = delete;
+    Reporting& operator=(const Reporting&) = delete;
+    ~Reporting() { mProtector.mIsReporting = false; }
+
+private:
+    VBWPROTECTOR& mProtector;
+};
+
+VBWPROTECTOR::VBWPROTECTOR() {
+    const std::scoped_lock lock(startUpState().mutex);
+    mSwitches = startUpState().switches;
+    mFinder = startUpState().finder;
+}
+
+VBWPROTECTOR& VBWPROTECTOR::ofThisApartment() {
+    // Never destroyed at thread end: by then COM is closed for the thread, and a service that is
+    // still held can only be left alone. Every regular way out releases it before.
+    alignas(VBWPROTECTOR) static thread_local std::byte storage[sizeof(VBWPROTECTOR)];
+    static thread_local VBWPROTECTOR* protector = nullptr;
+    if (protector == nullptr) {
+        protector = new (&storage) VBWPROTECTOR();
+    }
+    return *protector;
+}
+
+void VBWPROTECTOR::startUp(TraceSwitches switches, ErrorReportServiceFinder* finder) {
+    {
+        const std::scoped_lock lock(startUpState().mutex);
+        startUpState().switches = switches;
+        startUpState().finder = finder;
+    }
+    ofThisApartment().mSwitches = switches;
+    ofThisApartment().mFinder = finder;
+    ofThisApartment().releaseService();
+}
+
+bool VBWPROTECTOR::findService() noexcept {
+    {
+        // Looking may run the host's code, which may call the library: nothing of that is reported.
+        const Reporting reporting(*this);
+        try {
+            mErrorParams = mFinder->find();
+        } catch (...) {
+            mErrorParams.reset();
+        }
+    }
+    mServiceIsAbsent = mErrorParams == nullptr && mHostCalls > 0;
+    return mErrorParams != nullptr;
+}
+
+/// One report to the service. It keeps the service alive, since its own call may end the thread's
+/// last object, and a failure is nobody's business but the service's.
+template <class Report>
+void VBWPROTECTOR::forward(Report&& report) noexcept {
+    const std::shared_ptr<ErrorReportService> service = mErrorParams;
+    const Reporting reporting(*this);
+    try {
+        report(*service);
+    } catch (...) {  // NOLINT(bugprone-empty-catch): a failing report is ignored by design
+    }
+}
+
+Text VBWPROTECTOR::parameterList(std::initializer_list<Parameter> parameters) {
+    if (parameters.size() == 0) {
+        return u"()";
+    }
+    Text list;
+    if (mSwitches.vbwTraceParameters) {
+        TextView opening = u"(";
+        for (const Parameter& parameter : parameters) {
+            list.append(opening);
+            opening = u", ";
+            if (hasService()) {
+                forward([&](ErrorReportService& service) {
+                    list.append(service.vbwReportParameter(parameter.name, parameter.value));
+                });
+            }
+        }
+        list.append(u") ");
+    }
+    return list;
+}
+
+void VBWPROTECTOR::reportEntry(TextView procedure, std::initializer_list<Parameter> parameters) noexcept {
+    try {
+        const Text list = parameterList(parameters);
+        if (hasService()) {
+            forward([&](ErrorReportService& service) {
+                service.vbwProcIn(concatenate({kLibraryPrefix, procedure}), list);
+            });
+        }
+    } catch (...) {  // NOLINT(bugprone-empty-catch): no memory is left for the list
+    }
+}
+
+void VBWPROTECTOR::reportExit() noexcept {
+    forward([](ErrorReportService& service) { service.vbwProcOut(); });
+}
+
+void VBWPROTECTOR::vbwReportVariable(TextView name, const TraceValue& value) noexcept {
+    if (hasService()) {
+        forward([&](ErrorReportService& service) { service.vbwReportVariable(name, value, value.typeCode()); });
+    }
+}
+
+void VBWPROTECTOR::vbwReportToFile(TextView text) noexcept {
+    if (hasService()) {
+        forward([&](ErrorReportService& service) { service.vbwReportToFile(text); });
+    }
+}
+
+void VBWPROTECTOR::reportError(const RuntimeError& error, TextView procedure, const Instrumented* failed) noexcept {
+    // A step that fails, or that loses the service, does not keep the next one from being tried.
+    const auto step = [this](auto report) {
+        if (hasService()) {
+            forward(report);
+        }
+    };
+    step([](ErrorReportService& service) { service.vbwBeforeDump(); });
+    step([](ErrorReportService& service) { service.vbwOpenDumpFile(); });
+    step([&](ErrorReportService& service) {
+        service.vbwReportToFile(concatenate({u"Run-time error ", decimal(error.number()), u": ", error.description(),
+                                             u" in ", kLibraryPrefix, procedure, u"\r\n"}));
+    });
+    vbwReportToFile(kBanner);
+    if (failed != nullptr) {
+        try {
+            failed->dumpVariables(*this);
+        } catch (...) {  // NOLINT(bugprone-empty-catch): the dump ends where memory does
+        }
+    }
+    if (mSwitches.vbwTraceVariables) {
+        dumpOwnVariables();
+    }
+    step([&](ErrorReportService& service) {
+        if (error.object()) {
+            service.vbwReportObject(*error.object());
+        }
+    });
+    step([](ErrorReportService& service) { service.vbwCloseDumpFile(); });
+    step([](ErrorReportService& service) { service.vbwAfterDump(); });
+}
+
+void VBWPROTECTOR::dumpOwnVariables() noexcept {
+    vbwReportToFile(kBanner);
+    vbwReportVariable(u"vbwTraceProc", mSwitches.vbwTraceProc);
+    vbwReportVariable(u"vbwTraceParameters", mSwitches.vbwTraceParameters);
+    vbwReportVariable(u"vbwTraceVariables", mSwitches.vbwTraceVariables);
+    vbwReportVariable(u"mErrorParams", mErrorParams);
+}
+
+void VBWPROTECTOR::vbwExitThread() noexcept {
+    if (hasService()) {
+        forward([](ErrorReportService& service) { service.vbwExitThread(true); });
+    }
+    releaseService();
+}
+
+}  // namespace quorvel

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <initializer_list>
+#include <memory>
+
+#include "core/error_report_service.h"
+#include "core/run_time_error.h"
+
+namespace quorvel {
+
+class Instrumented;
+
+/// What is reported to the host's error-report service; see VBWPROTECTOR.
+struct TraceSwitches {
+    /// Entry and exit of procedures. On from start-up.
+    bool vbwTraceProc = true;
+    /// The parameter list on entry.
+    bool vbwTraceParameters = false;
+    /// In the report of an error: after the variables of the object that failed, those of this
+    /// module too.
+    bool vbwTraceVariables = false;
+};
+
+/// Finds the host's error-report service and forwards each report to it: one instance per
+/// apartment. Reporting never fails towards the caller, whatever the service does; and while the
+/// service works on a report, what it calls in the library is not reported (it would never end).
+class VBWPROTECTOR {
+public:
+    /// The instance of the calling thread. Costs a thread-local access: ask once per procedure.
+    static VBWPROTECTOR& ofThisApartment();
+
+    /// Start-up, once per load: the switches that every apartment begins with, and where the service
+    /// is looked for (null: nowhere). The finder must outlive all calls.
+    static void startUp(TraceSwitches switches, ErrorReportServiceFinder* finder);
+
+    TraceSwitches& switches() { return mSwitches; }
+
+    /// Brackets a call from the host. Within the outermost bracket an absent service is looked for
+    /// once; without any bracket, at every report.
+    void beginHostCall() {
+        if (mHostCalls++ == 0) {
+            mServiceIsAbsent = false;
+        }
+    }
+    void endHostCall() { --mHostCalls; }
+
+    void vbwProcIn(TextView procedure, std::initializer_list<Parameter> parameters) {
+        if (mSwitches.vbwTraceProc && hasService()) {
+            reportEntry(procedure, parameters);
+        }
+    }
+    void vbwProcOut() {
+        if (mSwitches.vbwTraceProc && hasService()) {
+            reportExit();
+        }
+    }
+    void vbwReportVariable(TextView name, const TraceValue& value) noexcept;
+    void vbwReportToFile(TextView text) noexcept;
+    /// The trap: reports an error of the procedure with the variables of the object that failed
+    /// (null: a module procedure, which has none).
+    void reportError(const RuntimeError& error, TextView procedure, const Instrumented* failed) noexcept;
+    /// The last object of the thread is going away: tells the service and lets go of it.
+    void vbwExitThread() noexcept;
+    /// Lets go of the service without a word.
+    void releaseService() noexcept { mErrorParams.reset(); }
+
+private:
+    class Reporting;
+
+    VBWPROTECTOR();
+
+    bool hasService() noexcept {
+        if (mErrorParams == nullptr && (mFinder == nullptr || mServiceIsAbsent)) {
+            return false;
+        }
+        return !mIsReporting && (mErrorParams != nullptr || findService());
+    }
+    bool findService() noexcept;
+    void reportEntry(TextView procedure, std::initializer_list<Parameter> parameters) noexcept;
+    void reportExit() noexcept;
+    Text parameterList(std::initializer_list<Parameter> parameters);
+    void dumpOwnVariables() noexcept;
+    template <class Report>
+    void forward(Report&& report) noexcept;
+
+    TraceSwitches mSwitches;
+    ErrorReportServiceFinder* mFinder;
+    std::shared_ptr<ErrorReportService> mErrorParams;
+    int mHostCalls = 0;
+    bool mServiceIsAbsent = false;
+    bool mIsReporting = false;
+};
+
+}  // namespace quorvel

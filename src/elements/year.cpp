@@ -1,0 +1,265 @@
+#include "elements/year.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "core/common_testing_functions.h"
+#include "core/dates.h"
+#include "core/letter_case.h"
+#include "core/procedure.h"
+
+namespace quorvel {
+
+namespace {
+
+constexpr std::size_t kVariants = 6;
+
+// Markers, compared as they stand.
+constexpr TextView kNoDateMarkers[] = {u"n.d.", u"date unknown"};
+constexpr TextView kForthcoming = u"forthcoming";
+constexpr TextView kInPress = u"In press";
+constexpr TextView kForthcomingMarkers[] = {kForthcoming, kInPress};
+constexpr TextView kCircaMarkers[] = {u"c.", u"ca."};
+constexpr TextView kEnDashText(&kEnDash, 1);
+
+// An option that is kept as a text.
+constexpr TextView kTrue = u"True";
+constexpr TextView kFalse = u"False";
+
+template <std::size_t N>
+bool isOneOf(TextView text, const TextView (&markers)[N]) {
+    return std::find(std::begin(markers), std::end(markers), text) != std::end(markers);
+}
+
+bool isDigit(char16_t unit) {
+    return unit >= u'0' && unit <= u'9';
+}
+
+/// A run of digits or a word of a date's text.
+struct DateWord {
+    TextView text;
+    bool isNumber;
+};
+
+std::vector<DateWord> dateWords(TextView text) {
+    std::vector<DateWord> words;
+    for (std::size_t from = 0; from < text.size();) {
+        const bool isNumber = isDigit(text[from]);
+        const auto belongs = [&](char16_t unit) { return isNumber ? isDigit(unit) : isCasedLetter(unit); };
+        const auto end = std::find_if_not(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), belongs);
+        const auto to = static_cast<std::size_t>(end - text.begin());
+        if (to > from) {
+            words.push_back({text.substr(from, to - from), isNumber});
+        }
+        from = std::max(to, from + 1);
+    }
+    return words;
+}
+
+bool isDayOrMonthNumber(TextView digits) {
+    return digits.size() == 1 || (digits.size() == 2 && (digits < u"32"));
+}
+
+/// "March 3" and "10:30" are dates to the platform, which takes the year from today: a reference never
+/// means that. A date names its year when one of its numbers can be nothing else, or when day, month
+/// and year are all there.
+bool namesItsYear(TextView text) {
+    const std::vector<DateWord> words = dateWords(text);
+    const bool hasYearNumber = std::any_of(words.begin(), words.end(), [](const DateWord& word) {
+        return word.isNumber && !isDayOrMonthNumber(word.text);
+    });
+    return hasYearNumber || (words.size() >= 3 && !contains(text, u":"));
+}
+
+/// "1990-12" could be a month: a range of numbers stays a range.
+bool isRangeOfNumbers(TextView text) {
+    const std::size_t dash = text.find(u'-');
+    const auto isNumber = [](TextView part) {
+        const TextView digits = trim(part);
+        return !digits.empty() && std::all_of(digits.begin(), digits.end(), isDigit);
+    };
+    return dash != TextView::npos && isNumber(text.substr(0, dash)) && isNumber(text.substr(dash + 1));
+}
+
+/// The four digits of the year that a date names, or nothing when the text is no date.
+std::optional<Text> yearOfDate(TextView text) {
+    // A number on its own is the commonest year and no date.
+    if (std::all_of(text.begin(), text.end(), isDigit) || isRangeOfNumbers(text) || !namesItsYear(text)) {
+        return std::nullopt;
+    }
+    const std::optional<DateValue> date = dates().parse(text);
+    return date ? std::optional<Text>(dates().format(*date, u"yyyy")) : std::nullopt;
+}
+
+}  // namespace
+
+bool readsAsYear(TextView remainder) {
+    TextView year = trim(remainder);
+    if (!year.empty() && isCasedLetter(year.back())) {
+        year.remove_suffix(1);
+    }
+    year = trim(before(before(year, kEnDashText), u"-"));
+    Text pattern = u"yyyy";
+    return !year.empty() && CommonTestingFunctions::FormatDate(concatenate({u"1 ", year}), pattern) == year;
+}
+
+void OutputTemplateYear::Initialize(const OutputSinkRef& formattedStr) {
+    procedure(*this, u"OutputTemplateYear.Initialize", {{u"formattedStr", formattedStr}}, [&] {
+        mSupportOptions.assign(kVariants, false);
+        mSupportOptions.at(kPlain) = true;
+        mSupportOptions.at(kNoDate) = true;
+    });
+}
+
+void OutputTemplateYear::Reset(bool supportForthcoming, bool supportInPress, bool supportYearGuess, TextView circa,
+                               bool supportYearForSure, TextView noDateString, bool useEnDashForYearRange) {
+    procedure(*this, u"OutputTemplateYear.Reset",
+              {{u"supportForthcoming", supportForthcoming},
+               {u"supportInPress", supportInPress},
+               {u"supportYearGuess", supportYearGuess},
+               {u"circa", circa},
+               {u"supportYearForSure", supportYearForSure},
+               {u"noDateString", noDateString},
+               {u"useEnDashForYearRange", useEnDashForYearRange}},
+              [&] {
+                  mSupportOptions.at(kSupplied) = supportYearForSure;
+                  mSupportOptions.at(kCirca) = !circa.empty();
+                  mSupportOptions.at(kGuessed) = supportYearGuess;
+                  mSupportOptions.at(kNotYetPublished) = supportForthcoming || supportInPress;
+                  mNoDate = noDateString;
+                  mForthcomingStr = supportInPress ? kInPress : kForthcoming;
+                  mCirca = circa;
+                  museEnDashForYearRange = useEnDashForYearRange ? kTrue : kFalse;
+              });
+}
+
+std::shared_ptr<OutputTemplateYear> OutputTemplateYear::Clone() const {
+    return procedure(*this, u"OutputTemplateYear.Clone", kNoParameters, [&] {
+        auto clone = std::make_shared<OutputTemplateYear>();
+        CloneImpl(*clone);
+        return clone;
+    });
+}
+
+void OutputTemplateYear::CloneImpl(OutputTemplateYear& clone) const {
+    procedure(*this, u"OutputTemplateYear.CloneImpl", kNoParameters, [&] {
+        clone.Initialize(nullptr);
+        // Without mForthcomingStr and museEnDashForYearRange, deliberately.
+        clone.mNoDate = mNoDate;
+        clone.mCirca = mCirca;
+        clone.mSupportOptions = mSupportOptions;
+        clone.Year = Year;
+        clone.yearType = yearType;
+    });
+}
+
+void OutputTemplateYear::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
+                                           bool shortenedVersion) const {
+    procedure(*this, u"OutputTemplateYear.ToFormattedString",
+              {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
+              [&] { object(formattedStr).Add(toString(isFootnote, shortenedVersion), OutputSink::kPlain); });
+}
+
+Text OutputTemplateYear::toString(bool isFootnote, bool shortenedVersion) const {
+    return procedure(*this, u"OutputTemplateYear.toString",
+                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
+                         Text result;
+                         switch (yearType) {
+                             case kNoDate: result = mNoDate; break;
+                             case kGuessed: result = concatenate({u"[", Year, u"?]"}); break;
+                             case kCirca: result = concatenate({u"[", mCirca, u" ", Year, u"]"}); break;
+                             case kSupplied: result = concatenate({u"[", Year, u"]"}); break;
+                             case kNotYetPublished: result = mForthcomingStr; break;
+                             default: result = Year; break;
+                         }
+                         if (museEnDashForYearRange == kTrue) {
+                             std::replace(result.begin(), result.end(), u'-', kEnDash);
+                         }
+                         return result;
+                     });
+}
+
+Text OutputTemplateYear::formatStr(TextView text) {
+    return procedure(*this, u"OutputTemplateYear.formatStr", {{u"text", text}}, [&] {
+        Text parsed(text);
+        Parse(parsed, {});
+        return toString(false, false);
+    });
+}
+
+bool OutputTemplateYear::Supports(std::int32_t code) const {
+    return procedure(*this, u"OutputTemplateYear.Supports[Get]", {{u"code", code}},
+                     [&]() -> bool { return mSupportOptions.at(static_cast<std::size_t>(code)); });
+}
+
+void OutputTemplateYear::Parse(Text& text, TextView previousStr) {
+    procedure(*this, u"OutputTemplateYear.Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
+        text = cleanUp(text);
+        parseAndRemoveYearType(text);
+        if (std::optional<Text> year = yearOfDate(text)) {
+            Year = std::move(*year);
+        } else {
+            Year = replaceAll(text, kEnDashText, u"-");
+        }
+    });
+}
+
+void OutputTemplateYear::parseAndRemoveYearType(Text& text) {
+    procedure(*this, u"OutputTemplateYear.parseAndRemoveYearType", {{u"text", text}}, [&] {
+        if (isOneOf(text, kNoDateMarkers)) {
+            yearType = kNoDate;
+            text.clear();
+            return;
+        }
+        removeSuffix(text, u".");
+        if (isOneOf(text, kForthcomingMarkers)) {
+            yearType = kNotYetPublished;
+            text.clear();
+            return;
+        }
+        yearType = kPlain;
+        if (removePrefix(text, u"[")) {
+            removeSuffix(text, u".");
+            bool isCirca = false;
+            for (const TextView marker : kCircaMarkers) {
+                isCirca = removePrefix(text, marker) || isCirca;
+            }
+            if (isCirca) {
+                yearType = kCirca;
+                removeSuffix(text, u"]");
+            } else if (removeSuffix(text, u"?]")) {
+                yearType = kGuessed;
+            } else {
+                yearType = kSupplied;
+                removeSuffix(text, u"]");
+            }
+        }
+    });
+}
+
+bool OutputTemplateYear::isYear(TextView text) {
+    return procedure(*this, u"OutputTemplateYear.isYear", {{u"text", text}}, [&] {
+        Text remainder(trim(text));
+        if (remainder.empty()) {
+            return false;
+        }
+        const std::int32_t savedType = yearType;
+        const Text savedYear = Year;
+        Parse(remainder, {});
+        yearType = savedType;
+        Year = savedYear;
+        return readsAsYear(remainder);
+    });
+}
+
+void OutputTemplateYear::dumpVariables(VBWPROTECTOR& report) const {
+    report.vbwReportVariable(u"yearType", yearType);
+    report.vbwReportVariable(u"Year", Year);
+    report.vbwReportVariable(u"mSupportOptions", mSupportOptions);
+    report.vbwReportVariable(u"mNoDate", mNoDate);
+    report.vbwReportVariable(u"mCirca", mCirca);
+    report.vbwReportVariable(u"mForthcomingStr", mForthcomingStr);
+    report.vbwReportVariable(u"museEnDashForYearRange", museEnDashForYearRange);
+}
+
+}  // namespace quorvel
