@@ -1,3 +1,4 @@
 set(MINGW_TRIPLE x86_64-w64-mingw32)
 set(MINGW_WIDL_FLAG -m64)
+set(MINGW_PROCESSOR amd64)
 include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)

@@ -1,3 +1,4 @@
 set(MINGW_TRIPLE i686-w64-mingw32)
 set(MINGW_WIDL_FLAG -m32)
+set(MINGW_PROCESSOR x86)
 include(${CMAKE_CURRENT_LIST_DIR}/mingw.cmake)

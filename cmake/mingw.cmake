@@ -5,7 +5,7 @@ set(CMAKE_RC_COMPILER ${MINGW_TRIPLE}-windres)
 set(MINGW_WIDL ${MINGW_TRIPLE}-widl)
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 
-add_compile_definitions(_WIN32_WINNT=0x0601 UNICODE _UNICODE)
+add_compile_definitions(_WIN32_WINNT=0x0601 UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX)
 # Nothing but system DLLs is needed where the library is installed.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)

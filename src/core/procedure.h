@@ -32,7 +32,7 @@ private:
 };
 
 template <class Body>
-std::invoke_result_t<Body&> procedure(const Instrumented* self, TextView name,
+std::invoke_result_t<Body&> procedure(const Instrumented* self, const Name& name,
                                       std::initializer_list<Parameter> parameters, Body&& body) noexcept {
     using Result = std::invoke_result_t<Body&>;
     VBWPROTECTOR& protector = VBWPROTECTOR::ofThisApartment();
@@ -52,14 +52,14 @@ std::invoke_result_t<Body&> procedure(const Instrumented* self, TextView name,
 /// @return what the body returns; after an error the empty value of that type, while variables that
 /// the body filled before keep what they hold.
 template <class Body>
-std::invoke_result_t<Body&> procedure(const Instrumented& self, TextView name,
+std::invoke_result_t<Body&> procedure(const Instrumented& self, const Name& name,
                                       std::initializer_list<Parameter> parameters, Body&& body) noexcept {
     return detail::procedure(&self, name, parameters, body);
 }
 
 /// The same for a procedure of a module, whose name stands in the place of the class name.
 template <class Body>
-std::invoke_result_t<Body&> moduleProcedure(TextView name, std::initializer_list<Parameter> parameters,
+std::invoke_result_t<Body&> moduleProcedure(const Name& name, std::initializer_list<Parameter> parameters,
                                             Body&& body) noexcept {
     return detail::procedure(nullptr, name, parameters, body);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <variant>
@@ -46,9 +47,22 @@ private:
     Storage mStorage;
 };
 
+/// The name of a procedure or parameter. Most are literals, whose length is then no work at run time.
+class Name {
+public:
+    template <std::size_t N>
+    consteval Name(const char16_t (&literal)[N]) : mText(literal, N - 1) {}
+    explicit Name(TextView text) : mText(text) {}
+
+    operator TextView() const { return mText; }
+
+private:
+    TextView mText;
+};
+
 /// A parameter of a procedure under its declared name.
 struct Parameter {
-    TextView name;
+    Name name;
     TraceValue value;
 };
 

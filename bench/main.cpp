@@ -1,0 +1,28 @@
+// Runs the benchmarks and prints one plain line for each: name, value, unit.
+
+#include <benchmark/benchmark.h>
+
+#include <cstdio>
+
+namespace {
+
+class PlainReporter final : public benchmark::BenchmarkReporter {
+public:
+    bool ReportContext(const Context& /*context*/) override { return true; }
+    void ReportRuns(const std::vector<Run>& runs) override {
+        for (const Run& run : runs) {
+            std::printf("%s %.4g %s\n", run.benchmark_name().c_str(), run.GetAdjustedCPUTime(),
+                        benchmark::GetTimeUnitString(run.time_unit));
+            std::fflush(stdout);
+        }
+    }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    PlainReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    return 0;
+}

@@ -1,0 +1,157 @@
+#include "host/com/arrays.h"
+
+#include <algorithm>
+#include <string>
+
+#include "core/run_time_error.h"
+#include "host/com/automation_error.h"
+#include "host/com/late_bound_object.h"
+
+namespace quorvel::host {
+
+namespace {
+
+void check(HRESULT outcome) {
+    if (FAILED(outcome)) {
+        throw RuntimeError(errorNumberOf(outcome));
+    }
+}
+
+SAFEARRAY* safeArrayOf(const VARIANT& value) {
+    if ((value.vt & VT_ARRAY) == 0) {
+        return nullptr;
+    }
+    return (value.vt & VT_BYREF) != 0 ? *value.pparray : value.parray;
+}
+
+/// The object behind a value that may be a script's array.
+IDispatch* objectOf(const VARIANT& value) {
+    if (value.vt == VT_DISPATCH) {
+        return value.pdispVal;
+    }
+    return value.vt == (VT_BYREF | VT_DISPATCH) ? *value.ppdispVal : nullptr;
+}
+
+/// An element of a safe array in a variant and back.
+class ElementType {
+public:
+    explicit ElementType(SAFEARRAY* array) : mArray(array) { check(SafeArrayGetVartype(array, &mType)); }
+
+    Variant get(LONG index) const {
+        Variant value;
+        if (mType == VT_VARIANT) {
+            check(SafeArrayGetElement(mArray, &index, &value));
+        } else {
+            check(SafeArrayGetElement(mArray, &index, &value.llVal));
+            value.vt = mType;
+        }
+        return value;
+    }
+    void put(LONG index, const Variant& value) const {
+        if (mType == VT_VARIANT) {
+            check(SafeArrayPutElement(mArray, &index, const_cast<Variant*>(&value)));
+            return;
+        }
+        Variant converted;
+        check(convert(value, mType, converted));
+        // Strings and objects are passed themselves, everything else by its place.
+        const bool isPointer = mType == VT_BSTR || mType == VT_DISPATCH || mType == VT_UNKNOWN;
+        check(SafeArrayPutElement(mArray, &index, isPointer ? converted.byref : &converted.llVal));
+    }
+
+private:
+    SAFEARRAY* mArray;
+    VARTYPE mType = VT_EMPTY;
+};
+
+struct Bounds {
+    LONG lower = 0;
+    LONG upper = -1;
+};
+
+Bounds boundsOf(SAFEARRAY* array) {
+    Bounds bounds;
+    if (array != nullptr) {
+        if (SafeArrayGetDim(array) != 1) {
+            throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+        }
+        check(SafeArrayGetLBound(array, 1, &bounds.lower));
+        check(SafeArrayGetUBound(array, 1, &bounds.upper));
+    }
+    return bounds;
+}
+
+}  // namespace
+
+Variant arrayOfVariants(std::vector<Variant> values) {
+    SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(values.size()));
+    if (array == nullptr) {
+        throw std::bad_alloc();
+    }
+    Variant result;
+    result.vt = VT_ARRAY | VT_VARIANT;
+    result.parray = array;
+    VARIANT* elements = nullptr;
+    check(SafeArrayAccessData(array, reinterpret_cast<void**>(&elements)));
+    std::transform(values.begin(), values.end(), elements, [](Variant& value) { return value.detach(); });
+    check(SafeArrayUnaccessData(array));
+    return result;
+}
+
+Variant arrayOfTexts(const std::vector<Text>& values) {
+    std::vector<Variant> variants;
+    variants.reserve(values.size());
+    for (const Text& value : values) {
+        variants.emplace_back(TextView(value));
+    }
+    return arrayOfVariants(std::move(variants));
+}
+
+std::vector<Variant> elementsOf(const VARIANT& array) {
+    const VARIANT& direct = dereferenced(array);
+    std::vector<Variant> elements;
+    if (direct.vt == VT_EMPTY || direct.vt == VT_NULL || direct.vt == VT_ERROR) {
+        return elements;
+    }
+    if (IDispatch* script = objectOf(direct)) {
+        const LateBoundObject object(script);
+        Variant length;
+        check(convert(object.get(L"length"), VT_I4, length));
+        for (LONG i = 0; i < length.lVal; ++i) {
+            elements.push_back(object.get(std::to_wstring(i).c_str()));
+        }
+        return elements;
+    }
+    SAFEARRAY* values = safeArrayOf(direct);
+    if (values == nullptr && (direct.vt & VT_ARRAY) == 0) {
+        throw RuntimeError(ErrorNumber::TypeMismatch);
+    }
+    const Bounds bounds = boundsOf(values);
+    for (LONG i = bounds.lower; i <= bounds.upper; ++i) {
+        elements.push_back(ElementType(values).get(i));
+    }
+    return elements;
+}
+
+void assignElements(VARIANT& array, const std::vector<Variant>& values) {
+    auto& direct = const_cast<VARIANT&>(dereferenced(array));
+    if (IDispatch* script = objectOf(direct)) {
+        const LateBoundObject object(script);
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            Variant copy;
+            check(VariantCopy(&copy, const_cast<Variant*>(&values[i])));
+            object.put(std::to_wstring(i).c_str(), std::move(copy));
+        }
+        return;
+    }
+    SAFEARRAY* target = safeArrayOf(direct);
+    if (target == nullptr) {
+        throw RuntimeError((direct.vt & VT_ARRAY) != 0 ? ErrorNumber::SubscriptOutOfRange : ErrorNumber::TypeMismatch);
+    }
+    const LONG lower = boundsOf(target).lower;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        ElementType(target).put(lower + static_cast<LONG>(i), values[i]);
+    }
+}
+
+}  // namespace quorvel::host

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "host/com/automation.h"
+
+#include <vector>
+
+#include "core/output_sink.h"
+#include "core/text.h"
+#include "host/com/variant.h"
+
+namespace quorvel::host {
+
+/// An array as every client reads it: of variants, from index 0.
+Variant arrayOfTexts(const std::vector<Text>& values);
+Variant arrayOfVariants(std::vector<Variant> values);
+
+/// The elements of an array that a caller passed: of any type, with any lower bound, by value or by
+/// reference, or a script's array object. Nothing for a missing argument; error 13 for what is no array.
+std::vector<Variant> elementsOf(const VARIANT& array);
+
+/// Gives a caller's array, passed by reference, new elements. Its size and element type stay; an element
+/// beyond its end is error 9.
+void assignElements(VARIANT& array, const std::vector<Variant>& values);
+
+}  // namespace quorvel::host

@@ -1,0 +1,66 @@
+#include "host/com/class_factory.h"
+
+#include "host/com/automation.h"
+
+#include "host/com/module.h"
+
+namespace quorvel::host {
+
+ClassFactory::ClassFactory(Create create) : mCreate(create) {
+    Module::addReference();
+}
+
+ClassFactory::~ClassFactory() {
+    Module::releaseReference();
+}
+
+STDMETHODIMP ClassFactory::QueryInterface(REFIID iid, void** object) {
+    if (object == nullptr) {
+        return E_POINTER;
+    }
+    const bool isOurs = iid == IID_IUnknown || iid == IID_IClassFactory;
+    *object = isOurs ? this : nullptr;
+    if (!isOurs) {
+        return E_NOINTERFACE;
+    }
+    AddRef();
+    return S_OK;
+}
+
+STDMETHODIMP_(ULONG) ClassFactory::AddRef() {
+    return ++mReferences;
+}
+
+STDMETHODIMP_(ULONG) ClassFactory::Release() {
+    const ULONG left = --mReferences;
+    if (left == 0) {
+        delete this;
+    }
+    return left;
+}
+
+STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object) {
+    if (object == nullptr) {
+        return E_POINTER;
+    }
+    *object = nullptr;
+    if (outer != nullptr) {
+        return CLASS_E_NOAGGREGATION;
+    }
+    try {
+        return mCreate()->QueryInterface(iid, object);
+    } catch (...) {
+        return E_OUTOFMEMORY;
+    }
+}
+
+STDMETHODIMP ClassFactory::LockServer(BOOL lock) {
+    if (lock != FALSE) {
+        Module::addReference();
+    } else {
+        Module::releaseReference();
+    }
+    return S_OK;
+}
+
+}  // namespace quorvel::host

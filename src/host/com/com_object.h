@@ -1,0 +1,196 @@
+#pragma once
+
+#include "host/com/automation.h"
+
+#include <atomic>
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+#include "core/vbwprotector.h"
+#include "host/com/arrays.h"
+#include "host/com/com_ptr.h"
+#include "host/com/dispatch_table.h"
+#include "host/com/module.h"
+#include "host/com/variant.h"
+
+namespace quorvel::host {
+
+/// Brackets one call from the host: the object stays alive however the host's answers to our own calls
+/// come out, and an absent error-report service is looked for once.
+class HostCall {
+public:
+    explicit HostCall(IUnknown* object) : mKeepAlive(object), mProtector(VBWPROTECTOR::ofThisApartment()) {
+        mProtector.beginHostCall();
+    }
+    HostCall(const HostCall&) = delete;
+    HostCall& operator=(const HostCall&) = delete;
+    ~HostCall() { mProtector.endHostCall(); }
+
+private:
+    ComPtr<IUnknown> mKeepAlive;
+    VBWPROTECTOR& mProtector;
+};
+
+// Results on their way out.
+
+inline void store(BSTR* target, const Text& value) {
+    *target = newBstr(value);
+}
+inline void store(VARIANT_BOOL* target, bool value) {
+    *target = asVariantBool(value);
+}
+inline void store(LONG* target, std::int32_t value) {
+    *target = value;
+}
+inline void store(IDispatch** target, ComPtr<IDispatch> value) {
+    *target = value.detach();
+}
+inline void store(VARIANT* target, const std::vector<Text>& value) {
+    *target = arrayOfTexts(value).detach();
+}
+
+/// A text that a member changes in place: read on creation, written back at the end.
+class InOutText {
+public:
+    explicit InOutText(BSTR* text) : mTarget(text), mValue(text != nullptr ? view(*text) : TextView()) {}
+    InOutText(const InOutText&) = delete;
+    InOutText& operator=(const InOutText&) = delete;
+    ~InOutText() {
+        if (mTarget != nullptr && mValue != view(*mTarget)) {
+            // Without memory for the new text the caller keeps the old one.
+            BSTR changed = SysAllocStringLen(nullptr, static_cast<UINT>(mValue.size()));
+            if (changed != nullptr) {
+                std::copy(mValue.begin(), mValue.end(), changed);
+                SysFreeString(*mTarget);
+                *mTarget = changed;
+            }
+        }
+    }
+    operator Text&() { return mValue; }
+
+private:
+    BSTR* mTarget;
+    Text mValue;
+};
+
+/// One of the library's objects as the host sees it. An adapter derives from it with its generated
+/// interface and forwards each member in one line through `call`; late binding comes from the type
+/// library. No member returns anything but S_OK.
+template <class Interface>
+class ComObject : public Interface {
+public:
+    ComObject(const ComObject&) = delete;
+    ComObject& operator=(const ComObject&) = delete;
+
+    STDMETHODIMP QueryInterface(REFIID iid, void** object) override {
+        if (object == nullptr) {
+            return E_POINTER;
+        }
+        const bool isOurs = iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(Interface);
+        *object = isOurs ? static_cast<Interface*>(this) : nullptr;
+        if (!isOurs) {
+            return E_NOINTERFACE;
+        }
+        AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return ++mReferences; }
+    STDMETHODIMP_(ULONG) Release() override {
+        const ULONG left = --mReferences;
+        if (left == 0) {
+            // The end of an object may call the host, which may take a reference for that time.
+            mReferences = 1;
+            delete this;
+        }
+        return left;
+    }
+
+    STDMETHODIMP GetTypeInfoCount(UINT* count) override {
+        if (count == nullptr) {
+            return E_POINTER;
+        }
+        *count = mTable ? 1 : 0;
+        return S_OK;
+    }
+    STDMETHODIMP GetTypeInfo(UINT index, LCID /*locale*/, ITypeInfo** info) override {
+        if (info == nullptr) {
+            return E_POINTER;
+        }
+        *info = nullptr;
+        if (index != 0 || !mTable) {
+            return DISP_E_BADINDEX;
+        }
+        *info = mTable->typeInfo();
+        (*info)->AddRef();
+        return S_OK;
+    }
+    STDMETHODIMP GetIDsOfNames(REFIID /*iid*/, LPOLESTR* names, UINT count, LCID /*locale*/, DISPID* ids) override {
+        if (names == nullptr || ids == nullptr) {
+            return E_POINTER;
+        }
+        return mTable ? mTable->typeInfo()->GetIDsOfNames(names, count, ids) : DISP_E_UNKNOWNNAME;
+    }
+    STDMETHODIMP Invoke(DISPID id, REFIID /*iid*/, LCID /*locale*/, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                        EXCEPINFO* /*exception*/, UINT* /*badArgument*/) override {
+        if (result != nullptr) {
+            VariantInit(result);
+        }
+        if (!mTable || parameters == nullptr) {
+            return DISP_E_MEMBERNOTFOUND;
+        }
+        const HostCall bracket(this);
+        try {
+            return mTable->invoke(this, id, flags, *parameters, result);
+        } catch (...) {
+            return S_OK;  // Only memory can run out here; the result stays empty.
+        }
+    }
+
+protected:
+    ComObject() : mTable(DispatchTable::of(__uuidof(Interface))) { Module::objectBegins(); }
+    virtual ~ComObject() { Module::objectEnds(); }
+
+    /// The body of a member without result.
+    template <class Body>
+    HRESULT call(Body&& body) noexcept {
+        const HostCall bracket(this);
+        try {
+            body();
+        } catch (...) {  // NOLINT(bugprone-empty-catch): procedures trap their errors; only memory can run out here
+        }
+        return S_OK;
+    }
+
+    /// The body of a member with a result, which is the empty value when the body has none to give.
+    template <class Result, class Body>
+    HRESULT call(Result* result, Body&& body) noexcept {
+        if (result != nullptr) {
+            *result = Result();
+        }
+        return call([&] {
+            auto value = body();
+            if (result != nullptr) {
+                store(result, std::move(value));
+            }
+        });
+    }
+
+private:
+    std::shared_ptr<const DispatchTable> mTable;
+    std::atomic<ULONG> mReferences = 0;
+};
+
+/// A new object of ours.
+template <class Adapter>
+ComPtr<IDispatch> make() {
+    return ComPtr<IDispatch>(new Adapter());
+}
+
+/// The adapter of an element that a member made; empty when it made none.
+template <class Adapter, class Element>
+ComPtr<IDispatch> adapterOf(std::shared_ptr<Element> element) {
+    return ComPtr<IDispatch>(element != nullptr ? new Adapter(std::move(element)) : nullptr);
+}
+
+}  // namespace quorvel::host

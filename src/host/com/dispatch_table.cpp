@@ -1,0 +1,372 @@
+#include "host/com/dispatch_table.h"
+
+#include <algorithm>
+#include <map>
+#include <mutex>
+
+#include "core/procedure.h"
+#include "host/com/automation_error.h"
+#include "host/com/module.h"
+
+namespace quorvel::host {
+
+namespace {
+
+struct IidOrder {
+    bool operator()(const IID& left, const IID& right) const { return memcmp(&left, &right, sizeof(IID)) < 0; }
+};
+
+struct Tables {
+    std::mutex mutex;
+    std::map<IID, std::shared_ptr<const DispatchTable>, IidOrder> byInterface;
+};
+
+Tables& tables() {
+    static Tables instance;
+    return instance;
+}
+
+/// The type that a value travels in, without the pointers around it.
+VARTYPE valueType(const TYPEDESC& description) {
+    const TYPEDESC* type = &description;
+    while (type->vt == VT_PTR) {
+        type = type->lptdesc;
+    }
+    // The only types of the library's interfaces that have a description of their own are objects.
+    return type->vt == VT_USERDEFINED ? static_cast<VARTYPE>(VT_DISPATCH) : type->vt;
+}
+
+bool isPointerTo(const TYPEDESC& description) {
+    if (description.vt != VT_PTR) {
+        return false;
+    }
+    // A pointer to an interface is the object itself.
+    const TYPEDESC& target = *description.lptdesc;
+    return target.vt != VT_USERDEFINED;
+}
+
+/// "OutputTemplateYear.Supports[Get]" for the property Supports of _OutputTemplateYear.
+Text procedureName(ITypeInfo* info, const FUNCDESC& function) {
+    BSTR interfaceName = nullptr;
+    BSTR memberName = nullptr;
+    info->GetDocumentation(MEMBERID_NIL, &interfaceName, nullptr, nullptr, nullptr);
+    info->GetDocumentation(function.memid, &memberName, nullptr, nullptr, nullptr);
+    TextView className = view(interfaceName);
+    className.remove_prefix(className.starts_with(u'_') ? 1 : 0);
+    const TextView suffix = function.invkind == INVOKE_PROPERTYGET   ? TextView(u"[Get]")
+                            : function.invkind == INVOKE_PROPERTYPUT ? TextView(u"[Let]")
+                                                                     : TextView();
+    Text name = concatenate({className, u".", view(memberName), suffix});
+    SysFreeString(interfaceName);
+    SysFreeString(memberName);
+    return name;
+}
+
+ComPtr<ITypeInfo> typeInfoOf(REFIID iid) {
+    ComPtr<ITypeLib> library;
+    ComPtr<ITypeInfo> info;
+    const Text path = Module::path();
+    const std::wstring widePath(path.begin(), path.end());
+    if (SUCCEEDED(LoadTypeLibEx(widePath.c_str(), REGKIND_NONE, library.receive()))) {
+        library->GetTypeInfoOfGuid(iid, info.receive());
+    }
+    return info;
+}
+
+/// The description of a dual interface as its vtable has it, with results as last parameters.
+ComPtr<ITypeInfo> vtableInfoOf(ITypeInfo* dispatchInfo) {
+    constexpr UINT kOtherFace = static_cast<UINT>(-1);
+    HREFTYPE reference = 0;
+    ComPtr<ITypeInfo> info;
+    if (SUCCEEDED(dispatchInfo->GetRefTypeOfImplType(kOtherFace, &reference))) {
+        dispatchInfo->GetRefTypeInfo(reference, info.receive());
+    }
+    return info;
+}
+
+void copyDefault(const PARAMDESC& description, Variant& defaultValue) {
+    if ((description.wParamFlags & PARAMFLAG_FHASDEFAULT) != 0 && description.pparamdescex != nullptr) {
+        VariantCopy(&defaultValue, &description.pparamdescex->varDefaultValue);
+    }
+}
+
+bool isMissing(const VARIANT& value) {
+    return value.vt == VT_EMPTY || value.vt == VT_NULL || (value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND);
+}
+
+/// The empty value of a type: False, 0, "", Nothing.
+void makeEmpty(VARTYPE type, Variant& value) {
+    value = Variant();
+    value.vt = type;
+    value.llVal = 0;
+    if (type == VT_VARIANT) {
+        value.vt = VT_ERROR;
+        value.scode = DISP_E_PARAMNOTFOUND;
+    }
+}
+
+/// One argument in its declared type; DISP_E_TYPEMISMATCH and its like when it has no such value.
+HRESULT bring(const VARIANT& argument, VARTYPE type, Variant& value) {
+    const VARIANT& direct = dereferenced(argument);
+    if (type == VT_VARIANT) {
+        // The adapter sees what the caller has, arrays by reference included.
+        value = Variant();
+        static_cast<VARIANT&>(value) = direct;
+        if ((direct.vt & VT_BYREF) == 0) {
+            value.vt = VT_EMPTY;
+            return VariantCopy(&value, const_cast<VARIANT*>(&direct));
+        }
+        return S_OK;
+    }
+    if (type == VT_DISPATCH && direct.vt == VT_UNKNOWN) {
+        Variant object(static_cast<IDispatch*>(nullptr));
+        object.pdispVal = queryFor<IDispatch>(direct.punkVal, IID_IDispatch).detach();
+        const bool isLost = object.pdispVal == nullptr && direct.punkVal != nullptr;
+        value = std::move(object);
+        return isLost ? DISP_E_TYPEMISMATCH : S_OK;
+    }
+    return convert(direct, type, value);
+}
+
+}  // namespace
+
+/// One late-bound call: the arguments in their declared types, and the way back for those that the
+/// caller passed by reference.
+class DispatchTable::Call {
+public:
+    Call(const Member& member, const DISPPARAMS& parameters)
+        : mMember(member), mSources(member.parameters.size()), mValues(member.parameters.size()) {
+        assignSources(parameters);
+    }
+
+    HRESULT bringArguments() {
+        for (std::size_t i = 0; i < mValues.size(); ++i) {
+            const Parameter& declared = mMember.parameters[i];
+            Variant missing;
+            const VARIANT& source = mSources[i] != nullptr ? dereferenced(*mSources[i]) : missing;
+            HRESULT outcome = S_OK;
+            if (!isMissing(source)) {
+                outcome = bring(source, declared.type, mValues[i]);
+            } else if (mSources[i] == nullptr && declared.defaultValue.vt != VT_EMPTY) {
+                outcome = convert(declared.defaultValue, declared.type, mValues[i]);
+            } else {
+                makeEmpty(declared.type, mValues[i]);
+            }
+            if (FAILED(outcome)) {
+                return outcome;
+            }
+        }
+        return S_OK;
+    }
+
+    HRESULT run(IDispatch* object, Variant& result) {
+        const bool hasResult = mMember.resultType != VT_VOID;
+        const std::size_t count = mValues.size() + (hasResult ? 1 : 0);
+        std::vector<VARIANTARG> arguments(count);
+        std::vector<VARIANTARG*> pointers(count);
+        std::vector<VARTYPE> types(count);
+        const auto pass = [&](std::size_t i, VARIANT& value, VARTYPE type, bool isByReference) {
+            if (isByReference) {
+                arguments[i].vt = static_cast<VARTYPE>(VT_BYREF | type);
+                arguments[i].byref = type == VT_VARIANT ? static_cast<void*>(&value) : static_cast<void*>(&value.llVal);
+            } else {
+                arguments[i] = value;
+            }
+            types[i] = isByReference ? arguments[i].vt : type;
+            pointers[i] = &arguments[i];
+        };
+        for (std::size_t i = 0; i < mValues.size(); ++i) {
+            pass(i, mValues[i], mMember.parameters[i].type, mMember.parameters[i].isByReference);
+        }
+        if (hasResult) {
+            makeEmpty(mMember.resultType, result);
+            if (mMember.resultType == VT_VARIANT) {
+                result = Variant();
+            }
+            pass(count - 1, result, mMember.resultType, true);
+        }
+        Variant returned;
+        const HRESULT outcome = DispCallFunc(object, static_cast<ULONG_PTR>(mMember.vtableOffset), CC_STDCALL, VT_ERROR,
+                                             static_cast<UINT>(count), types.data(), pointers.data(), &returned);
+        return FAILED(outcome) ? outcome : returned.scode;
+    }
+
+    /// Gives the caller's variables what the member left in its arguments.
+    void writeBack() {
+        for (std::size_t i = 0; i < mValues.size(); ++i) {
+            if (mMember.parameters[i].isByReference && mSources[i] != nullptr) {
+                writeBack(*mSources[i], mMember.parameters[i].type, mValues[i]);
+            }
+        }
+    }
+
+private:
+    void assignSources(const DISPPARAMS& parameters) {
+        // Named arguments stand first; the others follow from the last to the first.
+        for (UINT i = 0; i < parameters.cNamedArgs && i < parameters.cArgs; ++i) {
+            const DISPID position = parameters.rgdispidNamedArgs[i];
+            const auto last = static_cast<DISPID>(mSources.size()) - 1;
+            const DISPID target = position == DISPID_PROPERTYPUT ? last : position;
+            if (target >= 0 && target <= last) {
+                mSources[static_cast<std::size_t>(target)] = &parameters.rgvarg[i];
+            }
+        }
+        std::size_t next = 0;
+        for (UINT i = parameters.cArgs; i-- > parameters.cNamedArgs && next < mSources.size();) {
+            mSources[next++] = &parameters.rgvarg[i];
+        }
+    }
+
+    static void writeBack(VARIANTARG& argument, VARTYPE type, Variant& value) {
+        const VARIANT& target = dereferenced(argument);
+        if (&target != &argument && (target.vt & VT_BYREF) == 0) {
+            auto& variable = const_cast<VARIANT&>(target);
+            if (type != VT_VARIANT || (value.vt & VT_BYREF) == 0) {
+                VariantClear(&variable);
+                variable = value.detach();
+            }
+            return;
+        }
+        if (type == VT_VARIANT || (target.vt & VT_BYREF) == 0) {
+            return;
+        }
+        const auto wanted = static_cast<VARTYPE>(target.vt & ~VT_BYREF);
+        Variant converted;
+        if (FAILED(convert(value, wanted, converted))) {
+            return;
+        }
+        switch (wanted) {
+            case VT_BSTR:
+                SysFreeString(*target.pbstrVal);
+                *target.pbstrVal = converted.bstrVal;
+                break;
+            case VT_DISPATCH:
+                if (*target.ppdispVal != nullptr) {
+                    (*target.ppdispVal)->Release();
+                }
+                *target.ppdispVal = converted.pdispVal;
+                break;
+            case VT_I2:
+            case VT_BOOL: *target.piVal = converted.iVal; break;
+            case VT_I4:
+            case VT_INT: *target.plVal = converted.lVal; break;
+            case VT_R8: *target.pdblVal = converted.dblVal; break;
+            default: return;
+        }
+        converted.detach();
+    }
+
+    const Member& mMember;
+    std::vector<VARIANTARG*> mSources;
+    std::vector<Variant> mValues;
+};
+
+DispatchTable::DispatchTable(ComPtr<ITypeInfo> dispatchInfo) : mDispatchInfo(std::move(dispatchInfo)) {}
+
+std::shared_ptr<const DispatchTable> DispatchTable::of(REFIID iid) {
+    Tables& all = tables();
+    const std::scoped_lock lock(all.mutex);
+    std::shared_ptr<const DispatchTable>& table = all.byInterface[iid];
+    if (!table) {
+        table = read(iid);
+    }
+    return table;
+}
+
+void DispatchTable::releaseAll() {
+    const std::scoped_lock lock(tables().mutex);
+    tables().byInterface.clear();
+}
+
+std::shared_ptr<const DispatchTable> DispatchTable::read(REFIID iid) {
+    ComPtr<ITypeInfo> info = typeInfoOf(iid);
+    if (!info) {
+        return nullptr;
+    }
+    const std::shared_ptr<DispatchTable> table(new DispatchTable(std::move(info)));
+    return table->readMembers() ? table : nullptr;
+}
+
+bool DispatchTable::readMembers() {
+    const ComPtr<ITypeInfo> info = vtableInfoOf(mDispatchInfo.get());
+    TYPEATTR* attributes = nullptr;
+    if (!info || FAILED(info->GetTypeAttr(&attributes))) {
+        return false;
+    }
+    const UINT count = attributes->cFuncs;
+    info->ReleaseTypeAttr(attributes);
+    for (UINT i = 0; i < count; ++i) {
+        FUNCDESC* function = nullptr;
+        if (FAILED(info->GetFuncDesc(i, &function))) {
+            return false;
+        }
+        Member member;
+        member.id = function->memid;
+        member.kind = function->invkind;
+        member.procedure = procedureName(info.get(), *function);
+        member.vtableOffset = static_cast<std::size_t>(function->oVft);
+        for (SHORT p = 0; p < function->cParams; ++p) {
+            const ELEMDESC& element = function->lprgelemdescParam[p];
+            if ((element.paramdesc.wParamFlags & PARAMFLAG_FRETVAL) != 0) {
+                member.resultType = valueType(element.tdesc);
+                continue;
+            }
+            Parameter parameter;
+            parameter.type = valueType(element.tdesc);
+            parameter.isByReference = isPointerTo(element.tdesc);
+            copyDefault(element.paramdesc, parameter.defaultValue);
+            member.parameters.push_back(std::move(parameter));
+        }
+        info->ReleaseFuncDesc(function);
+        mMembers.push_back(std::move(member));
+    }
+    return true;
+}
+
+const DispatchTable::Member* DispatchTable::find(DISPID id, WORD flags) const {
+    if ((flags & DISPATCH_PROPERTYPUTREF) != 0) {
+        flags |= DISPATCH_PROPERTYPUT;
+    }
+    // A script calls a property with arguments as if it were a method, and reads a method as if it were
+    // a property.
+    if ((flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET)) != 0) {
+        flags |= DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+    }
+    const auto member = std::find_if(mMembers.begin(), mMembers.end(), [&](const Member& candidate) {
+        return candidate.id == id && (candidate.kind & flags) != 0;
+    });
+    return member != mMembers.end() ? &*member : nullptr;
+}
+
+HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DISPPARAMS& parameters,
+                              VARIANT* result) const {
+    const Member* member = find(id, flags);
+    if (member == nullptr) {
+        return DISP_E_MEMBERNOTFOUND;
+    }
+    Variant value;
+    makeEmpty(member->resultType == VT_VOID || member->resultType == VT_VARIANT ? static_cast<VARTYPE>(VT_EMPTY)
+                                                                                : member->resultType,
+              value);
+    const auto fail = [&](ErrorNumber number) {
+        moduleProcedure(Name(member->procedure), kNoParameters, [&] { throw RuntimeError(number); });
+    };
+    if (parameters.cArgs > member->parameters.size()) {
+        fail(ErrorNumber::WrongNumberOfArguments);
+    }
+    Call call(*member, parameters);
+    HRESULT outcome = call.bringArguments();
+    if (SUCCEEDED(outcome)) {
+        outcome = call.run(object, value);
+        call.writeBack();
+    }
+    if (FAILED(outcome)) {
+        fail(errorNumberOf(outcome));
+    }
+    if (result != nullptr) {
+        *result = value.detach();
+    }
+    return S_OK;
+}
+
+}  // namespace quorvel::host

@@ -1,0 +1,95 @@
+// The entry points of the component server.
+
+#include <windows.h>
+
+#include <string_view>
+
+#include "host/adapters/date_time_adapter.h"
+#include "host/adapters/place_adapter.h"
+#include "host/adapters/year_adapter.h"
+#include "host/com/class_factory.h"
+#include "host/com/dispatch_table.h"
+#include "host/com/module.h"
+#include "host/com/registration.h"
+#include "host/interfaces.h"
+#include "host/main2.h"
+#include "host/start_up.h"
+
+using namespace quorvel::host;
+
+namespace {
+
+struct CreatableClass {
+    const CLSID& clsid;
+    ClassFactory::Create create;
+};
+
+// Every coclass of the type library.
+const CreatableClass kCreatableClasses[] = {
+    {CLSID_Main2, make<quorvel::host::Main2>},
+    {CLSID_OutputTemplateYear, make<YearAdapter>},
+    {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
+    {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
+};
+
+/// An entry point lets no exception out; only memory can run out in one.
+template <class Body>
+HRESULT guarded(Body&& body) noexcept {
+    try {
+        return body();
+    } catch (...) {
+        return E_OUTOFMEMORY;
+    }
+}
+
+}  // namespace
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID /*reserved*/) {
+    if (reason == DLL_PROCESS_ATTACH) {
+        Module::setHandle(instance);
+    }
+    return TRUE;
+}
+
+STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* object) {
+    if (object == nullptr) {
+        return E_POINTER;
+    }
+    *object = nullptr;
+    return guarded([&]() -> HRESULT {
+        startUp();
+        for (const CreatableClass& creatable : kCreatableClasses) {
+            if (creatable.clsid == clsid) {
+                const ComPtr<IClassFactory> factory(new ClassFactory(creatable.create));
+                return factory->QueryInterface(iid, object);
+            }
+        }
+        return CLASS_E_CLASSNOTAVAILABLE;
+    });
+}
+
+STDAPI DllCanUnloadNow() {
+    if (Module::isInUse()) {
+        return S_FALSE;
+    }
+    DispatchTable::releaseAll();
+    return S_OK;
+}
+
+STDAPI DllRegisterServer() {
+    return guarded([] { return registerClasses(RegistrationScope::Machine); });
+}
+
+STDAPI DllUnregisterServer() {
+    return guarded([] { return unregisterClasses(RegistrationScope::Machine); });
+}
+
+/// `regsvr32 /n /i:user` registers for the current user, `regsvr32 /n /i` for the machine.
+STDAPI DllInstall(BOOL install, LPCWSTR commandLine) {
+    const std::wstring_view whom = commandLine != nullptr ? commandLine : L"";
+    if (!whom.empty() && whom != L"user") {
+        return E_INVALIDARG;
+    }
+    const RegistrationScope scope = whom.empty() ? RegistrationScope::Machine : RegistrationScope::CurrentUser;
+    return guarded([&] { return install != FALSE ? registerClasses(scope) : unregisterClasses(scope); });
+}

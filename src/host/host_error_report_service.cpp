@@ -1,0 +1,124 @@
+#include "host/host_error_report_service.h"
+
+#include <chrono>
+
+#include "host/com/arrays.h"
+
+namespace quorvel::host {
+
+namespace {
+
+constexpr wchar_t kHostClass[] = L"QuorvelDot.BridgeToVB";
+constexpr std::int64_t kBetweenTestsOfTheName = 1'000'000;
+
+std::int64_t now() {
+    const auto time = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(time).count();
+}
+
+template <class T>
+Variant arrayOf(const std::vector<T>& values) {
+    std::vector<Variant> variants;
+    for (const T value : values) {
+        variants.emplace_back(value);
+    }
+    return arrayOfVariants(std::move(variants));
+}
+
+/// A reported value in the variant of its declared type; arrays as every client reads them.
+struct ToVariant {
+    Variant operator()(TraceValue::Object object) const { return Variant(dispatchOf(object)); }
+    Variant operator()(const std::vector<bool>* values) const { return arrayOf(*values); }
+    Variant operator()(const std::vector<std::int16_t>* values) const { return arrayOf(*values); }
+    Variant operator()(const std::vector<Text>* values) const { return arrayOfTexts(*values); }
+    Variant operator()(const std::vector<TraceValue::Object>* objects) const {
+        std::vector<Variant> variants;
+        for (const TraceValue::Object object : *objects) {
+            variants.emplace_back(dispatchOf(object));
+        }
+        return arrayOfVariants(std::move(variants));
+    }
+    template <class T>
+    Variant operator()(T value) const {
+        return Variant(value);
+    }
+};
+
+Variant toVariant(const TraceValue& value) {
+    return std::visit(ToVariant(), value.storage());
+}
+
+}  // namespace
+
+void HostErrorReportService::vbwProcIn(TextView procedure, TextView parameters) {
+    mObject.call(L"vbwProcIn", procedure, parameters);
+}
+
+void HostErrorReportService::vbwProcOut() {
+    mObject.call(L"vbwProcOut");
+}
+
+Text HostErrorReportService::vbwReportParameter(TextView name, const TraceValue& value) {
+    Variant parameter = toVariant(value);
+    const Variant reported = mObject.call(L"vbwReportParameter", name, ByReference(parameter));
+    Variant text;
+    return Text(SUCCEEDED(convert(reported, VT_BSTR, text)) ? view(text.bstrVal) : TextView());
+}
+
+void HostErrorReportService::vbwReportVariable(TextView name, const TraceValue& value, std::int32_t typeCode) {
+    Variant variable = toVariant(value);
+    mObject.call(L"vbwReportVariable", name, ByReference(variable), typeCode);
+}
+
+void HostErrorReportService::vbwReportToFile(TextView text) {
+    mObject.call(L"vbwReportToFile", text);
+}
+
+void HostErrorReportService::vbwReportObject(const HostObject& object) {
+    mObject.call(L"vbwReportObject", dispatchOf(&object));
+}
+
+void HostErrorReportService::vbwBeforeDump() {
+    mObject.call(L"vbwBeforeDump");
+}
+
+void HostErrorReportService::vbwAfterDump() {
+    mObject.call(L"vbwAfterDump");
+}
+
+void HostErrorReportService::vbwOpenDumpFile() {
+    mObject.call(L"vbwOpenDumpFile");
+}
+
+void HostErrorReportService::vbwCloseDumpFile() {
+    mObject.call(L"vbwCloseDumpFile");
+}
+
+void HostErrorReportService::vbwExitThread(bool isLast) {
+    mObject.call(L"vbwExitThread", isLast);
+}
+
+std::shared_ptr<ErrorReportService> RunningHostFinder::find() {
+    if (mNextTestOfTheName != 0 && now() < mNextTestOfTheName) {
+        return nullptr;
+    }
+    CLSID hostClass = {};
+    if (FAILED(CLSIDFromProgID(kHostClass, &hostClass))) {
+        mNextTestOfTheName = now() + kBetweenTestsOfTheName;
+        return nullptr;
+    }
+    mNextTestOfTheName = 0;
+    ComPtr<IUnknown> running;
+    if (FAILED(GetActiveObject(hostClass, nullptr, running.receive()))) {
+        return nullptr;
+    }
+    const ComPtr<IDispatch> bridge = queryFor<IDispatch>(running.get(), IID_IDispatch);
+    const Variant errorParams = LateBoundObject(bridge.get()).get(L"ErrorParams");
+    Variant object;
+    if (FAILED(convert(errorParams, VT_DISPATCH, object)) || object.pdispVal == nullptr) {
+        return nullptr;
+    }
+    return std::make_shared<HostErrorReportService>(object.pdispVal);
+}
+
+}  // namespace quorvel::host

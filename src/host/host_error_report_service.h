@@ -1,0 +1,43 @@
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+
+#include "core/error_report_service.h"
+#include "host/com/late_bound_object.h"
+
+namespace quorvel::host {
+
+/// The host's error-report service behind the port.
+class HostErrorReportService final : public ErrorReportService {
+public:
+    explicit HostErrorReportService(IDispatch* errorParams) : mObject(errorParams) {}
+
+    void vbwProcIn(TextView procedure, TextView parameters) override;
+    void vbwProcOut() override;
+    Text vbwReportParameter(TextView name, const TraceValue& value) override;
+    void vbwReportVariable(TextView name, const TraceValue& value, std::int32_t typeCode) override;
+    void vbwReportToFile(TextView text) override;
+    void vbwReportObject(const HostObject& object) override;
+    void vbwBeforeDump() override;
+    void vbwAfterDump() override;
+    void vbwOpenDumpFile() override;
+    void vbwCloseDumpFile() override;
+    void vbwExitThread(bool isLast) override;
+
+private:
+    LateBoundObject mObject;
+};
+
+/// Finds the service in the running host: the `ErrorParams` of the running object `QuorvelDot.BridgeToVB`.
+class RunningHostFinder final : public ErrorReportServiceFinder {
+public:
+    std::shared_ptr<ErrorReportService> find() override;
+
+private:
+    // Testing whether the host's class exists costs some 10 us, too much for every call of a member that
+    // takes one; so an unknown name is tested once a millisecond at most, in nanoseconds of the clock.
+    std::atomic<std::int64_t> mNextTestOfTheName = 0;
+};
+
+}  // namespace quorvel::host

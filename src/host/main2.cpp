@@ -1,0 +1,82 @@
+#include "host/main2.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "core/procedure.h"
+#include "host/adapters/date_time_adapter.h"
+#include "host/adapters/place_adapter.h"
+#include "host/adapters/year_adapter.h"
+#include "host/com/late_bound_object.h"
+
+namespace quorvel::host {
+
+namespace {
+
+using Create = ComPtr<IDispatch> (*)();
+
+struct ElementClass {
+    std::int16_t whichType;
+    Create create;
+};
+
+// The element type codes and their classes. A code without a row makes nothing.
+constexpr ElementClass kElementClasses[] = {
+    {15, make<PlaceAdapter>},
+    {17, make<DateTimeAdapter>},
+    {6, make<YearAdapter>},
+};
+
+ComPtr<IDispatch> createElement(std::int16_t whichType) {
+    const auto* row = std::find_if(std::begin(kElementClasses), std::end(kElementClasses),
+                                   [&](const ElementClass& element) { return element.whichType == whichType; });
+    return row != std::end(kElementClasses) ? row->create() : nullptr;
+}
+
+/// The class is not part of this library yet.
+ComPtr<IDispatch> cannotCreate() {
+    throw RuntimeError(ErrorNumber::CannotCreateObject);
+}
+
+thread_local long theFactoriesOfThisThread = 0;
+
+}  // namespace
+
+Main2::Main2() {
+    ++theFactoriesOfThisThread;
+}
+
+Main2::~Main2() {
+    if (--theFactoriesOfThisThread == 0) {
+        VBWPROTECTOR::ofThisApartment().vbwExitThread();
+    }
+}
+
+STDMETHODIMP Main2::buildSubformProxy(IDispatch** result) {
+    return call(result, [&] { return procedure(*this, u"Main2.buildSubformProxy", kNoParameters, cannotCreate); });
+}
+
+STDMETHODIMP Main2::buildModelTemplate(IDispatch** result) {
+    return call(result, [&] { return procedure(*this, u"Main2.buildModelTemplate", kNoParameters, cannotCreate); });
+}
+
+STDMETHODIMP Main2::buildCitationTemplate(IDispatch** result) {
+    return call(result, [&] { return procedure(*this, u"Main2.buildCitationTemplate", kNoParameters, cannotCreate); });
+}
+
+STDMETHODIMP Main2::build(short* whichType, IDispatch** formattedString, IDispatch** result) {
+    const std::int16_t code = whichType != nullptr ? *whichType : std::int16_t{-1};
+    const ComPtr<IDispatch> sink(formattedString != nullptr ? *formattedString : nullptr);
+    return call(result, [&] {
+        const auto reported = std::make_shared<HostReference>(sink.get());
+        return procedure(*this, u"Main2.build", {{u"whichType", code}, {u"formattedString", reported}}, [&] {
+            ComPtr<IDispatch> element = createElement(code);
+            // Late-bound on purpose: on the empty reference of an unknown code this is the error that is
+            // reported.
+            LateBoundObject(element.get()).call(L"Initialize", sink.get());
+            return element;
+        });
+    });
+}
+
+}  // namespace quorvel::host

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/instrumented.h"
+#include "host/com/com_object.h"
+#include "host/interfaces.h"
+
+namespace quorvel::host {
+
+/// The factory, the one class that the host creates by name: everything else it reaches from here.
+class Main2 final : public ComObject<_Main2>, public Instrumented {
+public:
+    Main2();
+
+    STDMETHODIMP buildSubformProxy(IDispatch** result) override;
+    STDMETHODIMP buildModelTemplate(IDispatch** result) override;
+    STDMETHODIMP buildCitationTemplate(IDispatch** result) override;
+    STDMETHODIMP build(short* whichType, IDispatch** formattedString, IDispatch** result) override;
+
+    /// The class has no variables.
+    void dumpVariables(VBWPROTECTOR& /*report*/) const override {}
+
+private:
+    ~Main2() override;
+};
+
+}  // namespace quorvel::host

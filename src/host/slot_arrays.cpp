@@ -1,0 +1,50 @@
+#include "host/slot_arrays.h"
+
+#include "core/procedure.h"
+#include "host/com/arrays.h"
+#include "host/host_sink.h"
+
+namespace quorvel::host {
+
+namespace {
+
+Text textOf(const Variant& value) {
+    Variant text;
+    return Text(SUCCEEDED(convert(value, VT_BSTR, text)) ? view(text.bstrVal) : TextView());
+}
+
+OutputSinkRef sinkOf(const Variant& value) {
+    Variant object;
+    return SUCCEEDED(convert(value, VT_DISPATCH, object)) ? HostSink::of(object.pdispVal) : nullptr;
+}
+
+}  // namespace
+
+bool fillSlotArrays(Implementor& implementor, bool isFootnote, VARIANT* items, VARIANT* formattedItems,
+                    bool shortenedVersion) {
+    bool nothingToAssemble = true;
+    // Named after the assembly, since an array that is missing or too small is no fault of the element.
+    moduleProcedure(u"OutputTemplate.ToFormattedStringImpl",
+                    {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
+                        std::vector<Text> texts;
+                        for (const Variant& item : elementsOf(*items)) {
+                            texts.push_back(textOf(item));
+                        }
+                        std::vector<OutputSinkRef> fragments;
+                        for (const Variant& item : elementsOf(*formattedItems)) {
+                            fragments.push_back(sinkOf(item));
+                        }
+                        const bool outcome =
+                            implementor.ToFormattedStringImpl(isFootnote, texts, fragments, shortenedVersion);
+                        std::vector<Variant> results;
+                        for (const Text& text : texts) {
+                            results.emplace_back(TextView(text));
+                        }
+                        // The fragments were filled where they are.
+                        assignElements(*items, results);
+                        nothingToAssemble = outcome;
+                    });
+    return nothingToAssemble;
+}
+
+}  // namespace quorvel::host
