@@ -1,0 +1,136 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/output_sink.h"
+#include "core/run_time_error.h"
+
+namespace quorvel {
+
+/// The host's formatted-text object as tests need it: it remembers what was written, fails when it
+/// is told to, and can act upon its caller in the middle of a call.
+///
+/// `Clone` and `BuildNewFormattedString` give sinks of the same family: calls are counted, and fail,
+/// over the whole family.
+class RecordingSink final : public OutputSink {
+    struct Family {
+        int calls = 0;
+        int failAt = 0;
+        bool isActing = false;
+        std::function<void()> action;
+    };
+
+public:
+    /// What one `Add` wrote.
+    struct Phrase {
+        Text text;
+        std::int32_t font = kPlain;
+        friend bool operator==(const Phrase&, const Phrase&) = default;
+    };
+
+    RecordingSink() : RecordingSink(std::make_shared<Family>()) {}
+    /// A sink of the same family.
+    explicit RecordingSink(std::shared_ptr<Family> family) : mFamily(std::move(family)) {}
+
+    const std::vector<Phrase>& phrases() const { return mPhrases; }
+    Text plain() const {
+        Text text;
+        for (const Phrase& phrase : mPhrases) {
+            text += phrase.text;
+        }
+        return text;
+    }
+
+    /// How often the host's members of the family have been called.
+    int calls() const { return mFamily->calls; }
+    /// The n-th call to the family from now on (1: the next one) raises an error; 0: none does.
+    void failAt(int call) { mFamily->failAt = call == 0 ? 0 : mFamily->calls + call; }
+    /// What the host does in the middle of each call to the family; calls that it causes itself do not
+    /// set it off again.
+    void onCall(std::function<void()> action) { mFamily->action = std::move(action); }
+
+    void Add(TextView text) override { Add(text, kPlain); }
+    void Add(TextView text, std::int32_t font) override {
+        // The host makes a string of its own before it does anything else.
+        Phrase phrase{Text(text), font};
+        called();
+        mPhrases.push_back(std::move(phrase));
+    }
+    void addFormattedString(const OutputSink& fragment) override {
+        called();
+        const auto* other = dynamic_cast<const RecordingSink*>(&fragment);
+        if (other == nullptr) {
+            throw RuntimeError(ErrorNumber::TypeMismatch);
+        }
+        const std::vector<Phrase> phrases = other->mPhrases;
+        mPhrases.insert(mPhrases.end(), phrases.begin(), phrases.end());
+    }
+    OutputSinkRef Clone() const override {
+        called();
+        auto clone = std::make_shared<RecordingSink>(mFamily);
+        clone->mPhrases = mPhrases;
+        return clone;
+    }
+    void Reset() override {
+        called();
+        mPhrases.clear();
+    }
+    OutputSinkRef BuildNewFormattedString() const override {
+        called();
+        return std::make_shared<RecordingSink>(mFamily);
+    }
+    Text toString() const override {
+        called();
+        return plain();
+    }
+    /// No real RTF, but nothing that could pass for the plain text: each phrase as "{\fN text}".
+    Text toRTFString() const override {
+        called();
+        Text text;
+        for (const Phrase& phrase : mPhrases) {
+            const std::string font = std::to_string(phrase.font);
+            text += u"{\\f" + Text(font.begin(), font.end()) + u" " + phrase.text + u"}";
+        }
+        return text;
+    }
+    bool IsEmpty() const override {
+        called();
+        return plain().empty();
+    }
+    std::int16_t removeQuoteFromLastPhrase() override {
+        called();
+        if (mPhrases.empty()) {
+            return kPlain;
+        }
+        Phrase& last = mPhrases.back();
+        if (!last.text.empty() && (last.text.back() == kRightDoubleQuotationMark || last.text.back() == u'"')) {
+            last.text.pop_back();
+        }
+        return static_cast<std::int16_t>(last.font);
+    }
+
+private:
+    void called() const {
+        Family& family = *mFamily;
+        ++family.calls;
+        if (family.action && !family.isActing) {
+            family.isActing = true;
+            // A copy, since the action may set another one.
+            const std::function<void()> action = family.action;
+            action();
+            family.isActing = false;
+        }
+        if (family.calls == family.failAt) {
+            throw RuntimeError(ErrorNumber::AutomationError, u"The sink was told to fail.", nullptr);
+        }
+    }
+
+    std::vector<Phrase> mPhrases;
+    std::shared_ptr<Family> mFamily;
+};
+
+}  // namespace quorvel
