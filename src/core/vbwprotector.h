@@ -37,12 +37,12 @@ public:
 
     /// Brackets a call from the host. Within the outermost bracket an absent service is looked for
     /// once; without any bracket, at every report.
-    void beginHostCall() {
-        if (mHostCalls++ == 0) {
+    void beginHostCall() { ++mHostCalls; }
+    void endHostCall() {
+        if (--mHostCalls == 0) {
             mServiceIsAbsent = false;
         }
     }
-    void endHostCall() { --mHostCalls; }
 
     void vbwProcIn(TextView procedure, std::initializer_list<Parameter> parameters) {
         if (mSwitches.vbwTraceProc && hasService()) {
