@@ -31,7 +31,10 @@ constexpr TextView kSuffixesOfOrdinals[] = {u"th", u"rd", u"nd", u"st"};
 
 /// The number of a field, which a model counts in 16 bits.
 std::int16_t toFieldNumber(TextView key) {
-    const std::string digits(key.begin(), key.end());
+    std::string digits;
+    for (const char16_t unit : key) {
+        digits.push_back(unit < u'\u0080' ? static_cast<char>(unit) : '?');
+    }
     int number = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error == std::errc::invalid_argument || (error == std::errc() && end != digits.data() + digits.size())) {
