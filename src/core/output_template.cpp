@@ -62,9 +62,8 @@ void outputTemplate::Add(std::int16_t Index, bool isFormatted, bool isChecking, 
         *this, u"OutputTemplate.Add",
         {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
         [&] {
-            ReferenceItem& item = mReferenceItems.at(at(Index));
-            item = ReferenceItem();
-            item.isFormatted = isFormatted;
+            mReferenceItems.at(at(Index)) = ReferenceItem();
+            mReferenceItems[at(Index)].isFormatted = isFormatted;
             if (Index == mMaxReferenceItems) {
                 mIndexToFormatted.clear();
                 for (std::int16_t i = 0; i <= mMaxReferenceItems; ++i) {
@@ -75,7 +74,10 @@ void outputTemplate::Add(std::int16_t Index, bool isFormatted, bool isChecking, 
             }
             const std::int16_t ubound = upperBound(separators);
             const bool isOneList = ubound == mMaxReferenceItems + 1 - Index;
-            if (hasFootnoteSeparators(Index, isChecking, ubound)) {
+            const bool hasFootnote = hasFootnoteSeparators(Index, isChecking, ubound);
+            // Looked up behind the report that this made: the host may have called for a new layout.
+            ReferenceItem& item = mReferenceItems.at(at(Index));
+            if (hasFootnote) {
                 const std::size_t parts = isChecking ? 4 : 2;
                 item.bibliographySeparators = part(separators, 0, parts);
                 item.footnoteSeparators = part(separators, 1, parts);
@@ -116,7 +118,8 @@ void outputTemplate::ResetReferenceItems() {
         // By value: the host's answer to a call below may be a new layout.
         const std::vector<std::int16_t> indexToFormatted = mIndexToFormatted;
         if (!mReferenceItemsInitialized) {
-            mFormattedItems.assign(mReferenceItems.size(), nullptr);
+            // By a swap, so that the old fragments go when the new row is already in place.
+            std::vector<OutputSinkRef>(mReferenceItems.size()).swap(mFormattedItems);
         }
         for (const std::int16_t i : indexToFormatted) {
             OutputSinkRef fragment = mFormattedItems.at(at(i));
@@ -127,7 +130,9 @@ void outputTemplate::ResetReferenceItems() {
             }
             object(fragment).Reset();
         }
-        mReferenceItemsInitialized = true;
+        // A layout that the host called for meanwhile gets fragments of its own, unless these fit it.
+        mReferenceItemsInitialized = !indexToFormatted.empty() && indexToFormatted == mIndexToFormatted &&
+                                     mFormattedItems.size() == mReferenceItems.size();
     });
 }
 
@@ -140,6 +145,8 @@ void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implem
                {u"isFootnote", isFootnote},
                {u"checkingArray", checkingArray}},
               [&] {
+                  // Held, since the implementor writes into them while the host may call for new ones.
+                  const std::vector<OutputSinkRef> fragments = mFormattedItems;
                   if (implementor.ToFormattedStringImpl(isFootnote, mItems, mFormattedItems, shortenedVersion)) {
                       return;
                   }
@@ -239,9 +246,9 @@ void outputTemplate::addSeparator(const std::vector<Text>& list, std::int16_t i,
                 const std::int16_t phraseFont = sink.removeQuoteFromLastPhrase();
                 if (phraseFont != OutputSink::kPlain) {
                     // The mark keeps the font of the phrase that it closes.
-                    const std::vector<Text> pieces = split(separator, kClosingMark);
-                    sink.Add(concatenate({pieces.at(0), kClosingMark}), phraseFont);
-                    separator = pieces.at(1);
+                    const std::size_t behindMark = separator.find(kClosingMark) + kClosingMark.size();
+                    sink.Add(TextView(separator).substr(0, behindMark), phraseFont);
+                    separator.erase(0, behindMark);
                     font = OutputSink::kPlain;
                 }
             }
@@ -264,7 +271,9 @@ void outputTemplate::buildReferenceString(std::int16_t Index, const OutputSinkRe
             const OutputSinkRef fragment = mFormattedItems.at(at(Index));
             object(formattedStr).addFormattedString(object(fragment));
         } else {
-            object(formattedStr).Add(mItems.at(at(Index)));
+            // A copy, since the sink may have the slots emptied before it reads the text.
+            const Text item = mItems.at(at(Index));
+            object(formattedStr).Add(item);
         }
     });
 }
@@ -294,9 +303,12 @@ void outputTemplate::dumpVariables(VBWPROTECTOR& report) const {
                          summary(item.bibliographySeparators), u"; ", summary(item.footnoteSeparators), u"; ",
                          summary(item.checkBibliographySeparators), u"; ", summary(item.checkFootnoteSeparators)}));
     }
+    // Held, since the host may replace them between two of the reports.
+    const OutputSinkRef formattedStr = mFormattedStr;
+    const std::vector<OutputSinkRef> fragments = mFormattedItems;
     std::vector<TraceValue::Object> formattedItems;
-    for (const OutputSinkRef& item : mFormattedItems) {
-        formattedItems.push_back(item.get());
+    for (const OutputSinkRef& fragment : fragments) {
+        formattedItems.push_back(fragment.get());
     }
     report.vbwReportVariable(u"mMaxReferenceItems", mMaxReferenceItems);
     report.vbwReportVariable(u"mReferenceItems", referenceItems);
@@ -304,7 +316,7 @@ void outputTemplate::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mReferenceItemsInitialized", mReferenceItemsInitialized);
     report.vbwReportVariable(u"mItems", mItems);
     report.vbwReportVariable(u"mSeparatorFonts", mSeparatorFonts);
-    report.vbwReportVariable(u"mFormattedStr", mFormattedStr);
+    report.vbwReportVariable(u"mFormattedStr", formattedStr);
     report.vbwReportVariable(u"mFormattedItems", formattedItems);
 }
 
