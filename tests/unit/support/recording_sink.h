@@ -55,10 +55,9 @@ public:
 
     void Add(TextView text) override { Add(text, kPlain); }
     void Add(TextView text, std::int32_t font) override {
-        // The host makes a string of its own before it does anything else.
-        Phrase phrase{Text(text), font};
+        // The host may act before it reads the text, which its caller has to keep until then.
         called();
-        mPhrases.push_back(std::move(phrase));
+        mPhrases.push_back({Text(text), font});
     }
     void addFormattedString(const OutputSink& fragment) override {
         called();
