@@ -1,0 +1,307 @@
+#include "core/procedure.h"
+
+#include <new>
+#include <stdexcept>
+#include <thread>
+
+#include "support/recording_service.h"
+
+namespace quorvel {
+namespace {
+
+constexpr TextView kBannerReport =
+    u"vbwReportToFile: \r\n**************************\r\n* MODULE LEVEL VARIABLES *\r\n**************************\r\n";
+
+std::vector<Text> fromViews(const std::vector<TextView>& views) {
+    return {views.begin(), views.end()};
+}
+
+/// A class with a field of each kind that a dump can hold.
+class Sample final : public Instrumented {
+public:
+    /// Fails after it filled its result in part.
+    Text fail(Text& partial, const std::function<void()>& failure) const {
+        return procedure(*this, u"Sample.fail", {{u"partial", partial}, {u"depth", mInteger}}, [&] {
+            partial = u"partial";
+            failure();
+            return Text(u"whole");
+        });
+    }
+    void dumpVariables(VBWPROTECTOR& report) const override {
+        report.vbwReportVariable(u"mFlag", mFlag);
+        report.vbwReportVariable(u"mInteger", mInteger);
+        report.vbwReportVariable(u"mLong", mLong);
+        report.vbwReportVariable(u"mSingle", mSingle);
+        report.vbwReportVariable(u"mText", mText);
+        report.vbwReportVariable(u"mObject", mObject);
+        report.vbwReportVariable(u"mFlags", mFlags);
+        report.vbwReportVariable(u"mIntegers", mIntegers);
+        report.vbwReportVariable(u"mTexts", mTexts);
+        report.vbwReportVariable(u"mObjects", mObjects);
+    }
+
+private:
+    bool mFlag = true;
+    std::int16_t mInteger = -2;
+    std::int32_t mLong = 70000;
+    float mSingle = 0.5F;
+    Text mText = u"text";
+    HostObjectRef mObject;
+    std::vector<bool> mFlags = {true, false};
+    std::vector<std::int16_t> mIntegers = {1, 2};
+    std::vector<Text> mTexts = {u"a", u""};
+    std::vector<TraceValue::Object> mObjects = {nullptr};
+};
+
+struct PageMark final : HostObject {};
+
+void throwSubscript() {
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+}
+
+class Procedure : public ReportingTest {
+protected:
+    static Text nested() {
+        return moduleProcedure(u"Module.outer", kNoParameters, [] {
+            return moduleProcedure(u"Module.inner[Get]", {{u"key", TextView(u"k")}, {u"code", std::int32_t{7}}},
+                                   [] { return Text(u"done"); });
+        });
+    }
+};
+
+TEST_F(Procedure, ReportsEntryAndExitAsTheSwitchesSay) {
+    struct Case {
+        TraceSwitches switches;
+        std::vector<TextView> reports;
+    };
+    const Case kCases[] = {
+        {{.vbwTraceProc = true, .vbwTraceParameters = false},
+         {u"vbwProcIn: QuorvelTemplate.Module.outer ()", u"vbwProcIn: QuorvelTemplate.Module.inner[Get] ",
+          u"vbwProcOut", u"vbwProcOut"}},
+        {{.vbwTraceProc = true, .vbwTraceParameters = true},
+         {u"vbwProcIn: QuorvelTemplate.Module.outer ()", u"vbwReportParameter: key=k", u"vbwReportParameter: code=7",
+          u"vbwProcIn: QuorvelTemplate.Module.inner[Get] (key=k, code=7) ", u"vbwProcOut", u"vbwProcOut"}},
+        {{.vbwTraceProc = false, .vbwTraceParameters = true, .vbwTraceVariables = true}, {}},
+    };
+    for (const Case& c : kCases) {
+        service().forget();
+        protector().switches() = c.switches;
+        EXPECT_EQ(nested(), u"done");
+        EXPECT_EQ(service().reports(), fromViews(c.reports));
+    }
+}
+
+TEST_F(Procedure, AnErrorIsReportedInTheOrderTheHostExpects) {
+    const auto object = std::make_shared<PageMark>();
+    Text partial;
+    const Text result = Sample().fail(partial, [&] { throw RuntimeError(-2147467259, u"The sink is gone", object); });
+    EXPECT_EQ(result, u"");
+    EXPECT_EQ(partial, u"partial");
+    const std::vector<Text> expected = fromViews({
+        u"vbwProcIn: QuorvelTemplate.Sample.fail ",
+        u"vbwBeforeDump",
+        u"vbwOpenDumpFile",
+        u"vbwReportToFile: Run-time error -2147467259: The sink is gone in QuorvelTemplate.Sample.fail\r\n",
+        kBannerReport,
+        u"vbwReportVariable: mFlag=True (11)",
+        u"vbwReportVariable: mInteger=-2 (2)",
+        u"vbwReportVariable: mLong=70000 (3)",
+        u"vbwReportVariable: mSingle=0.500000 (4)",
+        u"vbwReportVariable: mText=text (8)",
+        u"vbwReportVariable: mObject=Nothing (9)",
+        u"vbwReportVariable: mFlags=[True|False] (8203)",
+        u"vbwReportVariable: mIntegers=[1|2] (8194)",
+        u"vbwReportVariable: mTexts=[a|] (8200)",
+        u"vbwReportVariable: mObjects=[Nothing] (8201)",
+        u"vbwReportObject: object",
+        u"vbwCloseDumpFile",
+        u"vbwAfterDump",
+        u"vbwProcOut",
+    });
+    EXPECT_EQ(service().reports(), expected);
+}
+
+TEST_F(Procedure, TheThirdSwitchAddsTheModulesOwnVariables) {
+    protector().switches() = {.vbwTraceProc = false, .vbwTraceParameters = false, .vbwTraceVariables = true};
+    moduleProcedure(u"Module.fail", kNoParameters, throwSubscript);
+    const std::vector<Text> expected = fromViews({
+        u"vbwBeforeDump",
+        u"vbwOpenDumpFile",
+        u"vbwReportToFile: Run-time error 9: Subscript out of range in QuorvelTemplate.Module.fail\r\n",
+        kBannerReport,
+        kBannerReport,
+        u"vbwReportVariable: vbwTraceProc=False (11)",
+        u"vbwReportVariable: vbwTraceParameters=False (11)",
+        u"vbwReportVariable: vbwTraceVariables=True (11)",
+        u"vbwReportVariable: mErrorParams=Nothing (9)",
+        u"vbwCloseDumpFile",
+        u"vbwAfterDump",
+    });
+    EXPECT_EQ(service().reports(), expected);
+}
+
+TEST_F(Procedure, WhateverIsThrownBecomesANumberedError) {
+    struct Case {
+        std::function<void()> failure;
+        TextView error;
+    };
+    const Case kCases[] = {
+        {[] { throw RuntimeError(ErrorNumber::ObjectNotSet); }, u"91: Object variable not set"},
+        {[] { static_cast<void>(std::vector<int>().at(0)); }, u"9: Subscript out of range"},
+        {[] { static_cast<void>(Text().substr(1)); }, u"9: Subscript out of range"},
+        {[] { throw std::bad_alloc(); }, u"7: Out of memory"},
+        {[] { throw std::runtime_error("what it says"); }, u"51: what it says"},
+        {[] { throw 3; }, u"51: Internal error"},
+        {[] { object(std::shared_ptr<Sample>()); }, u"91: Object variable not set"},
+    };
+    for (const Case& c : kCases) {
+        service().forget();
+        Text partial;
+        EXPECT_EQ(Sample().fail(partial, c.failure), u"");
+        EXPECT_EQ(service().errors(), std::vector<Text>{Text(c.error) + u" in QuorvelTemplate.Sample.fail"});
+    }
+}
+
+TEST_F(Procedure, TheCallerOfAFailingProcedureGoesOn) {
+    const auto count = moduleProcedure(u"Module.outer", kNoParameters, [] {
+        const int inner = moduleProcedure(u"Module.inner", kNoParameters, [] {
+            throwSubscript();
+            return 5;
+        });
+        return inner + 1;
+    });
+    EXPECT_EQ(count, 1);
+    EXPECT_EQ(service().errors(), std::vector<Text>{u"9: Subscript out of range in QuorvelTemplate.Module.inner"});
+}
+
+TEST_F(Procedure, AServiceThatFailsAtAnyCallChangesNothingButItsOwnParameterText) {
+    protector().switches() = {.vbwTraceProc = true, .vbwTraceParameters = true, .vbwTraceVariables = true};
+    const auto run = [] {
+        Text partial = u"before";
+        EXPECT_EQ(Sample().fail(partial, throwSubscript), u"");
+        EXPECT_EQ(partial, u"partial");
+    };
+    run();
+    const std::vector<Text> undisturbed = service().reports();
+    ASSERT_EQ(undisturbed.at(2), u"vbwProcIn: QuorvelTemplate.Sample.fail (partial=before, depth=-2) ");
+    for (int n = 1; n <= static_cast<int>(undisturbed.size()); ++n) {
+        service().forget();
+        service().failAt(n);
+        run();
+        std::vector<Text> expected = undisturbed;
+        if (n <= 2) {
+            expected[2] = n == 1 ? u"vbwProcIn: QuorvelTemplate.Sample.fail (, depth=-2) "
+                                 : u"vbwProcIn: QuorvelTemplate.Sample.fail (partial=before, ) ";
+        }
+        EXPECT_EQ(service().reports(), expected) << "call " << n;
+    }
+}
+
+TEST_F(Procedure, WhatTheServiceCallsInTheLibraryIsNotReported) {
+    protector().switches() = {.vbwTraceProc = true, .vbwTraceParameters = true, .vbwTraceVariables = true};
+    Text partial;
+    Sample().fail(partial, throwSubscript);
+    const std::vector<Text> undisturbed = service().reports();
+    service().forget();
+    int calledBack = 0;
+    service().onCall([&] {
+        nested();
+        Text innerPartial;
+        Sample().fail(innerPartial, throwSubscript);
+        ++calledBack;
+    });
+    partial.clear();
+    Sample().fail(partial, throwSubscript);
+    EXPECT_EQ(service().reports(), undisturbed);
+    EXPECT_EQ(calledBack, service().calls());
+}
+
+TEST_F(Procedure, AServiceThatEndsTheThreadInAnyOfItsCallsLivesUntilItReturns) {
+    protector().switches() = {.vbwTraceProc = true, .vbwTraceParameters = true, .vbwTraceVariables = true};
+    Text partial;
+    Sample().fail(partial, throwSubscript);
+    const int calls = service().calls();
+    for (int n = 1; n <= calls; ++n) {
+        finder().offered = std::make_shared<RecordingService>();
+        const std::weak_ptr<RecordingService> watched = finder().offered;
+        protector().releaseService();
+        int countdown = n;
+        service().onCall([&] {
+            if (--countdown == 0) {
+                finder().offered.reset();
+                protector().vbwExitThread();
+            }
+        });
+        EXPECT_EQ(Sample().fail(partial, throwSubscript), u"");
+        EXPECT_TRUE(watched.expired()) << "call " << n;
+    }
+}
+
+TEST_F(Procedure, AnAbsentServiceIsLookedForOnceInACallOfTheHost) {
+    const auto hostCall = [](int nestedCalls, const auto& self) -> void {
+        protector().beginHostCall();
+        nested();
+        if (nestedCalls > 0) {
+            self(nestedCalls - 1, self);
+        }
+        nested();
+        protector().endHostCall();
+    };
+    const std::shared_ptr<RecordingService> running = finder().offered;
+    for (const bool fails : {false, true}) {
+        finder().offered = nullptr;
+        finder().fails = fails;
+        finder().lookUps = 0;
+        hostCall(2, hostCall);
+        EXPECT_EQ(finder().lookUps, 1);
+        hostCall(0, hostCall);
+        EXPECT_EQ(finder().lookUps, 2);
+    }
+    nested();
+    EXPECT_EQ(finder().lookUps, 6) << "outside a call of the host each report looks";
+
+    // Once the host runs, the next of its calls finds the service, and keeps it.
+    finder().fails = false;
+    finder().offered = running;
+    finder().lookUps = 0;
+    hostCall(0, hostCall);
+    finder().offered = nullptr;
+    hostCall(0, hostCall);
+    EXPECT_EQ(finder().lookUps, 1);
+    EXPECT_EQ(running->calls(), 16);
+}
+
+TEST_F(Procedure, EachApartmentBeginsWithTheSwitchesOfStartUp) {
+    VBWPROTECTOR::startUp({.vbwTraceParameters = true}, &finder());
+    protector().switches().vbwTraceParameters = false;
+    nested();
+    EXPECT_EQ(service().calls(), 4);
+    service().forget();
+    std::thread([] {
+        nested();
+        protector().vbwExitThread();
+    }).join();
+    EXPECT_EQ(service().calls(), 7);
+    EXPECT_EQ(finder().lookUps, 2);
+}
+
+TEST_F(Procedure, TheEndOfTheThreadIsToldAndReleasesTheService) {
+    nested();
+    service().forget();
+    const std::weak_ptr<RecordingService> watched = finder().offered;
+    protector().vbwExitThread();
+    EXPECT_EQ(service().reports(), std::vector<Text>{u"vbwExitThread: True"});
+    finder().offered = nullptr;
+    EXPECT_TRUE(watched.expired());
+
+    finder().offered = std::make_shared<RecordingService>();
+    nested();
+    EXPECT_EQ(service().calls(), 4) << "a later report looks again";
+    service().forget();
+    service().failAt(1);
+    protector().vbwExitThread();
+    EXPECT_EQ(finder().offered.use_count(), 1) << "released although the service failed";
+}
+
+}  // namespace
+}  // namespace quorvel
