@@ -1,0 +1,18 @@
+# shellcheck shell=bash
+# Sourced by the scripts: where things are, and an environment that is the same everywhere.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+export PATH=${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin}
+export HOME=${HOME:-$root/build}
+export LC_ALL=C.UTF-8
+
+# A program that asks something gets no answer instead of waiting for one.
+exec </dev/null
+
+# The Wine prefix of this checkout: registering the library there touches nothing else.
+export WINEPREFIX=${QUORVEL_WINEPREFIX:-$root/build/wine}
+export WINEARCH=win64
+export WINEDEBUG=${WINEDEBUG:--all}
+# No offer to download Mono or Gecko, no entries in the desktop's menus.
+export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe=d'
