@@ -7,12 +7,20 @@ export PATH=${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin
 export HOME=${HOME:-$root/build}
 export LC_ALL=C.UTF-8
 
-# A program that asks something gets no answer instead of waiting for one.
-exec </dev/null
-
 # The Wine prefix of this checkout: registering the library there touches nothing else.
 export WINEPREFIX=${QUORVEL_WINEPREFIX:-$root/build/wine}
 export WINEARCH=win64
 export WINEDEBUG=${WINEDEBUG:--all}
 # No offer to download Mono or Gecko, no entries in the desktop's menus.
 export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe=d'
+
+# build PRESET: configures and builds a preset; only what changed is compiled.
+build() {
+    (cd "$root" && cmake --preset "$1" && cmake --build --preset "$1")
+}
+
+# register_library: registers the 64-bit library in the Wine prefix.
+register_library() {
+    local dll=$root/build/windows-x64/bin/QuorvelTemplate.dll
+    "$root/tools/in-wine" regsvr32 /s "Z:${dll//\//\\}"
+}
