@@ -1,5 +1,7 @@
 # MinGW-w64 with POSIX threads: the default flavour lacks std::mutex.
 set(CMAKE_SYSTEM_NAME Windows)
+# GoogleTest asks for a C compiler too.
+set(CMAKE_C_COMPILER ${MINGW_TRIPLE}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${MINGW_TRIPLE}-g++-posix)
 set(CMAKE_RC_COMPILER ${MINGW_TRIPLE}-windres)
 set(MINGW_WIDL ${MINGW_TRIPLE}-widl)

@@ -14,9 +14,11 @@ export WINEDEBUG=${WINEDEBUG:--all}
 # No offer to download Mono or Gecko, no entries in the desktop's menus.
 export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe=d'
 
-# build PRESET: configures and builds a preset; only what changed is compiled.
+# build PRESET [TARGET...]: configures and builds a preset; only what changed is compiled.
 build() {
-    (cd "$root" && cmake --preset "$1" && cmake --build --preset "$1")
+    local preset=$1
+    shift
+    (cd "$root" && cmake --preset "$preset" && cmake --build --preset "$preset" ${*:+--target "$@"})
 }
 
 # register_library: registers the 64-bit library in the Wine prefix.
