@@ -1,0 +1,59 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "variant.h"
+
+/// Calls to objects of which the host knows nothing but the names of their members.
+namespace sample {
+
+/// What a late-bound call came to.
+struct CallResult {
+    HRESULT code = S_OK;
+    Variant value;
+    /// What went wrong, in words; empty after success.
+    std::wstring error;
+
+    bool ok() const { return SUCCEEDED(code); }
+};
+
+struct NamedArgument {
+    std::wstring name;
+    Variant value;
+};
+
+/// One object, called by the names of its members. The arguments stand in their natural order.
+/// `call`, `get` and `put` throw ComError when the call fails; `tryCall` never throws.
+class LateBoundObject {
+public:
+    LateBoundObject() = default;
+    explicit LateBoundObject(ComPointer<IDispatch> object) : mObject(std::move(object)) {}
+    explicit LateBoundObject(IDispatch* object) : mObject(object) {}
+
+    /// A new object of a registered class, such as "QuorvelTemplate.Main2".
+    static LateBoundObject create(const std::wstring& className);
+
+    /// False for Nothing.
+    explicit operator bool() const { return static_cast<bool>(mObject); }
+    IDispatch* dispatch() const { return mObject.get(); }
+
+    Variant call(const std::wstring& member, const std::vector<Variant>& arguments = {}) const;
+    /// With arguments by name, in any order; those that are left out must be optional.
+    Variant callNamed(const std::wstring& member, const std::vector<NamedArgument>& arguments) const;
+    /// Reads a property; an indexed one takes its indexes as arguments.
+    Variant get(const std::wstring& property, const std::vector<Variant>& indexes = {}) const;
+    void put(const std::wstring& property, const Variant& value, const std::vector<Variant>& indexes = {}) const;
+
+    /// @param kinds DISPATCH_METHOD, DISPATCH_PROPERTYGET or DISPATCH_PROPERTYPUT, or several of them
+    CallResult tryCall(const std::wstring& member, WORD kinds, const std::vector<Variant>& arguments,
+                       const std::vector<NamedArgument>& namedArguments = {}) const;
+
+private:
+    ComPointer<IDispatch> mObject;
+};
+
+/// The system's own text for a failure code, without line ends.
+std::wstring describe(HRESULT code);
+
+}  // namespace sample
