@@ -17,6 +17,11 @@ inline constexpr char16_t kEnDash = u'\u2013';
 inline constexpr char16_t kLeftDoubleQuotationMark = u'\u201C';
 inline constexpr char16_t kRightDoubleQuotationMark = u'\u201D';
 
+/// True for "0" to "9", the only digits that references are numbered with.
+constexpr bool isDigit(char16_t unit) {
+    return unit >= u'0' && unit <= u'9';
+}
+
 /// Every occurrence of `find` replaced, left to right; an empty `find` changes nothing.
 Text replaceAll(TextView text, TextView find, TextView replacement);
 
