@@ -7,6 +7,7 @@
 #include "core/dates.h"
 #include "core/letter_case.h"
 #include "core/procedure.h"
+#include "elements/date_text.h"
 
 namespace quorvel {
 
@@ -31,46 +32,6 @@ bool isOneOf(TextView text, const TextView (&markers)[N]) {
     return std::find(std::begin(markers), std::end(markers), text) != std::end(markers);
 }
 
-bool isDigit(char16_t unit) {
-    return unit >= u'0' && unit <= u'9';
-}
-
-/// A run of digits or a word of a date's text.
-struct DateWord {
-    TextView text;
-    bool isNumber;
-};
-
-std::vector<DateWord> dateWords(TextView text) {
-    std::vector<DateWord> words;
-    for (std::size_t from = 0; from < text.size();) {
-        const bool isNumber = isDigit(text[from]);
-        const auto belongs = [&](char16_t unit) { return isNumber ? isDigit(unit) : isCasedLetter(unit); };
-        const auto end = std::find_if_not(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), belongs);
-        const auto to = static_cast<std::size_t>(end - text.begin());
-        if (to > from) {
-            words.push_back({text.substr(from, to - from), isNumber});
-        }
-        from = std::max(to, from + 1);
-    }
-    return words;
-}
-
-bool isDayOrMonthNumber(TextView digits) {
-    return digits.size() == 1 || (digits.size() == 2 && (digits < u"32"));
-}
-
-/// "March 3" and "10:30" are dates to the platform, which takes the year from today: a reference never
-/// means that. A date names its year when one of its numbers can be nothing else, or when day, month
-/// and year are all there.
-bool namesItsYear(TextView text) {
-    const std::vector<DateWord> words = dateWords(text);
-    const bool hasYearNumber = std::any_of(words.begin(), words.end(), [](const DateWord& word) {
-        return word.isNumber && !isDayOrMonthNumber(word.text);
-    });
-    return hasYearNumber || (words.size() >= 3 && !contains(text, u":"));
-}
-
 /// "1990-12" could be a month: a range of numbers stays a range.
 bool isRangeOfNumbers(TextView text) {
     const std::size_t dash = text.find(u'-');
@@ -84,10 +45,10 @@ bool isRangeOfNumbers(TextView text) {
 /// The four digits of the year that a date names, or nothing when the text is no date.
 std::optional<Text> yearOfDate(TextView text) {
     // A number on its own is the commonest year and no date.
-    if (std::all_of(text.begin(), text.end(), isDigit) || isRangeOfNumbers(text) || !namesItsYear(text)) {
+    if (std::all_of(text.begin(), text.end(), isDigit) || isRangeOfNumbers(text)) {
         return std::nullopt;
     }
-    const std::optional<DateValue> date = dates().parse(text);
+    const std::optional<DateValue> date = dateWithItsYear(text);
     return date ? std::optional<Text>(dates().format(*date, u"yyyy")) : std::nullopt;
 }
 
