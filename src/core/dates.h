@@ -20,11 +20,13 @@ public:
     Dates& operator=(const Dates&) = delete;
     virtual ~Dates() = default;
 
-    /// The date that the text names, or nothing. A text without a year gets the current one.
+    /// The date that the text names, or nothing. A text without a year gets the current one, a time of
+    /// day alone is in day zero.
     virtual std::optional<DateValue> parse(TextView text) const = 0;
 
     /// The date written by a pattern of d, dd, ddd, dddd, m, mm, mmm, mmmm, yy, yyyy (any letter
-    /// case) and literal characters.
+    /// case) and literal characters; an empty pattern is "m/d/yyyy". Nothing is written for a date
+    /// outside the years 100 to 9999, nor by a pattern of more than 100 characters.
     virtual Text format(DateValue date, TextView pattern) const = 0;
 };
 

@@ -99,6 +99,10 @@ Text join(const std::vector<Text>& pieces, TextView separator) {
     return result;
 }
 
+bool isSpace(char16_t unit) {
+    return isIn(kSpaces, unit);
+}
+
 TextView trim(TextView text) {
     const std::size_t first = text.find_first_not_of(u' ');
     if (first == TextView::npos) {
@@ -130,9 +134,9 @@ Text cleanUp(TextView text) {
     for (const char16_t unit : text) {
         // Printable ASCII is nearly all of the input and never in a table but for the blank.
         const bool plain = unit > u' ' && unit < u'\u007F';
-        if (plain || (!isIn(kSpaces, unit) && !isIn(kInvisible, unit))) {
+        if (plain || (!isSpace(unit) && !isIn(kInvisible, unit))) {
             result.push_back(unit);
-        } else if (isIn(kSpaces, unit) && !result.empty() && result.back() != u' ') {
+        } else if (isSpace(unit) && !result.empty() && result.back() != u' ') {
             result.push_back(u' ');
         }
     }

@@ -38,6 +38,9 @@ bool removeSuffix(Text& text, TextView suffix);
 std::vector<Text> split(TextView text, TextView separator);
 Text join(const std::vector<Text>& pieces, TextView separator);
 
+/// True for a blank, a tab, a line break and the other Unicode spaces, the non-breaking ones included.
+bool isSpace(char16_t unit);
+
 /// Without the blanks (U+0020) at both ends.
 TextView trim(TextView text);
 

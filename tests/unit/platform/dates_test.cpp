@@ -1,0 +1,172 @@
+#include "core/dates.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdio>
+#include <limits>
+#include <string>
+
+#include "platform/date_cases.h"
+#include "platform/hostile_environment.h"
+#include "platform/portable_dates.h"
+#ifdef _WIN32
+#include "platform/windows_dates.h"
+#endif
+
+namespace quorvel {
+namespace {
+
+using tests::DateCase;
+using tests::FormatCase;
+
+constexpr std::chrono::sys_days kDayZero = std::chrono::year{1899} / 12 / 30;
+constexpr DateValue kFirstDay = -657434;
+constexpr DateValue kLastDay = 2958465;
+
+Text widen(const std::string& text) {
+    return Text(text.begin(), text.end());
+}
+
+std::string dayText(const std::chrono::year_month_day& day) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%04d-%02u-%02u", static_cast<int>(day.year()), static_cast<unsigned>(day.month()),
+                  static_cast<unsigned>(day.day()));
+    return text;
+}
+
+/// A date as the table writes it.
+Text describe(std::optional<DateValue> date) {
+    if (!date) {
+        return Text(tests::kNone);
+    }
+    const double day = std::trunc(*date);
+    std::string text = dayText(kDayZero + std::chrono::days(static_cast<int>(day)));
+    const auto seconds = static_cast<unsigned>(std::lround(std::fabs(*date - day) * 86400));
+    if (seconds != 0) {
+        char time[32];
+        std::snprintf(time, sizeof time, " %02u:%02u:%02u", seconds / 3600, seconds / 60 % 60, seconds % 60);
+        text += time;
+    }
+    return widen(text);
+}
+
+Text withCurrentYear(TextView date) {
+    const std::chrono::year_month_day today(std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now()));
+    return replaceAll(date, u"now", widen(std::to_string(static_cast<int>(today.year()))));
+}
+
+DateValue valueOf(const FormatCase& c) {
+    const auto day = static_cast<DateValue>((c.day - kDayZero).count());
+    return day < 0 ? day - c.time : day + c.time;
+}
+
+void expectTables(const Dates& dates) {
+    for (const DateCase& c : tests::kDateCases) {
+        EXPECT_EQ(describe(dates.parse(c.text)), withCurrentYear(c.date)) << ::testing::PrintToString(Text(c.text));
+    }
+    for (const FormatCase& c : tests::kFormatCases) {
+        EXPECT_EQ(dates.format(valueOf(c), c.pattern), c.text) << ::testing::PrintToString(Text(c.pattern));
+    }
+}
+
+template <class Implementation>
+class DatesTest : public ::testing::Test {
+protected:
+    const Implementation dates;
+};
+
+#ifdef _WIN32
+using Implementations = ::testing::Types<PortableDates, WindowsDates>;
+#else
+using Implementations = ::testing::Types<PortableDates>;
+#endif
+
+struct ImplementationName {
+    template <class Implementation>
+    static std::string GetName(int) {
+        return std::is_same_v<Implementation, PortableDates> ? "Portable" : "Windows";
+    }
+};
+
+TYPED_TEST_SUITE(DatesTest, Implementations, ImplementationName);
+
+TYPED_TEST(DatesTest, ReadsAndWritesWhatTheTablesSay) {
+    expectTables(this->dates);
+}
+
+TYPED_TEST(DatesTest, TheUsersCountryDoesNotMatter) {
+    for (const tests::Country& country : tests::kHostileCountries) {
+        SCOPED_TRACE(country.posixLocale);
+        const tests::HostileEnvironment environment(country);
+        if (!environment.isInForce()) {
+            GTEST_SKIP() << "no locale " << country.posixLocale << " on this machine";
+        }
+        expectTables(this->dates);
+    }
+}
+
+TYPED_TEST(DatesTest, ReadsEveryDateThatItWrites) {
+    constexpr TextView kPatterns[] = {u"mmmm d, yyyy", u"d mmm yyyy", u"yyyy-mm-dd",
+                                      u"m/d/yyyy",     u"d/m/yyyy",   u"dddd, mmmm dd, yyyy"};
+    // A prime step meets every day, month and weekday.
+    for (DateValue date = kFirstDay; date <= kLastDay; date += 1009) {
+        for (const TextView pattern : kPatterns) {
+            const Text text = this->dates.format(date, pattern);
+            const auto read = this->dates.parse(text);
+            // A day of 12 or less is read as the month.
+            if (pattern != u"d/m/yyyy" || this->dates.format(date, u"dd") > u"12") {
+                ASSERT_EQ(read, date) << ::testing::PrintToString(text);
+            }
+        }
+    }
+}
+
+TYPED_TEST(DatesTest, HostileTextsAreNoDates) {
+    constexpr std::size_t kMillion = 1'000'000;
+    for (const TextView unit : {u"1", u"0", u" ", u",", u"/", u"-", u":", u".", u"a", u"m", u"May ", u"1 ", u"Monday ",
+                                u"1:", u"\u00A0", u"\xD800", u"\xFFFF"}) {
+        Text text;
+        while (text.size() < kMillion) {
+            text += unit;
+        }
+        EXPECT_EQ(this->dates.parse(text), std::nullopt) << ::testing::PrintToString(Text(unit));
+        EXPECT_EQ(this->dates.parse(text + u" May 1990"), std::nullopt) << ::testing::PrintToString(Text(unit));
+    }
+    // A NUL ends no text here.
+    EXPECT_EQ(this->dates.parse(TextView(u"May 5, 1990\0", 12)), std::nullopt);
+    EXPECT_EQ(this->dates.parse(TextView(u"May 5, 1990\0 and more", 21)), std::nullopt);
+    EXPECT_EQ(this->dates.parse(TextView(u"\0May 5, 1990", 12)), std::nullopt);
+    // The view's end counts, whatever stands behind it.
+    EXPECT_EQ(describe(this->dates.parse(TextView(u"May 5, 19901").substr(0, 11))), u"1990-05-05");
+}
+
+TYPED_TEST(DatesTest, WhatCannotBeWrittenIsEmpty) {
+    constexpr DateValue kInfinity = std::numeric_limits<DateValue>::infinity();
+    for (const DateValue date : {kFirstDay - 1, kLastDay + 1, 1e300, -1e300, kInfinity, -kInfinity,
+                                 std::numeric_limits<DateValue>::quiet_NaN()}) {
+        EXPECT_EQ(this->dates.format(date, u"yyyy"), u"") << date;
+    }
+    EXPECT_EQ(this->dates.format(kLastDay + 0.5, u"mmmm d, yyyy"), u"December 31, 9999");
+    EXPECT_EQ(this->dates.format(0, Text(1'000'000, u'y')), u"");
+    EXPECT_EQ(this->dates.format(0, Text(101, u'-')), u"");
+    EXPECT_EQ(this->dates.format(0, Text(100, u'-')), Text(100, u'-'));
+    EXPECT_EQ(this->dates.format(0, TextView(u"yyyy\0", 5)), u"");
+}
+
+// The platform takes the limit from the machine's settings; the twin has the one that Windows has now.
+TEST(PortableDates, TwoDigitYearsEndWith2049) {
+    const PortableDates dates;
+    EXPECT_EQ(describe(dates.parse(u"May 5, 30")), u"2030-05-05");
+    EXPECT_EQ(describe(dates.parse(u"May 5, 49")), u"2049-05-05");
+    EXPECT_EQ(describe(dates.parse(u"1 50")), u"1950-01-01");
+    EXPECT_EQ(describe(dates.parse(u"1 49")), u"2049-01-01");
+}
+
+TEST(Dates, TheBuildsOwnImplementationIsInPlace) {
+    EXPECT_EQ(describe(dates().parse(u"May 5, 1990")), u"1990-05-05");
+    EXPECT_EQ(dates().format(0, u"mmmm d, yyyy"), u"December 30, 1899");
+}
+
+}  // namespace
+}  // namespace quorvel
