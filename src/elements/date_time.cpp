@@ -174,9 +174,9 @@ Text OutputTemplateDateTime::value(std::int16_t index) const {
                      [&] { return mValues.at(static_cast<std::size_t>(index)); });
 }
 
-void OutputTemplateDateTime::value(std::int16_t index, TextView newValue) {
-    procedure(*this, u"OutputTemplateDateTime.value[Let]", {{u"index", index}, {u"newValue", newValue}},
-              [&] { mValues.at(static_cast<std::size_t>(index)) = newValue; });
+void OutputTemplateDateTime::value(std::int16_t index, TextView theVal) {
+    procedure(*this, u"OutputTemplateDateTime.value[Let]", {{u"index", index}, {u"theVal", theVal}},
+              [&] { mValues.at(static_cast<std::size_t>(index)) = theVal; });
 }
 
 void OutputTemplateDateTime::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
@@ -253,6 +253,7 @@ void OutputTemplateDateTime::Parse(Text& text, TextView secondaryText) {
 
 void OutputTemplateDateTime::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mFormattedStr", mFormattedStr);
+    report.vbwReportVariable(u"mOutputTemplate", HostObjectRef());
     report.vbwReportVariable(u"mDateFormat", mDateFormat);
     report.vbwReportVariable(u"mParenthesize", mParenthesize);
     report.vbwReportVariable(u"mUseShortMonths", mUseShortMonths);

@@ -55,7 +55,7 @@ public:
 
     /// The part as it was read, by Value; any other index is reported and empty.
     Text value(std::int16_t index) const;
-    void value(std::int16_t index, TextView newValue);
+    void value(std::int16_t index, TextView theVal);
 
     /// Writes the parts that are there to the sink; the same in notes and in shortened form.
     void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;

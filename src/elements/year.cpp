@@ -44,8 +44,9 @@ bool isRangeOfNumbers(TextView text) {
 
 /// The four digits of the year that a date names, or nothing when the text is no date.
 std::optional<Text> yearOfDate(TextView text) {
-    // A number on its own is the commonest year and no date.
-    if (std::all_of(text.begin(), text.end(), isDigit) || isRangeOfNumbers(text)) {
+    // A number on its own is the commonest year and no date; behind "c." it has a blank in front.
+    const TextView year = trim(text);
+    if (std::all_of(year.begin(), year.end(), isDigit) || isRangeOfNumbers(year)) {
         return std::nullopt;
     }
     const std::optional<DateValue> date = dateWithItsYear(text);
