@@ -11,14 +11,15 @@ export LC_ALL=C.UTF-8
 export WINEPREFIX=${QUORVEL_WINEPREFIX:-$root/build/wine}
 export WINEARCH=win64
 export WINEDEBUG=${WINEDEBUG:--all}
-# No offer to download Mono or Gecko, no entries in the desktop's menus.
-export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe=d'
+# No offer to download Mono or Gecko, no entries in the desktop's menus; and no debugger when a program
+# crashes: its status is 0 after that at times.
+export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe,winedbg.exe=d'
 
 # build PRESET [TARGET...]: configures and builds a preset; only what changed is compiled.
 build() {
     local preset=$1
     shift
-    (cd "$root" && cmake --preset "$preset" && cmake --build --preset "$preset" ${*:+--target "$@"})
+    (cd "$root" && cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"})
 }
 
 # register_library: registers the 64-bit library in the Wine prefix.
