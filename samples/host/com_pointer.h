@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <unknwn.h>
+#include <objbase.h>
 
 #include <utility>
 
