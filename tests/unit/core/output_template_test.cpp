@@ -28,10 +28,13 @@ public:
                                bool) override {
         const std::vector<Text> current = texts;
         for (std::size_t i = 0; i < current.size(); ++i) {
-            if (formattedItems.at(i) == nullptr) {
-                items.at(i) = current[i];
-            } else if (!current[i].empty()) {
+            if (current[i].empty()) {
+                continue;
+            }
+            if (formattedItems.at(i) != nullptr) {
                 formattedItems[i]->Add(current[i], font);
+            } else {
+                items.at(i) = current[i];
             }
         }
         return hasNothing;
