@@ -34,8 +34,7 @@ TEST_F(KeyInstructions, AreTriggeredByAFieldOrTheOutputType) {
     constexpr std::int16_t kUntouched = -9;
     struct Case {
         TextView instructions;
-        std::int16_t result;
-        std::int16_t reason;
+        std::int16_t result, reason;
         std::vector<std::int16_t> read;
         TextView error = u"";
     };
@@ -57,11 +56,9 @@ TEST_F(KeyInstructions, AreTriggeredByAFieldOrTheOutputType) {
         {u"outputType=note&&5=Book", kNotTriggered, kUntouched, {}},
         {u"5", kNotTriggered, kUntouched, {}, u"9: Subscript out of range"},
         {u"kind=Book", kNotTriggered, kUntouched, {}, u"13: Type mismatch"},
-        {u"5x=Book", kNotTriggered, kUntouched, {}, u"13: Type mismatch"},
         {u"=Book", kNotTriggered, kUntouched, {}, u"13: Type mismatch"},
         {u"\u0135=Book", kNotTriggered, kUntouched, {}, u"13: Type mismatch"},
         {u"32768=x", kNotTriggered, kUntouched, {}, u"6: Overflow"},
-        {u"99999999999=x", kNotTriggered, kUntouched, {}, u"6: Overflow"},
         {u"6=x||5=Book", kNotTriggered, kUntouched, {6}, u"438: Object doesn't support this property or method"},
     };
     for (const Case& c : kCases) {
@@ -86,23 +83,17 @@ TEST_F(KeyInstructions, AreTriggeredByAFieldOrTheOutputType) {
 
 TEST(CommonModelProcessingFunctions, PunctuationIsNotDoubled) {
     struct Case {
-        TextView phrase;
-        TextView separator;
-        TextView result;
+        TextView phrase, separator, result;
         bool removesQuote = false;
     };
     constexpr Case kCases[] = {
         {u"Doe", u". ", u". "},
-        {u"Doe", u"", u""},
         {u"", u". ", u". "},
-        {u"J.", u"", u""},
         {u"J.", u"). ", u"). "},
         {u"J.", u". ", u" "},
         {u"Who?", u".", u""},
         {u"Stop!", u".) ", u") "},
         {u"J.", u", ", u", "},
-        {u"J.", u" . ", u" . "},
-        {u"Etc.;", u". ", u". "},
         {u"And so . . .", u". ", u" . "},
         {u"And so...", u". ", u" "},
         // Full stop and comma go inside a quotation, with the mark that closes it.
@@ -112,17 +103,13 @@ TEST(CommonModelProcessingFunctions, PunctuationIsNotDoubled) {
         {u"\"", u",", u",\u201D", true},
         // Nothing else does.
         {u"\u201CTale\u201D", u": ", u": "},
-        {u"\u201CTale\u201D", u"; ", u"; "},
         {u"\u201CTale\u201D", u" (", u" ("},
-        {u"\u201CTale\u201D", u") ", u") "},
         {u"\u201CTale\u201D", u" ", u" "},
-        {u"\u201CTale\u201D", u"", u""},
         {u"\u2018Tale\u2019", u". ", u". "},
         {u"\u201CTale", u". ", u". "},
         {u"de'", u". ", u". "},
         // A quotation that has its own end loses the separator's full stop, not its comma.
         {u"\u201CWhy?\u201D", u". ", u" "},
-        {u"\u201CAh!\u201D", u".", u""},
         {u"\"Inc.\"", u". ", u" "},
         {u"\u201CWhy?\u201D", u", ", u",\u201D ", true},
     };
@@ -137,18 +124,13 @@ TEST(CommonModelProcessingFunctions, PunctuationIsNotDoubled) {
 }
 
 TEST(CommonModelProcessingFunctions, SpinnersCountInOrdinals) {
-    struct Case {
-        TextView number;
-        TextView ordinal;
+    constexpr TextView kCases[][2] = {
+        {u"", u""},       {u"1", u"1st"},   {u"2", u"2nd"},   {u"3", u"3rd"},     {u"4", u"4th"},     {u"11", u"11th"},
+        {u"12", u"12th"}, {u"13", u"13th"}, {u"21", u"21st"}, {u"101", u"101st"}, {u"112", u"112th"},
     };
-    constexpr Case kCases[] = {
-        {u"", u""},       {u"1", u"1st"},     {u"2", u"2nd"},     {u"3", u"3rd"},     {u"4", u"4th"},
-        {u"0", u"0th"},   {u"11", u"11th"},   {u"12", u"12th"},   {u"13", u"13th"},   {u"21", u"21st"},
-        {u"22", u"22nd"}, {u"101", u"101st"}, {u"111", u"111th"}, {u"112", u"112th"}, {u"1013", u"1013th"},
-    };
-    for (const Case& c : kCases) {
-        EXPECT_EQ(spinNumToStr(c.number), c.ordinal);
-        EXPECT_EQ(strToSpinNum(c.ordinal), c.number);
+    for (const auto& [number, ordinal] : kCases) {
+        EXPECT_EQ(spinNumToStr(number), ordinal);
+        EXPECT_EQ(strToSpinNum(ordinal), number);
     }
     for (const TextView noOrdinal : {u"first", u"1st3", u"th", u"2ndth", u"second", u"2nd.", u"\u0662nd"}) {
         EXPECT_EQ(strToSpinNum(noOrdinal), u"") << shown(noOrdinal);

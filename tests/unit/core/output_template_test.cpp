@@ -99,19 +99,16 @@ TEST_F(OutputTemplate, TheNextFilledSlotAndTheVariantChooseTheSeparator) {
         bool isChecking;
         Checks checks;
         std::vector<Text> texts;
-        TextView reference;
-        TextView note;
+        TextView reference, note;
     };
     const Case kCases[] = {
         {u"b", false, {}, {u"A", u"B", u"C"}, u"b00|A|b01|B|b12|C|b2.", u"b00|A|b01|B|b12|C|b2."},
         {u"bn", false, {}, {u"A", u"", u"C"}, u"b00|A|b02|C|b2.", u"n00|A|n02|C|n2."},
-        {u"bn", false, {}, {u"", u"B", u""}, u"b11|B|b1.", u"n11|B|n1."},
         {u"bn", false, {}, {u"", u"", u""}, u"", u""},
         // Two lists with checking are no note list; one list serves all variants.
         {u"bk", true, {false, true}, {u"A", u"B", u"C"}, u"b00|A|b01|B|k12|C|b2.", u"b00|A|b01|B|k12|C|b2."},
         {u"b", true, {true}, {u"A", u"", u"C"}, u"b00|A|b02|C|b2.", u"b00|A|b02|C|b2."},
         {u"bnkm", true, {true, false, true}, {u"A", u"B", u"C"}, u"k00|A|k01|B|b12|C|k2.", u"m00|A|m01|B|n12|C|m2."},
-        {u"bnkm", true, {}, {u"A", u"B", u""}, u"b00|A|b01|B|b1.", u"n00|A|n01|B|n1."},
         // Without checking, four lists are split in halves.
         {u"bnkm", false, {}, {u"A", u"B", u"C"}, u"b00|A|b01|B|b12|C|b2.", u"k00|A|k01|B|k12|C|k2."},
     };
@@ -136,30 +133,15 @@ TEST_F(OutputTemplate, FragmentsKeepTheirFontsAndSeparatorsTheirs) {
     element.texts = {u"A", u"B", u"C"};
     EXPECT_EQ(output(), u"b00|A/1|b01/2|B|b12/4|C/1|b2./1");
     element.texts = {u"", u"B", u""};
-    EXPECT_EQ(output(), u"b11|B|b1./1") << "an empty fragment is blank, and nothing is left in it";
-    EXPECT_TRUE(element.assembly.isBlank(0));
-    EXPECT_FALSE(element.assembly.isBlank(1));
-    EXPECT_EQ(errors(), std::vector<Text>());
-
-    element.assembly.Reset(0, {1, 2, 3});
-    EXPECT_EQ(errors(), std::vector<Text>{u"9: Subscript out of range in QuorvelTemplate.OutputTemplate.Reset"});
-    element.assembly.Add(0, false, false, {u"(", u")"});
-    element.texts = {u"A"};
-    EXPECT_EQ(output(), u"(|A|)/2");
-}
-
-TEST_F(OutputTemplate, ANewLayoutHasNewFragments) {
-    layOut(1, u"b", false, {1});
-    element.texts = {u"", u"B"};
-    EXPECT_EQ(output(), u"b11|B/1|b1.");
-    layOut(1, u"b", false, {0});
+    EXPECT_EQ(output(), u"b11|B|b1./1") << "nothing is left in the fragments, and an empty one is blank";
+    // The next layouts have fragments and fonts of their own.
     element.texts = {u"A", u"B"};
-    EXPECT_EQ(output(), u"b00|A/1|b01|B|b1.");
-    layOut(0, u"b", false);
-    element.texts = {u"A"};
-    EXPECT_EQ(output(), u"b00|A|b0.");
-    element.assembly.Add(0, true, false, lists(u"b", 0, 0));
-    EXPECT_EQ(output(), u"b00|A/1|b0.") << "the first formatted slot, registered late";
+    layOut(1, u"b", false, {1});
+    EXPECT_EQ(output(), u"b00|A|b01|B/1|b1.");
+    layOut(1, u"b", false);
+    EXPECT_EQ(output(), u"b00|A|b01|B|b1.");
+    element.assembly.Add(1, true, false, lists(u"b", 1, 1));
+    EXPECT_EQ(output(), u"b00|A|b01|B/1|b1.") << "the first formatted slot, registered late";
     EXPECT_EQ(errors(), std::vector<Text>());
 }
 
@@ -173,15 +155,11 @@ TEST_F(OutputTemplate, SeparatorsLookAtTheEndOfTheirPhrase) {
     const Case kCases[] = {
         {u"Doe", false, u". ", u"<|Doe|. |Z|>"},
         {u"Doe, J.", false, u". ", u"<|Doe, J.| |Z|>"},
-        {u"Who?", true, u". ", u"<|Who?/1| |Z|>"},
-        {u"And . . .", false, u". ", u"<|And . . .| . |Z|>"},
         {u"\u201CTale\u201D", false, u". ", u"<|\u201CTale|.\u201D |Z|>"},
         // The mark keeps the font of its phrase, the rest of the separator stays plain.
         {u"\u201CTale\u201D", true, u", in ", u"<|\u201CTale/1|,\u201D/1| in |Z|>"},
         {u"\"Tale\"", true, u".", u"<|\"Tale/1|.\u201D/1||Z|>"},
         {u"\u201CA \u2018B\u2019\u201D", true, u",\u201D ", u"<|\u201CA \u2018B\u2019/1|,\u201D/1|\u201D |Z|>"},
-        {u"\u201CWhy?\u201D", true, u". ", u"<|\u201CWhy?\u201D/1| |Z|>"},
-        {u"\u201CTale\u201D", true, u": ", u"<|\u201CTale\u201D/1|: |Z|>"},
     };
     for (const Case& c : kCases) {
         element.assembly.Reset(1);
@@ -219,23 +197,18 @@ TEST_F(OutputTemplate, AFaultyLayoutIsReportedAndTheRestIsWritten) {
     EXPECT_EQ(output(), u"b00|A|b01|B||C|b2.");
     EXPECT_EQ(errors(), std::vector<Text>{missing}) << "slot 1 has no checking list";
 
-    struct Call {
-        std::function<void()> call;
-        TextView error;
+    const auto reports = [&](TextView error, const std::function<void()>& call) {
+        call();
+        EXPECT_EQ(errors(), std::vector<Text>{replaceAll(error, u" in ", u" in QuorvelTemplate.OutputTemplate.")});
     };
-    const Call kCalls[] = {
-        {[&] { element.assembly.Add(3, false, false, {}); }, u"9: Subscript out of range in OutputTemplate.Add"},
-        {[&] { element.assembly.Add(-1, false, false, {}); }, u"9: Subscript out of range in OutputTemplate.Add"},
-        {[&] { element.assembly.Reset(-1); }, u"9: Subscript out of range in OutputTemplate.Reset"},
-        {[&] { element.assembly.isBlank(-1); }, u"9: Subscript out of range in OutputTemplate.isBlank"},
-        {[&] { element.assembly.Initialize(nullptr); }, u"91: Object variable not set in OutputTemplate.Initialize"},
-        {[] { outputTemplate().toString(*std::make_unique<Element>(), false, false, true); },
-         u"91: Object variable not set in OutputTemplate.toString"},
-    };
-    for (const Call& c : kCalls) {
-        c.call();
-        EXPECT_EQ(errors(), std::vector<Text>{replaceAll(c.error, u" in ", u" in QuorvelTemplate.")});
-    }
+    reports(u"9: Subscript out of range in Add", [&] { element.assembly.Add(3, false, false, {}); });
+    reports(u"9: Subscript out of range in Add", [&] { element.assembly.Add(-1, false, false, {}); });
+    reports(u"9: Subscript out of range in Reset", [&] { element.assembly.Reset(-1); });
+    reports(u"9: Subscript out of range in Reset", [&] { element.assembly.Reset(0, {1, 2, 3}); });
+    reports(u"9: Subscript out of range in isBlank", [&] { element.assembly.isBlank(-1); });
+    reports(u"91: Object variable not set in Initialize", [&] { element.assembly.Initialize(nullptr); });
+    reports(u"91: Object variable not set in toString",
+            [&] { outputTemplate().toString(element, false, false, true); });
 }
 
 TEST_F(OutputTemplate, TheElementsOwnSinkGivesPlainTextAndRTF) {
@@ -285,7 +258,6 @@ TEST_F(OutputTemplate, FragmentsThatFailAtAnyCallAreReportedAndReplaced) {
         run();
         EXPECT_NE(errors(), std::vector<Text>()) << "call " << n;
         EXPECT_EQ(run(), kWhole) << "call " << n;
-        EXPECT_EQ(errors(), std::vector<Text>());
     }
     EXPECT_GT(calls, 6);
 }
