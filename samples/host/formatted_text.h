@@ -35,7 +35,7 @@ public:
 
     bool isEmpty() const { return mPhrases.empty(); }
     std::wstring toString() const;
-    std::string toRtf() const { return rtfDocument({toRtfBody()}); }
+    std::string toRtf() const { return rtfDocument({{toRtfBody(), ""}}); }
     /// The inside of a paragraph, for a document that joins many.
     std::string toRtfBody() const { return rtfBody(mPhrases); }
 

@@ -18,6 +18,22 @@ struct ExceptionInfo : EXCEPINFO {
     }
 };
 
+struct FailureText {
+    HRESULT code;
+    const wchar_t* text;
+};
+
+// Failures of a call by name, for which not every system has a text.
+constexpr FailureText kFailureTexts[] = {
+    {DISP_E_UNKNOWNNAME, L"There is no member or argument of this name."},
+    {DISP_E_MEMBERNOTFOUND, L"The member cannot be called in this way."},
+    {DISP_E_BADPARAMCOUNT, L"The number of arguments is wrong."},
+    {DISP_E_PARAMNOTFOUND, L"An argument is missing."},
+    {DISP_E_PARAMNOTOPTIONAL, L"An argument that is not optional is missing."},
+    {DISP_E_TYPEMISMATCH, L"An argument has the wrong type."},
+    {DISP_E_NONAMEDARGS, L"The member takes no named arguments."},
+};
+
 Variant valueOrThrow(CallResult result) {
     if (!result.ok()) throw ComError{result.code, result.error};
     return std::move(result.value);
@@ -30,6 +46,9 @@ CallResult failure(HRESULT code, const std::wstring& member, const std::wstring&
 }  // namespace
 
 std::wstring describe(HRESULT code) {
+    for (const FailureText& known : kFailureTexts) {
+        if (known.code == code) return known.text;
+    }
     wchar_t* text = nullptr;
     const DWORD length =
         FormatMessageW(FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS,
@@ -125,7 +144,7 @@ CallResult LateBoundObject::tryCall(const std::wstring& member, WORD kinds, cons
         result.error = member + L": " + describe(result.code);
         if (result.code == DISP_E_TYPEMISMATCH || result.code == DISP_E_PARAMNOTFOUND) {
             const bool isNamed = badArgument < namedArguments.size();
-            result.error += L", argument " +
+            result.error += L" Argument: " +
                             (isNamed ? namedArguments[badArgument].name : std::to_wstring(passed.size() - badArgument));
         }
     }

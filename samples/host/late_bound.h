@@ -53,7 +53,7 @@ private:
     ComPointer<IDispatch> mObject;
 };
 
-/// The system's own text for a failure code, without line ends.
+/// What a failure code means, on one line.
 std::wstring describe(HRESULT code);
 
 }  // namespace sample

@@ -12,10 +12,10 @@
 #include "bridge_to_vb.h"
 #include "command_line.h"
 #include "error_report_service.h"
+#include "listings.h"
 #include "references.h"
 #include "styled_elements.h"
 #include "text_io.h"
-#include "text_table.h"
 
 namespace sample {
 
@@ -50,81 +50,17 @@ Style namedStyle(const std::wstring& name) {
     throw ComError{E_INVALIDARG, L"There is no style " + name + L": give mla, apa, turabian or ama."};
 }
 
-std::wstring shown(const ComPointer<FormattedText>& text) {
-    return text->isEmpty() ? L"(empty)" : text->toString();
-}
-
-std::wstring heading(std::size_t index, const Reference& reference) {
-    return std::to_wstring(index + 1) + L". " + reference.label();
-}
-
-void printAll(std::vector<StyledElements>& styles, const std::vector<Reference>& references) {
-    const TextTable table({12, 19, 19, 19, 19, 19});
-    const TextTable headingTable({115});
-    std::vector<std::wstring> headings{L"element", L"as written"};
-    for (const StyledElements& elements : styles) headings.push_back(elements.style().name);
-    print(table.row(headings) + table.rule());
-    for (std::size_t i = 0; i < references.size(); ++i) {
-        print(headingTable.row({heading(i, references[i])}));
-        for (const ReferenceElement& element : references[i].elements) {
-            std::vector<std::wstring> row{L"  " + element.name, element.text};
-            std::vector<std::wstring> noteRow{L"    in notes", L""};
-            bool isOffered = false;
-            bool hasOwnNote = false;
-            for (StyledElements& elements : styles) {
-                const std::optional<FormattedElement> formatted = elements.format(element.name, element.text);
-                isOffered = isOffered || formatted.has_value();
-                row.push_back(formatted ? shown(formatted->reference) : L"");
-                noteRow.push_back(formatted ? shown(formatted->note) : L"");
-                hasOwnNote = hasOwnNote || row.back() != noteRow.back();
-            }
-            if (isOffered) print(table.row(row));
-            if (hasOwnNote) print(table.row(noteRow));
-        }
-        print(L"\n");
-    }
-}
-
-void printStyle(StyledElements& elements, const std::vector<Reference>& references) {
-    const TextTable table({14, 48, 48});
-    print(elements.style().manual + L"\n\n" + table.row({L"element", L"reference list", L"note"}) + table.rule());
-    for (std::size_t i = 0; i < references.size(); ++i) {
-        print(heading(i, references[i]) + L"\n");
-        for (const ReferenceElement& element : references[i].elements) {
-            const std::optional<FormattedElement> formatted = elements.format(element.name, element.text);
-            if (!formatted) continue;
-            print(table.row({L"  " + element.name, shown(formatted->reference), shown(formatted->note)}));
-        }
-        print(L"\n");
-    }
-}
-
-void printRtf(StyledElements& elements, const std::vector<Reference>& references) {
-    std::vector<std::string> paragraphs{rtfBody({{elements.style().manual, kBold | kSmallCapitals}})};
-    for (std::size_t i = 0; i < references.size(); ++i) {
-        paragraphs.push_back(rtfBody({{heading(i, references[i]), kBold}}));
-        for (const ReferenceElement& element : references[i].elements) {
-            const std::optional<FormattedElement> formatted = elements.format(element.name, element.text);
-            if (!formatted) continue;
-            paragraphs.push_back(rtfBody({{L"\t" + element.name + L":\t", kPlain}}) +
-                                 formatted->reference->toRtfBody() + rtfBody({{L"\tnote:\t", kPlain}}) +
-                                 formatted->note->toRtfBody());
-        }
-    }
-    print(fromUtf8(rtfDocument(paragraphs)));
-}
-
 void formatReferences(const CommandLine& line, const std::vector<Style>& styles,
                       const std::vector<Reference>& references) {
     const LateBoundObject library = LateBoundObject::create(kLibraryClass);
     std::vector<StyledElements> elements;
     for (const Style& style : styles) elements.emplace_back(library, style);
     if (line.all) {
-        printAll(elements, references);
+        printStylesSideBySide(elements, references);
     } else if (line.rtf) {
-        printRtf(elements[0], references);
+        printAsRtf(elements.front(), references);
     } else {
-        printStyle(elements[0], references);
+        printStyle(elements.front(), references);
     }
 }
 

@@ -20,7 +20,7 @@ constexpr FontWord kFontWords[] = {
 constexpr const char* kHead =
     "{\\rtf1\\ansi\\ansicpg1252\\deff0\\uc1\r\n"
     "{\\fonttbl{\\f0\\froman\\fcharset0 Times New Roman;}}\r\n";
-constexpr const char* kParagraphHead = "\\pard\\plain\\f0\\fs24 ";
+constexpr const char* kParagraphHead = "\\pard\\plain\\f0\\fs24";
 
 void appendCharacter(std::string& rtf, wchar_t character) {
     switch (character) {
@@ -60,9 +60,11 @@ std::string rtfBody(const std::vector<Phrase>& phrases) {
     return rtf;
 }
 
-std::string rtfDocument(const std::vector<std::string>& bodies) {
+std::string rtfDocument(const std::vector<RtfParagraph>& paragraphs) {
     std::string rtf = kHead;
-    for (const std::string& body : bodies) rtf += kParagraphHead + body + "\\par\r\n";
+    for (const RtfParagraph& paragraph : paragraphs) {
+        rtf += kParagraphHead + paragraph.format + " " + paragraph.body + "\\par\r\n";
+    }
     return rtf + "}\r\n";
 }
 

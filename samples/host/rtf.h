@@ -25,7 +25,13 @@ struct Phrase {
 /// The phrases as the inside of a paragraph, in plain ASCII. It can be put into any document.
 std::string rtfBody(const std::vector<Phrase>& phrases);
 
-/// A whole document of one paragraph for each body.
-std::string rtfDocument(const std::vector<std::string>& bodies);
+struct RtfParagraph {
+    std::string body;
+    /// RTF control words, such as tab stops; may be empty.
+    std::string format;
+};
+
+/// A whole document.
+std::string rtfDocument(const std::vector<RtfParagraph>& paragraphs);
 
 }  // namespace sample
