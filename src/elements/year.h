@@ -20,7 +20,7 @@ namespace quorvel {
 ///   [1990]                               4 supplied           1990
 ///   forthcoming, In press                5 not yet published
 ///
-/// Styles: MLA 7 5.5.24, APA 6 6.28, Turabian 7 17.1.3, AMA 10 3.12.
+/// Styles: MLA 7 5.5.24, APA 6 6.28, Turabian 7 17.1.6, AMA 10 3.12.
 class OutputTemplateYear final : public Instrumented {
 public:
     /// Values of `yearType`. They are part of the interface.
