@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "core/vbwprotector.h"
+#include "core/procedure.h"
 #include "host/com/arrays.h"
 #include "host/com/com_ptr.h"
 #include "host/com/dispatch_table.h"
@@ -160,6 +160,19 @@ protected:
         } catch (...) {  // NOLINT(bugprone-empty-catch): procedures trap their errors; only memory can run out here
         }
         return S_OK;
+    }
+
+    /// The body of a member that reads arguments of a type of their own (an array, an index or none): what
+    /// fails there is reported as an error of the procedure, and the member does nothing.
+    template <class Body>
+    HRESULT call(const Name& procedure, Body&& body) noexcept {
+        return call([&] {
+            try {
+                body();
+            } catch (...) {
+                reportCurrentException(VBWPROTECTOR::ofThisApartment(), procedure, nullptr);
+            }
+        });
     }
 
     /// The body of a member with a result, which is the empty value when the body has none to give.

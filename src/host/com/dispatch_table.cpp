@@ -84,14 +84,23 @@ ComPtr<ITypeInfo> vtableInfoOf(ITypeInfo* dispatchInfo) {
     return info;
 }
 
+bool isOptional(const PARAMDESC& description) {
+    return (description.wParamFlags & (PARAMFLAG_FOPT | PARAMFLAG_FHASDEFAULT)) != 0;
+}
+
 void copyDefault(const PARAMDESC& description, Variant& defaultValue) {
     if ((description.wParamFlags & PARAMFLAG_FHASDEFAULT) != 0 && description.pparamdescex != nullptr) {
         VariantCopy(&defaultValue, &description.pparamdescex->varDefaultValue);
     }
 }
 
+/// What a caller passes for an argument that he leaves out.
 bool isMissing(const VARIANT& value) {
-    return value.vt == VT_EMPTY || value.vt == VT_NULL || (value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND);
+    return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND;
+}
+
+bool isNull(const VARIANT& value) {
+    return value.vt == VT_EMPTY || value.vt == VT_NULL;
 }
 
 /// The empty value of a type: False, 0, "", Nothing.
@@ -139,14 +148,21 @@ public:
         assignSources(parameters);
     }
 
+    bool lacksArguments() const {
+        for (std::size_t i = 0; i < mValues.size(); ++i) {
+            if (mSources[i] == nullptr && !mMember.parameters[i].isOptional) {
+                return true;
+            }
+        }
+        return false;
+    }
+
     HRESULT bringArguments() {
         for (std::size_t i = 0; i < mValues.size(); ++i) {
             const Parameter& declared = mMember.parameters[i];
-            Variant missing;
-            const VARIANT& source = mSources[i] != nullptr ? dereferenced(*mSources[i]) : missing;
             HRESULT outcome = S_OK;
-            if (!isMissing(source)) {
-                outcome = bring(source, declared.type, mValues[i]);
+            if (mSources[i] != nullptr && !isNull(dereferenced(*mSources[i]))) {
+                outcome = bring(*mSources[i], declared.type, mValues[i]);
             } else if (mSources[i] == nullptr && declared.defaultValue.vt != VT_EMPTY) {
                 outcome = convert(declared.defaultValue, declared.type, mValues[i]);
             } else {
@@ -214,6 +230,11 @@ private:
         std::size_t next = 0;
         for (UINT i = parameters.cArgs; i-- > parameters.cNamedArgs && next < mSources.size();) {
             mSources[next++] = &parameters.rgvarg[i];
+        }
+        for (VARIANTARG*& source : mSources) {
+            if (source != nullptr && isMissing(dereferenced(*source))) {
+                source = nullptr;
+            }
         }
     }
 
@@ -314,6 +335,7 @@ bool DispatchTable::readMembers() {
             Parameter parameter;
             parameter.type = valueType(element.tdesc);
             parameter.isByReference = isPointerTo(element.tdesc);
+            parameter.isOptional = isOptional(element.paramdesc);
             copyDefault(element.paramdesc, parameter.defaultValue);
             member.parameters.push_back(std::move(parameter));
         }
@@ -355,6 +377,9 @@ HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DI
         fail(ErrorNumber::WrongNumberOfArguments);
     }
     Call call(*member, parameters);
+    if (call.lacksArguments()) {
+        fail(ErrorNumber::ArgumentNotOptional);
+    }
     HRESULT outcome = call.bringArguments();
     if (SUCCEEDED(outcome)) {
         outcome = call.run(object, value);

@@ -24,10 +24,10 @@ public:
     ITypeInfo* typeInfo() const { return mDispatchInfo.get(); }
 
     /// Calls a member with whatever arguments the caller has: by value or by reference, named or
-    /// positional, null, missing, too many. An argument is brought to its declared type; a missing or
-    /// null one takes its default or the empty value; surplus ones are left out. An argument that does
-    /// not convert is a run-time error of the member, which then does not run and returns the empty value
-    /// of its type.
+    /// positional, null, missing, too many. An argument is brought to its declared type; a null one is the
+    /// empty value, a missing one its default or the empty value. That a missing one is not optional, or
+    /// that there are surplus ones, is reported, and the member runs. An argument that does not convert is
+    /// a run-time error of the member, which then does not run and returns the empty value of its type.
     /// @return S_OK whenever the interface has the member
     HRESULT invoke(IDispatch* object, DISPID id, WORD flags, const DISPPARAMS& parameters, VARIANT* result) const;
 
@@ -35,6 +35,7 @@ private:
     struct Parameter {
         VARTYPE type = VT_EMPTY;
         bool isByReference = false;
+        bool isOptional = false;
         Variant defaultValue;
     };
     struct Member {
