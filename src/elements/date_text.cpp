@@ -84,7 +84,7 @@ bool namesYear(TextView text, int year) {
     const bool isComplete = hasDayMonthAndYear(parts);
     return std::any_of(parts.numbers.begin(), parts.numbers.end(), [&](TextView number) {
         const int value = valueOf(number);
-        return value == year || (value == year % 100 && (value > kLastDay || isComplete));
+        return value == year || (number.size() == 2 && value == year % 100 && (value > kLastDay || isComplete));
     });
 }
 
