@@ -67,5 +67,32 @@ TEST(CommonTestingFunctions, ShortMonthsAreThoseOfMLA) {
     }
 }
 
+TEST(CommonTestingFunctions, DatesAreWrittenByThePattern) {
+    struct Case {
+        TextView text;
+        Text pattern;
+        TextView result, patternAfter;
+    };
+    const Case kCases[] = {
+        {u"", u"mmmm d, yyyy", u"", u"mmmm d, yyyy"},
+        {u"5 may 1990", u"mmmm d, yyyy", u"May 5, 1990", u"mmmm d, yyyy"},
+        {u"Sept 5, 2010", u"d mmm yyyy", u"5 Sept. 2010", u"d mmm yyyy"},
+        {u"June 5, 2010", u"mmm d", u"June 5", u"mmm d"},
+        // Two words are month and year, whose pattern loses its day; a time keeps it.
+        {u"June 2010", u"mmmm d, yyyy", u"June, 2010", u"mmmm, yyyy"},
+        {u"jan 2010", u"D MMM yyyy", u"Jan. 2010", u"MMM yyyy"},
+        {u"early 10:30", u"mmmm d, yyyy", u"early 10:30", u"mmmm d, yyyy"},
+        // What is no date keeps its words but for the abbreviated months.
+        {u"Sep issue", u"yyyy mm d", u"September issue", u"yyyy mm"},
+        {u"no date at all", u"yyyy", u"November date at all", u"yyyy"},
+        {u"n.d.", u"yyyy", u"n.d.", u"yyyy"},
+    };
+    for (const Case& c : kCases) {
+        Text pattern = c.pattern;
+        EXPECT_EQ(FormatDate(c.text, pattern), c.result) << shown(c.text);
+        EXPECT_EQ(pattern, c.patternAfter) << shown(c.text);
+    }
+}
+
 }  // namespace
 }  // namespace quorvel
