@@ -7,8 +7,8 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -69,17 +69,32 @@ std::string resolve(const fs::path& file, const std::string& header) {
     return {};
 }
 
+/// The header that a line includes, with its delimiters; empty when it includes none.
+std::string headerOf(const std::string& line) {
+    std::istringstream words(line);
+    std::string word;
+    words >> word;
+    if (word == "#") {
+        words >> word;
+        word.insert(0, "#");
+    }
+    const std::size_t open = line.find_first_of("\"<");
+    if (!word.starts_with("#include") || open == std::string::npos) {
+        return {};
+    }
+    return line.substr(open, line.find(line[open] == '<' ? '>' : '"', open + 1) - open + 1);
+}
+
 /// Calls back with each file under the folder and each header that it includes.
 template <class Visit>
 void forEachInclude(const fs::path& folder, Visit visit) {
-    static const std::regex kSource(R"(\.(h|hpp|cpp|c|inc|idl|rc))");
-    static const std::regex kInclude(R"(^\s*#\s*include\s*("[^"]*"|<[^>]*>))");
+    static const std::set<std::string> kExtensions = {".h", ".hpp", ".cpp", ".c", ".inc", ".idl", ".rc"};
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(folder)) {
-        if (entry.is_regular_file() && std::regex_match(entry.path().extension().string(), kSource)) {
+        if (entry.is_regular_file() && kExtensions.contains(entry.path().extension().string())) {
             std::ifstream stream(entry.path());
             for (std::string line; std::getline(stream, line);) {
-                if (std::smatch match; std::regex_search(line, match, kInclude)) {
-                    visit(entry.path(), match[1].str());
+                if (const std::string header = headerOf(line); !header.empty()) {
+                    visit(entry.path(), header);
                 }
             }
         }
@@ -88,25 +103,27 @@ void forEachInclude(const fs::path& folder, Visit visit) {
 
 TEST(Architecture, TheRuleKnowsGoodFromBad) {
     struct Case {
-        std::string file, header, resolved;
+        std::string file, line, resolved;
         bool isGood;
     };
     const Case kCases[] = {
-        {"core/a.h", "\"core/b.h\"", "core/b.h", true},
-        {"core/a.h", "<vector>", "", true},
-        {"core/a.h", "<windows.h>", "", false},
-        {"core/a.h", "\"platform/b.h\"", "platform/b.h", false},
-        {"core/a.h", "\"../elements/b.h\"", "elements/b.h", false},
-        {"core/a.h", "\"gone.h\"", "", false},
-        {"platform/a.cpp", "<windows.h>", "", true},
-        {"forms/a.cpp", "\"forms/win/b.h\"", "forms/win/b.h", false},
-        {"forms/win/a.cpp", "\"host/b.h\"", "host/b.h", false},
-        {"host/com/a.cpp", "\"forms/win/b.h\"", "forms/win/b.h", true},
-        {"other/a.cpp", "<vector>", "", false},
+        {"core/a.h", "#include \"core/b.h\"", "core/b.h", true},
+        {"core/a.h", "#include <vector>", "", true},
+        {"core/a.h", "#include <windows.h>", "", false},
+        {"core/a.h", "  #  include \"platform/b.h\"", "platform/b.h", false},
+        {"core/a.h", "#include \"../elements/b.h\"", "elements/b.h", false},
+        {"core/a.h", "#include \"gone.h\"", "", false},
+        {"platform/a.cpp", "#include <windows.h>", "", true},
+        {"forms/a.cpp", "#include \"forms/win/b.h\"", "forms/win/b.h", false},
+        {"forms/win/a.cpp", "#include \"host/b.h\"", "host/b.h", false},
+        {"host/com/a.cpp", "#include \"forms/win/b.h\"", "forms/win/b.h", true},
+        {"other/a.cpp", "#include <vector>", "", false},
     };
     for (const Case& c : kCases) {
-        EXPECT_EQ(offence(c.file, c.header, c.resolved).empty(), c.isGood) << c.file << " and " << c.header;
+        EXPECT_EQ(offence(c.file, headerOf(c.line), c.resolved).empty(), c.isGood) << c.file << ": " << c.line;
     }
+    EXPECT_EQ(headerOf("// #include <vector>"), "");
+    EXPECT_EQ(headerOf("#define HEADER \"core/text.h\""), "");
 }
 
 TEST(Architecture, NoSourceIncludesALayerAboveItsOwn) {
@@ -123,13 +140,12 @@ TEST(Architecture, NoSourceIncludesALayerAboveItsOwn) {
 }
 
 TEST(Architecture, TheSamplesStandOnTheirOwn) {
-    const fs::path samples = kProject / "samples";
-    if (!fs::exists(samples)) {
-        GTEST_SKIP() << "no samples yet";
-    }
-    forEachInclude(samples, [&](const fs::path& path, const std::string& header) {
+    int includes = 0;
+    forEachInclude(kProject / "samples", [&](const fs::path& path, const std::string& header) {
         EXPECT_EQ(resolve(path, header), "") << path.lexically_relative(kProject) << " includes " << header;
+        ++includes;
     });
+    EXPECT_GT(includes, 0) << "no sample was read";
 }
 
 }  // namespace
