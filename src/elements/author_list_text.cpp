@@ -1,0 +1,76 @@
+#include "elements/author_list_text.h"
+
+#include <algorithm>
+
+namespace quorvel::authorwords {
+
+void AuthorListText::assign(Text text) {
+    mText = std::move(text);
+    if (mWords.capacity() == 0) {
+        mWords.reserve(kUsualWords);
+        mPieces.reserve(kUsualPieces);
+    }
+    mFeatures = splitIntoWords(mText, mWords);
+    mIsShouted = authorwords::isShouted(mWords);
+    if (mIsShouted) {
+        // "SMITH, JOHN": a run of capitals is a name, only a single one is an initial.
+        for (Word& word : mWords) {
+            if (word.shape == Shape::Capitals && word.text.size() > 2) {
+                word.shape = Shape::Name;
+            }
+        }
+    }
+}
+
+bool isPostfixAt(WordSpan words, std::size_t index) {
+    const Word& word = words[index];
+    if (!word.is(kPostfix)) {
+        return false;
+    }
+    if (word.shape != Shape::Capitals) {
+        return true;
+    }
+    const bool isRoman = word.text.find_first_not_of(u"IV") == TextView::npos;
+    return (isRoman && (index == 0 || index >= 2)) || (index >= 2 && words[index - 1].isInitials());
+}
+
+WordSpan withoutPostfix(WordSpan words) {
+    while (words.size() > 1 && isPostfixAt(words, words.size() - 1)) {
+        words = words.first(words.size() - 1);
+    }
+    return words;
+}
+
+TextView textOf(WordSpan words) {
+    return words.empty() ? TextView() : textOf(words.front(), words.back());
+}
+
+PieceKind kindOf(WordSpan words) {
+    // A lone "MD" can be the initials of a reversed name, which the reader knows from the place.
+    if (words.front().is(kPostfix | kDegree) && (words.front().is(kDegree) || isPostfixAt(words, 0)) &&
+        std::all_of(words.begin(), words.end(), [](const Word& word) { return word.is(kPostfix | kDegree); })) {
+        return PieceKind::Postfix;
+    }
+    words = withoutPostfix(words);
+    // "Sartre, J.-P. [Paul]"; "Beethoven, L. van".
+    while (words.size() > 1 && (words.back().isBracketed || (words.back().isLower() && words.front().isInitials()))) {
+        words = words.first(words.size() - 1);
+    }
+    const auto isInitial = [](const Word& word) { return word.isInitials() || word.shape == Shape::Abbreviation; };
+    if (std::all_of(words.begin(), words.end(), isInitial)) {
+        return PieceKind::Initials;
+    }
+    const std::size_t last = words.size() - 1;
+    if (last > 0 && words[last].shape == Shape::Capitals && !words[0].isInitials()) {
+        return PieceKind::Compact;
+    }
+    if (last > 0 && words[last].shape == Shape::Initial) {
+        return PieceKind::EndsWithInitial;
+    }
+    if (std::any_of(words.begin(), words.end(), [](const Word& word) { return word.isInitials(); })) {
+        return PieceKind::Direct;
+    }
+    return words.size() == 1 ? PieceKind::Single : PieceKind::Multiple;
+}
+
+}  // namespace quorvel::authorwords

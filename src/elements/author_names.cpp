@@ -1,0 +1,222 @@
+#include <algorithm>
+
+#include "core/common_testing_functions.h"
+#include "core/letter_case.h"
+#include "core/procedure.h"
+#include "elements/author.h"
+
+/// From a name in direct order to its parts: where the last name begins, postfixes, prefixes.
+namespace quorvel {
+
+using namespace authorwords;
+
+namespace {
+
+// Numerals that people bear; the other Roman digits are initials.
+constexpr TextView kPostfixDigits = u"IVX";
+// The patronymic ending of Spanish last names: "Márquez", "Sánchez".
+constexpr TextView kPatronymicEnding = u"ez";
+constexpr std::size_t kShortestPatronymic = 5;
+// "de" that stands with the first names: "Beauvoir, Simone de".
+constexpr TextView kNamesWithoutDe[] = {u"brigron", u"beauvoir"};
+// Before these a "de" opens a second first name, not the last name: "Maria de Lourdes Silva".
+constexpr TextView kNamesBeforeDe[] = {u"Maria", u"María", u"Marie"};
+// Moved in front of the last name: "Hakim, Tawfiq al-".
+constexpr TextView kApostrophePrefixes[] = {u"al-", u"el-", u"Al-", u"El-", u"de'", u"de\u2019"};
+constexpr TextView kArabicPrefixes[] = {u"al-", u"el-", u"Al-", u"El-"};
+
+template <std::size_t N>
+bool isOneOf(TextView text, const TextView (&values)[N]) {
+    return std::find(std::begin(values), std::end(values), text) != std::end(values);
+}
+
+/// "Neuenschwander-el Massioui": the particle hangs on the word before.
+bool endsWithHyphenedParticle(const Word& word) {
+    const std::size_t hyphen = word.text.rfind(u'-');
+    return hyphen != TextView::npos && hyphen > 0 && hyphen + 1 < word.text.size() &&
+           wordOf(word.text.substr(hyphen + 1)).isLower() && wordOf(word.text.substr(hyphen + 1)).is(kParticle);
+}
+
+/// "Wu-chi": a given name as Chinese and Japanese names were romanised, with a small letter behind the
+/// hyphen.
+bool isHyphenedGivenName(TextView text) {
+    const std::size_t hyphen = text.find(u'-');
+    return hyphen != TextView::npos && hyphen > 0 && hyphen + 1 < text.size() && isCapital(text[0]) &&
+           text[hyphen + 1] >= u'a' && text[hyphen + 1] <= u'z';
+}
+
+bool isHyphen(char16_t unit) {
+    return unit == u'-' || unit == u'\u2010' || unit == u'\u2011';
+}
+
+/// "A.T.", "JM", "C-C", "J": letters that each stand for a name.
+bool areInitials(TextView word, bool isShouted) {
+    std::size_t letters = 0;
+    bool hasSigns = false;
+    for (const char16_t unit : word) {
+        if (unit == u'.' || isHyphen(unit)) {
+            hasSigns = true;
+        } else if (isCapital(unit)) {
+            ++letters;
+        } else {
+            return false;
+        }
+    }
+    return letters > 0 && (hasSigns || letters <= (isShouted ? 1U : 5U));
+}
+
+/// Writes "J. M." for "JM", "C.-C." for "C-C", "A. T." for "A.T.".
+void appendInitials(TextView word, Text& firstNames) {
+    bool isFirst = true;
+    for (std::size_t i = 0; i < word.size(); ++i) {
+        if (!isCapital(word[i])) {
+            continue;
+        }
+        if (!isFirst) {
+            firstNames.push_back(isHyphen(word[i - 1]) ? u'-' : u' ');
+        }
+        firstNames.push_back(word[i]);
+        firstNames.push_back(u'.');
+        isFirst = false;
+    }
+}
+
+}  // namespace
+
+/// The first names with each initial on its own and with its full stop, however they were printed.
+void OutputTemplateAuthor::writeFirstNames(const Person& person, Text& firstNames) {
+    for (std::size_t from = 0; from < person.first.size();) {
+        const std::size_t end = std::min(person.first.find(u' ', from), person.first.size());
+        const TextView word = person.first.substr(from, end - from);
+        if (!firstNames.empty()) {
+            firstNames.push_back(u' ');
+        }
+        if (areInitials(word, person.isShouted)) {
+            appendInitials(word, firstNames);
+        } else {
+            firstNames.append(word);
+        }
+        from = end + 1;
+    }
+    if (!person.supplied.empty()) {
+        firstNames.append(firstNames.empty() ? u"" : u" ").append(person.supplied);
+    }
+}
+
+/// "Chao Wu-chi", "Kurosawa Akira": the last name stands first without a comma.
+bool OutputTemplateAuthor::isLastNameFirst(WordSpan words) {
+    return words.size() == 2 && !words[0].is(kFirstName) && words[0].shape == Shape::Name &&
+           words[1].shape == Shape::Name && (words[0].is(kEastAsianLastName) || isHyphenedGivenName(words[1].text));
+}
+
+bool OutputTemplateAuthor::beginsWithThe(WordSpan words) {
+    return words.size() > 1 && words[0].text == u"The";
+}
+
+/// The index of the last word of the first names, -1 when there are none: the last name begins at the
+/// first word that belongs to one.
+std::int16_t OutputTemplateAuthor::getFirstNameUbound(WordSpan words) const {
+    return procedure(*this, u"OutputTemplateAuthor.getFirstNameUbound", {{u"words", authorwords::textOf(words)}},
+                     [&]() -> std::int16_t {
+                         const auto n = std::min<std::size_t>(words.size(), INT16_MAX);
+                         if (n < 2 || isArabicName(words) || (words[0].isLower() && isPartialLastName(words[0]))) {
+                             return -1;
+                         }
+                         std::size_t begin = n - 1;
+                         if (words[begin].is(kFamilySuffix) && n > 2) {
+                             --begin;
+                         }
+                         for (std::size_t i = 1; i < begin; ++i) {
+                             const bool isSecondFirstName = words[i].isLower() && i + 2 < n && words[i + 1].isName() &&
+                                                            !words[i + 2].isLower() &&
+                                                            isOneOf(words[i - 1].text, kNamesBeforeDe);
+                             if (isSecondFirstName) {
+                                 ++i;
+                                 continue;
+                             }
+                             if (isSpanishY(words[i])) {
+                                 begin = std::max<std::size_t>(i - 1, 1);
+                             } else if (isPartialLastName(words[i]) || endsWithHyphenedParticle(words[i])) {
+                                 begin = i;
+                             }
+                         }
+                         if (begin + 2 == n && words[begin].isLower() && dePartOfFirstName(words[begin + 1])) {
+                             ++begin;
+                         }
+                         return static_cast<std::int16_t>(begin - 1);
+                     });
+}
+
+/// Whether a word that is neither the first nor the last begins the last name.
+bool OutputTemplateAuthor::isPartialLastName(const Word& word) const {
+    return procedure(*this, u"OutputTemplateAuthor.isPartialLastName", {{u"word", word.text}}, [&] {
+        if (word.isInitials()) {
+            return false;
+        }
+        const bool isPatronymic =
+            word.text.size() >= kShortestPatronymic && endsWith(word.text, kPatronymicEnding) && !word.is(kFirstName);
+        return word.is(kParticle | kPartialLastName) || word.isLower() || isPatronymic || isArabicLastName(word);
+    });
+}
+
+/// The "de" before this name stands with the first names.
+bool OutputTemplateAuthor::dePartOfFirstName(const Word& lastName) const {
+    return procedure(*this, u"OutputTemplateAuthor.dePartOfFirstName", {{u"lastName", lastName.text}},
+                     [&] { return isOneOf(toLower(lastName.text), kNamesWithoutDe); });
+}
+
+/// "Ibn Khaldun", "Ibn al-Haytham": no first names.
+bool OutputTemplateAuthor::isArabicName(WordSpan words) const {
+    return procedure(*this, u"OutputTemplateAuthor.isArabicName", {{u"words", authorwords::textOf(words)}}, [&] {
+        return words.size() > 1 && words[0].is(kArabicOpening) && (words.size() == 2 || isArabicLastName(words[1]));
+    });
+}
+
+bool OutputTemplateAuthor::isArabicLastName(const Word& word) const {
+    return procedure(*this, u"OutputTemplateAuthor.isArabicLastName", {{u"word", word.text}}, [&] {
+        return word.is(kArabicOpening) ||
+               std::any_of(std::begin(kArabicPrefixes), std::end(kArabicPrefixes), [&](TextView prefix) {
+                   return word.text.size() > prefix.size() && startsWith(word.text, prefix);
+               });
+    });
+}
+
+/// "Hakim, Tawfiq al-" is al-Hakim, "Medici, Lorenzo de'" is de' Medici.
+void OutputTemplateAuthor::moveApostrophePrefix(Person& person) const {
+    procedure(*this, u"OutputTemplateAuthor.moveApostrophePrefix", {{u"firstNames", person.first}}, [&] {
+        const std::size_t blank = person.first.rfind(u' ');
+        if (blank == TextView::npos || !isOneOf(person.first.substr(blank + 1), kApostrophePrefixes)) {
+            return;
+        }
+        person.prefix = person.first.substr(blank + 1);
+        person.first = trim(person.first.substr(0, blank));
+    });
+}
+
+bool OutputTemplateAuthor::isSpanishY(const Word& word) const {
+    return procedure(*this, u"OutputTemplateAuthor.isSpanishY", {{u"word", word.text}},
+                     [&] { return word.isLower() && word.is(kNameConjunction); });
+}
+
+bool OutputTemplateAuthor::isFirstName(const Word& word) const {
+    return procedure(*this, u"OutputTemplateAuthor.isFirstName", {{u"word", word.text}},
+                     [&] { return word.is(kFirstName); });
+}
+
+void OutputTemplateAuthor::parseAndRemovePostfix(WordSpan& words, Person& person) const {
+    procedure(*this, u"OutputTemplateAuthor.parseAndRemovePostfix", {{u"words", authorwords::textOf(words)}}, [&] {
+        const WordSpan name = withoutPostfix(words);
+        if (name.size() < words.size()) {
+            person.postfix = authorwords::textOf(words.subspan(name.size()));
+            words = name;
+        }
+    });
+}
+
+bool OutputTemplateAuthor::isRomanNumeralPostfix(TextView word) const {
+    return procedure(*this, u"OutputTemplateAuthor.isRomanNumeralPostfix", {{u"word", word}}, [&] {
+        return CommonTestingFunctions::isRomanNumeral(word) && word.find_first_not_of(kPostfixDigits) == TextView::npos;
+    });
+}
+
+}  // namespace quorvel
