@@ -197,6 +197,8 @@ public:
 
     /// The persons that were read.
     std::int16_t numAuthors() const { return mNumAuthors; }
+    /// One of them; throws for an index outside (for the library's own use).
+    const AuthorRecord& person(std::int16_t index) const { return author(index); }
 
     void dumpVariables(VBWPROTECTOR& report) const override;
 

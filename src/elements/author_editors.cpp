@@ -29,9 +29,11 @@ bool hasParenthesis(TextView text) {
     return text.front() == u'(' || text.back() == u')';
 }
 
-/// "ed.", "(Ed.", "Ed." but not "Ed", which is a first name.
+/// "ed.", "(Ed.", "Ed." but not "Ed", which is a first name, nor the initials of "Smith ED."
 bool canBeTag(const Word& word) {
-    return word.is(kAnyTag | kTagOrnament) && (word.isLower() || word.endsWithStop || hasParenthesis(word.text));
+    const bool isInitials = word.text.size() > 1 && isCapital(word.text[0]) && isCapital(word.text[1]);
+    return word.is(kAnyTag | kTagOrnament) && !isInitials &&
+           (word.isLower() || word.endsWithStop || hasParenthesis(word.text));
 }
 
 /// "(Ed.)" in its parts, so that two roles share the parentheses.

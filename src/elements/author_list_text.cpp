@@ -4,6 +4,14 @@
 
 namespace quorvel::authorwords {
 
+namespace {
+
+constexpr std::uint32_t kWordsThatInitialsSpell = kParticle | kLowerParticle | kNameConjunction | kPreposition | kAnd |
+                                                  kEt | kAl | kAnyTag | kTagOrnament | kArabicOpening | kFamilySuffix |
+                                                  kEastAsianLastName | kFirstName;
+
+}  // namespace
+
 void AuthorListText::assign(Text text) {
     mText = std::move(text);
     if (mWords.capacity() == 0) {
@@ -12,12 +20,16 @@ void AuthorListText::assign(Text text) {
     }
     mFeatures = splitIntoWords(mText, mWords);
     mIsShouted = authorwords::isShouted(mWords);
-    if (mIsShouted) {
-        // "SMITH, JOHN": a run of capitals is a name, only a single one is an initial.
-        for (Word& word : mWords) {
-            if (word.shape == Shape::Capitals && word.text.size() > 2) {
-                word.shape = Shape::Name;
-            }
+    for (Word& word : mWords) {
+        if (word.shape != Shape::Capitals) {
+            continue;
+        }
+        if (!mIsShouted) {
+            // "Rolls ET", "Smith DE": initials and none of the words that they spell.
+            word.classes &= ~kWordsThatInitialsSpell;
+        } else if (word.text.size() > 2) {
+            // "SMITH, JOHN": a run of capitals is a name, only a short one stands for initials.
+            word.shape = Shape::Name;
         }
     }
 }

@@ -25,6 +25,11 @@ constexpr TextView kNamesBeforeDe[] = {u"Maria", u"María", u"Marie"};
 constexpr TextView kApostrophePrefixes[] = {u"al-", u"el-", u"Al-", u"El-", u"de'", u"de\u2019"};
 constexpr TextView kArabicPrefixes[] = {u"al-", u"el-", u"Al-", u"El-"};
 
+// "J.-P.A.T." is the longest that is met.
+constexpr std::size_t kLongestInitials = 12;
+constexpr std::size_t kMostInitials = 5;
+constexpr std::size_t kMostShoutedInitials = 2;
+
 template <std::size_t N>
 bool isOneOf(TextView text, const TextView (&values)[N]) {
     return std::find(std::begin(values), std::end(values), text) != std::end(values);
@@ -49,33 +54,39 @@ bool isHyphen(char16_t unit) {
     return unit == u'-' || unit == u'\u2010' || unit == u'\u2011';
 }
 
-/// "A.T.", "JM", "C-C", "J": letters that each stand for a name.
+/// "A.T.", "JM", "C-C", "J", "J-JCh": letters that each stand for a name.
 bool areInitials(TextView word, bool isShouted) {
+    if (word.size() > kLongestInitials) {
+        return false;
+    }
     std::size_t letters = 0;
-    bool hasSigns = false;
-    for (const char16_t unit : word) {
-        if (unit == u'.' || isHyphen(unit)) {
-            hasSigns = true;
-        } else if (isCapital(unit)) {
+    bool hasStop = false;
+    for (std::size_t i = 0; i < word.size(); ++i) {
+        if (word[i] == u'.') {
+            hasStop = true;
+        } else if (isCapital(word[i])) {
             ++letters;
-        } else {
+        } else if (!isHyphen(word[i]) && (i + 1 < word.size() || letters < 2)) {
             return false;
         }
     }
-    return letters > 0 && (hasSigns || letters <= (isShouted ? 1U : 5U));
+    return letters > 0 && (hasStop || letters <= (isShouted ? kMostShoutedInitials : kMostInitials));
 }
 
-/// Writes "J. M." for "JM", "C.-C." for "C-C", "A. T." for "A.T.".
+/// Writes "J. M." for "JM", "C.-C." for "C-C", "A. T." for "A.T.", "J.-J. Ch." for "J-JCh".
 void appendInitials(TextView word, Text& firstNames) {
     bool isFirst = true;
     for (std::size_t i = 0; i < word.size(); ++i) {
-        if (!isCapital(word[i])) {
+        if (word[i] == u'.' || isHyphen(word[i])) {
             continue;
         }
         if (!isFirst) {
             firstNames.push_back(isHyphen(word[i - 1]) ? u'-' : u' ');
         }
         firstNames.push_back(word[i]);
+        if (i + 1 < word.size() && word[i + 1] != u'.' && !isHyphen(word[i + 1]) && !isCapital(word[i + 1])) {
+            firstNames.push_back(word[++i]);
+        }
         firstNames.push_back(u'.');
         isFirst = false;
     }

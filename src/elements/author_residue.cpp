@@ -237,9 +237,11 @@ void OutputTemplateAuthor::parseAndRemoveResidueEditor(ListText& text) {
 void OutputTemplateAuthor::parseAndRemoveResidueAMAAuthor(ListText& text) {
     procedure(*this, u"OutputTemplateAuthor.parseAndRemoveResidueAMAAuthor", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
-        const bool isCompact = words.size() > 2 && words[0].shape == Shape::Name &&
-                               (words[1].shape == Shape::Capitals || isCompactInitialsWithStop(words[1])) &&
-                               words[1].before == Separator::Blank;
+        // "Thomas C. King" is no compact list: a single initial with its stop says nothing.
+        const bool hasInitials =
+            words.size() > 2 &&
+            (words[1].shape == Shape::Capitals || (isCompactInitialsWithStop(words[1]) && words[1].text.size() > 2));
+        const bool isCompact = hasInitials && words[0].shape == Shape::Name && words[1].before == Separator::Blank;
         for (std::size_t i = 1; isCompact && i + 1 < words.size(); ++i) {
             const bool isAfterEtAl = isAtEtAlIndex(text.text(), positionOf(text.text(), words[i - 1]));
             const bool endsList = words[i].before == Separator::Blank && words[i + 1].before == Separator::Blank &&

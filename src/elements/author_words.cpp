@@ -63,6 +63,9 @@ struct Letters {
     bool beginsLower = false;
     // A capital letter that follows another letter directly.
     bool hasRun = false;
+    // The first two letters are capitals.
+    bool beginsWithCapitals = false;
+    bool endsLower = false;
 };
 
 Shape shapeOf(const Letters& letters, std::size_t size, bool endsWithStop) {
@@ -87,6 +90,11 @@ Shape shapeOf(const Letters& letters, std::size_t size, bool endsWithStop) {
     }
     if (letters.beginsLower) {
         return Shape::Lower;
+    }
+    // "J-JCh": the last initial is a sound of two letters.
+    if (letters.beginsWithCapitals && letters.lower == 1 && letters.endsLower && letters.capitals <= kMostInitials &&
+        size == letters.capitals + letters.hyphens + 1) {
+        return Shape::Capitals;
     }
     if (endsWithStop && all <= kLongestAbbreviation && letters.capitals == 1 && size == all + 1) {
         return Shape::Abbreviation;
@@ -113,10 +121,14 @@ void classify(Word& word) {
             case Letter::Capital:
                 ++letters.capitals;
                 letters.hasRun = letters.hasRun || previousIsLetter;
+                letters.beginsWithCapitals =
+                    letters.beginsWithCapitals || (letters.capitals == 2 && letters.lower + letters.others == 0);
+                letters.endsLower = false;
                 break;
             case Letter::Lower:
                 letters.beginsLower = letters.beginsLower || letters.capitals + letters.lower + letters.others == 0;
                 ++letters.lower;
+                letters.endsLower = true;
                 break;
             case Letter::None:
                 isLetter = false;

@@ -1,0 +1,265 @@
+// author_accuracy FILE.tsv [--misses] [--time] [--half 0|1]
+//
+// How many lists of persons the author element reads exactly: every person's last name with particle,
+// first names or initials, and postfix. Prints a table by printed form and group. Each list is read
+// with the settings of all four styles, which must not matter; where they disagree the list counts as
+// missed and is shown as such.
+//
+//   --misses   shows each list that is not exact
+//   --time     the mean time of reading and writing a list, and of setting a style
+//   --half N   only every second case, 0 or 1: to try a rule on lists that it was not made from
+//   --other-forms  writes each list in every style, reads that again and shows where the persons differ
+
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "author_cases.h"
+#include "support/style_presets.h"
+
+namespace {
+
+using namespace quorvel;
+using namespace quorvel::authorcases;
+
+/// Plain text, gathered.
+class TextSink final : public OutputSink {
+public:
+    void Add(TextView text) override { mText.append(text); }
+    void Add(TextView text, std::int32_t) override { mText.append(text); }
+    void addFormattedString(const OutputSink& fragment) override { mText.append(fragment.toString()); }
+    OutputSinkRef Clone() const override { return std::make_shared<TextSink>(); }
+    void Reset() override { mText.clear(); }
+    OutputSinkRef BuildNewFormattedString() const override { return std::make_shared<TextSink>(); }
+    Text toString() const override { return mText; }
+    Text toRTFString() const override { return mText; }
+    bool IsEmpty() const override { return mText.empty(); }
+    std::int16_t removeQuoteFromLastPhrase() override { return 0; }
+
+    const Text& text() const { return mText; }
+
+private:
+    Text mText;
+};
+
+std::shared_ptr<OutputTemplateAuthor> elementOf(const OutputTemplateAuthor::Options& options) {
+    auto element = std::make_shared<OutputTemplateAuthor>();
+    element->Initialize(std::make_shared<TextSink>());
+    element->Reset(options);
+    return element;
+}
+
+std::vector<AuthorRecord> personsOf(const OutputTemplateAuthor& element) {
+    std::vector<AuthorRecord> persons;
+    for (std::int16_t i = 0; i < element.numAuthors(); ++i) {
+        persons.push_back(element.person(i));
+    }
+    return persons;
+}
+
+std::string shown(const std::vector<AuthorRecord>& persons) {
+    std::string text;
+    for (const AuthorRecord& person : persons) {
+        text += (text.empty() ? "" : " ; ") + utf8Of(person.lastName) + "|" + utf8Of(person.firstNames) + "|" +
+                utf8Of(person.postfix);
+    }
+    return text;
+}
+
+struct Count {
+    int exact = 0;
+    int all = 0;
+
+    void add(bool isExact) {
+        exact += isExact ? 1 : 0;
+        ++all;
+    }
+};
+
+void print(const char* name, const Count& count) {
+    if (count.all > 0) {
+        std::printf("  %-12s %5d of %5d  %6.2f %%\n", name, count.exact, count.all, 100.0 * count.exact / count.all);
+    }
+}
+
+struct Row {
+    Count persons;
+    Count particles;
+    Count groups;
+    Count all;
+};
+
+void accuracy(const std::vector<Case>& cases, bool showMisses) {
+    std::vector<std::shared_ptr<OutputTemplateAuthor>> elements;
+    for (const test::AuthorPreset& preset : test::authorPresets()) {
+        elements.push_back(elementOf(preset.options));
+    }
+    std::map<std::string, Row> rows;
+    for (const Case& list : cases) {
+        std::vector<AuthorRecord> first;
+        bool isExact = true;
+        for (const auto& element : elements) {
+            Text text = list.printed;
+            element->Parse(text, {});
+            std::vector<AuthorRecord> read = personsOf(*element);
+            const bool isRight = areSamePersons(list.persons, read) && element->HasEtAl == list.isCut;
+            if (showMisses && (!isRight || (&element != &elements.front() && shown(read) != shown(first))) && isExact) {
+                std::printf("%s %s: %s\n    read  %s%s\n    right %s\n", list.id.c_str(), list.form.c_str(),
+                            utf8Of(list.printed).c_str(), shown(read).c_str(), element->HasEtAl ? " et al." : "",
+                            shown(list.persons).c_str());
+            }
+            isExact = isExact && isRight;
+            if (&element == &elements.front()) {
+                first = std::move(read);
+            }
+        }
+        const Kinds kinds = kindsOf(list);
+        for (Row* row : {&rows[list.form], &rows["(all)"]}) {
+            row->all.add(isExact);
+            (kinds.hasGroup ? row->groups : row->persons).add(isExact);
+            if (kinds.hasParticle) {
+                row->particles.add(isExact);
+            }
+        }
+    }
+    for (const auto& [form, row] : rows) {
+        std::printf("%s\n", form.c_str());
+        print("persons only", row.persons);
+        print("particle", row.particles);
+        print("corporate", row.groups);
+        print("all", row.all);
+    }
+}
+
+void otherForms(const std::vector<Case>& cases) {
+    const auto presets = test::authorPresets();
+    for (const test::AuthorPreset& preset : presets) {
+        const auto writer = elementOf(preset.options);
+        const auto reader = elementOf(preset.options);
+        for (const bool isFootnote : {false, true}) {
+            Count count;
+            for (const Case& list : cases) {
+                Text text = list.printed;
+                writer->Parse(text, {});
+                TextSink sink;
+                const Text written = writer->toString(isFootnote, false);
+                Text again = written;
+                reader->Parse(again, {});
+                std::vector<AuthorRecord> before = personsOf(*writer);
+                const std::vector<AuthorRecord> after = personsOf(*reader);
+                if (reader->HasEtAl && before.size() > after.size()) {
+                    const AuthorRecord last = before.back();
+                    before.resize(after.size());
+                    if (preset.options.etAlUsesElipses && !after.empty()) {
+                        before.back() = last;
+                    }
+                }
+                const bool isSame = areSamePersons(before, after);
+                count.add(isSame);
+                if (!isSame) {
+                    std::printf("%s %s -> %s%s: %s\n    before %s\n    after  %s\n", list.id.c_str(), list.form.c_str(),
+                                utf8Of(preset.name).c_str(), isFootnote ? " note" : "", utf8Of(written).c_str(),
+                                shown(before).c_str(), shown(after).c_str());
+                }
+            }
+            print((utf8Of(preset.name) + (isFootnote ? " note" : "")).c_str(), count);
+        }
+    }
+}
+
+void timing(const std::vector<Case>& cases) {
+    using Clock = std::chrono::steady_clock;
+    constexpr int kRounds = 200;
+    const auto presets = test::authorPresets();
+    const auto sink = std::make_shared<TextSink>();
+    for (const test::AuthorPreset& preset : presets) {
+        const auto element = elementOf(preset.options);
+        Text text;
+        const auto run = [&](bool writes) {
+            const auto start = Clock::now();
+            for (int round = 0; round < kRounds; ++round) {
+                for (const Case& list : cases) {
+                    text = list.printed;
+                    element->Parse(text, {});
+                    if (writes) {
+                        sink->Reset();
+                        element->ToFormattedString(sink, false, false);
+                    }
+                }
+            }
+            const std::chrono::duration<double, std::nano> spent = Clock::now() - start;
+            return spent.count() / kRounds / static_cast<double>(cases.size());
+        };
+        const double parse = run(false);
+        const double both = run(true);
+        const auto start = Clock::now();
+        constexpr int kResets = 20000;
+        for (int i = 0; i < kResets; ++i) {
+            element->Reset(presets[static_cast<std::size_t>(i) % presets.size()].options);
+        }
+        const std::chrono::duration<double, std::nano> reset = Clock::now() - start;
+        const auto startFresh = Clock::now();
+        constexpr int kFresh = 20000;
+        for (int i = 0; i < kFresh; ++i) {
+            OutputTemplateAuthor fresh;
+            fresh.Initialize(sink);
+            fresh.Reset(preset.options);
+        }
+        const std::chrono::duration<double, std::nano> made = Clock::now() - startFresh;
+        std::printf(
+            "%-9s parse %6.0f ns, parse and format %6.0f ns (%.0f lists/s), style switch %5.0f ns, new element "
+            "%5.0f ns\n",
+            utf8Of(preset.name).c_str(), parse, both, 1e9 / both, reset.count() / kResets, made.count() / kFresh);
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    bool showMisses = false;
+    bool showsTime = false;
+    bool showsOtherForms = false;
+    int half = -1;
+    const char* path = nullptr;
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--misses") == 0) {
+            showMisses = true;
+        } else if (std::strcmp(argv[i], "--time") == 0) {
+            showsTime = true;
+        } else if (std::strcmp(argv[i], "--other-forms") == 0) {
+            showsOtherForms = true;
+        } else if (std::strcmp(argv[i], "--half") == 0 && i + 1 < argc) {
+            half = std::atoi(argv[++i]);
+        } else {
+            path = argv[i];
+        }
+    }
+    std::ifstream file;
+    if (path != nullptr) {
+        file.open(path);
+    }
+    if (!file.is_open()) {
+        std::fprintf(stderr, "usage: author_accuracy FILE.tsv [--misses] [--time] [--half 0|1] [--other-forms]\n");
+        return 2;
+    }
+    std::vector<Case> cases = readCases(file);
+    if (half >= 0) {
+        std::map<std::string, int> numbers;
+        std::erase_if(cases, [&](const Case& list) {
+            const int number = numbers.try_emplace(list.id, static_cast<int>(numbers.size())).first->second;
+            return number % 2 != half;
+        });
+    }
+    accuracy(cases, showMisses);
+    if (showsOtherForms) {
+        otherForms(cases);
+    }
+    if (showsTime) {
+        timing(cases);
+    }
+    return 0;
+}
