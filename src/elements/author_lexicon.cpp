@@ -31,11 +31,10 @@ constexpr TextView kFamilySuffixes[] = {u"neto",   u"netto",    u"filho",    u"f
                                         u"junior", u"sobrinho", u"sobrinha", u"segundo"};
 
 // The first of two last names: "Ludwig Mies van der Rohe", "Pierre Teilhard de Chardin", "Laura Beane
-// Freeman". Spanish patronymics in -ez are known by their ending; these are not.
+// Freeman", "Gabriel García Márquez". No open rule on Spanish endings: it would be wrong for the many
+// who use the first of two last names as a middle name.
 constexpr TextView kPartialLastNames[] = {
-    u"beane",  u"mies",   u"teilhard", u"sánchez", u"garcía", u"garcia", u"muñoz",   u"munoz", u"ruiz",
-    u"ortiz",  u"díaz",   u"vargas",   u"castro",  u"torres", u"rojas",  u"ramos",   u"reyes", u"romero",
-    u"moreno", u"rivera", u"herrera",  u"medina",  u"cortés", u"bustos", u"poirier",
+    u"beane", u"mies", u"teilhard", u"sánchez", u"garcía", u"vargas", u"muñoz", u"ruiz", u"ortiz", u"díaz", u"núñez",
 };
 
 constexpr TextView kEastAsianLastNames[] = {u"chao", u"kurosawa", u"tsou", u"yoshida"};

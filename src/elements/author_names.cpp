@@ -14,9 +14,6 @@ namespace {
 
 // Numerals that people bear; the other Roman digits are initials.
 constexpr TextView kPostfixDigits = u"IVX";
-// The patronymic ending of Spanish last names: "Márquez", "Sánchez".
-constexpr TextView kPatronymicEnding = u"ez";
-constexpr std::size_t kShortestPatronymic = 5;
 // "de" that stands with the first names: "Beauvoir, Simone de".
 constexpr TextView kNamesWithoutDe[] = {u"brigron", u"beauvoir"};
 // Before these a "de" opens a second first name, not the last name: "Maria de Lourdes Silva".
@@ -164,9 +161,7 @@ bool OutputTemplateAuthor::isPartialLastName(const Word& word) const {
         if (word.isInitials()) {
             return false;
         }
-        const bool isPatronymic =
-            word.text.size() >= kShortestPatronymic && endsWith(word.text, kPatronymicEnding) && !word.is(kFirstName);
-        return word.is(kParticle | kPartialLastName) || word.isLower() || isPatronymic || isArabicLastName(word);
+        return word.is(kParticle | kPartialLastName) || word.isLower() || isArabicLastName(word);
     });
 }
 

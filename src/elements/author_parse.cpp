@@ -18,6 +18,20 @@ bool isEmptyOrSigns(const Words& words) {
     return std::all_of(words.begin(), words.end(), [](const Word& word) { return word.shape == Shape::Mark; });
 }
 
+/// "Penfield W Jasper H": in a style without and-word only a blank stands between two compact names. One
+/// ends before the word at `end` when it has its initials and what follows is another whole one.
+bool endsCompactName(const Words& words, std::size_t begin, std::size_t end) {
+    if (words[end - 1].shape != Shape::Capitals || words[begin].isInitials() || words[end].isInitials()) {
+        return false;
+    }
+    std::size_t next = end + 1;
+    while (next < words.size() && words[next].before == Separator::Blank && !words[next].isInitials()) {
+        ++next;
+    }
+    return next < words.size() && words[next].shape == Shape::Capitals && words[next].before == Separator::Blank &&
+           !words[end].is(kPostfix);
+}
+
 }  // namespace
 
 void OutputTemplateAuthor::Parse(Text& text, TextView previousStr, bool residueAlreadyRemoved) {
@@ -120,7 +134,8 @@ void OutputTemplateAuthor::parseAndRemoveAndSeparator(ListText& text) {
                 continue;
             }
             std::uint32_t end = begin + 1;
-            while (end < words.size() && words[end].before == Separator::Blank && !words[end].is(kAnd)) {
+            while (end < words.size() && words[end].before == Separator::Blank && !words[end].is(kAnd) &&
+                   !endsCompactName(words, begin, end)) {
                 ++end;
             }
             Piece piece;

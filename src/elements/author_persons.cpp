@@ -177,8 +177,13 @@ OutputTemplateAuthor::Person OutputTemplateAuthor::parseReversedAuthor(WordSpan 
 OutputTemplateAuthor::Person OutputTemplateAuthor::parseCompactAuthor(WordSpan words) const {
     Person person;
     parseAndRemovePostfix(words, person);
-    person.last = authorwords::textOf(words.first(words.size() - 1));
-    person.first = words.back().text;
+    // "Smith JA", "Smith J A"
+    std::size_t initials = words.size() - 1;
+    while (initials > 1 && words[initials - 1].shape == Shape::Capitals) {
+        --initials;
+    }
+    person.last = authorwords::textOf(words.first(initials));
+    person.first = authorwords::textOf(words.subspan(initials));
     return person;
 }
 

@@ -10,9 +10,10 @@
 //   --half N   only every second case, 0 or 1: to try a rule on lists that it was not made from
 //   --other-forms  writes each list in every style, reads that again and shows where the persons differ
 
-#include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <fstream>
 #include <map>
 #include <memory>
@@ -171,49 +172,45 @@ void otherForms(const std::vector<Case>& cases) {
     }
 }
 
+/// Processor time, so that other programs on the machine do not count.
+template <class Work>
+double nanosecondsPerCall(int calls, Work&& work) {
+    const std::clock_t start = std::clock();
+    for (int i = 0; i < calls; ++i) {
+        work(static_cast<std::size_t>(i));
+    }
+    return 1e9 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC / calls;
+}
+
 void timing(const std::vector<Case>& cases) {
-    using Clock = std::chrono::steady_clock;
     constexpr int kRounds = 200;
+    constexpr int kResets = 20000;
     const auto presets = test::authorPresets();
     const auto sink = std::make_shared<TextSink>();
+    const int calls = kRounds * static_cast<int>(cases.size());
     for (const test::AuthorPreset& preset : presets) {
         const auto element = elementOf(preset.options);
         Text text;
-        const auto run = [&](bool writes) {
-            const auto start = Clock::now();
-            for (int round = 0; round < kRounds; ++round) {
-                for (const Case& list : cases) {
-                    text = list.printed;
-                    element->Parse(text, {});
-                    if (writes) {
-                        sink->Reset();
-                        element->ToFormattedString(sink, false, false);
-                    }
-                }
-            }
-            const std::chrono::duration<double, std::nano> spent = Clock::now() - start;
-            return spent.count() / kRounds / static_cast<double>(cases.size());
+        const auto parse = [&](std::size_t i) {
+            text = cases[i % cases.size()].printed;
+            element->Parse(text, {});
         };
-        const double parse = run(false);
-        const double both = run(true);
-        const auto start = Clock::now();
-        constexpr int kResets = 20000;
-        for (int i = 0; i < kResets; ++i) {
-            element->Reset(presets[static_cast<std::size_t>(i) % presets.size()].options);
-        }
-        const std::chrono::duration<double, std::nano> reset = Clock::now() - start;
-        const auto startFresh = Clock::now();
-        constexpr int kFresh = 20000;
-        for (int i = 0; i < kFresh; ++i) {
+        const double parsing = nanosecondsPerCall(calls, parse);
+        const double both = nanosecondsPerCall(calls, [&](std::size_t i) {
+            parse(i);
+            sink->Reset();
+            element->ToFormattedString(sink, false, false);
+        });
+        const double switching =
+            nanosecondsPerCall(kResets, [&](std::size_t i) { element->Reset(presets[i % presets.size()].options); });
+        const double making = nanosecondsPerCall(kResets, [&](std::size_t) {
             OutputTemplateAuthor fresh;
             fresh.Initialize(sink);
             fresh.Reset(preset.options);
-        }
-        const std::chrono::duration<double, std::nano> made = Clock::now() - startFresh;
-        std::printf(
-            "%-9s parse %6.0f ns, parse and format %6.0f ns (%.0f lists/s), style switch %5.0f ns, new element "
-            "%5.0f ns\n",
-            utf8Of(preset.name).c_str(), parse, both, 1e9 / both, reset.count() / kResets, made.count() / kFresh);
+        });
+        std::printf("%-9s parse %5.0f ns, parse and format %5.0f ns (%.0f lists/s), style switch %5.0f ns, new element "
+                    "%5.0f ns\n",
+                    utf8Of(preset.name).c_str(), parsing, both, 1e9 / both, switching, making);
     }
 }
 
