@@ -33,6 +33,21 @@ bool isIn(const CodeUnitRange (&ranges)[N], char16_t unit) {
                        [unit](const CodeUnitRange& range) { return range.first <= unit && unit <= range.last; });
 }
 
+/// Nothing for the clean-up to do, which is so for nearly every text. May answer no without need.
+bool isClean(TextView text) {
+    bool afterBlank = true;
+    for (const char16_t unit : text) {
+        const bool isBlank = unit == u' ';
+        // Up to U+1680 only the controls and the signs up to U+00AD can be spaces or invisible.
+        const bool isOrdinary = (unit >= u' ' && unit < u'\u007F') || (unit > u'\u00AD' && unit < u'\u1680');
+        if (!isOrdinary || (isBlank && afterBlank)) {
+            return false;
+        }
+        afterBlank = isBlank;
+    }
+    return text.empty() || !afterBlank;
+}
+
 }  // namespace
 
 Text replaceAll(TextView text, TextView find, TextView replacement) {
@@ -129,6 +144,9 @@ Text concatenate(std::initializer_list<TextView> parts) {
 }
 
 Text cleanUp(TextView text) {
+    if (isClean(text)) {
+        return Text(text);
+    }
     Text result;
     result.reserve(text.size());
     for (const char16_t unit : text) {

@@ -223,7 +223,7 @@ private:
     Text toStringDiscussant(bool isFootnote, bool shortenedVersion) const;
     Text toStringFirstAuthor(bool isFootnote, bool shortenedVersion) const;
     Text toStringAuthor(std::int16_t index, bool Reverse, bool useFirst) const;
-    Text toStringAuthorFirst(TextView firstNames) const;
+    void toStringAuthorFirst(TextView firstNames, Text& result) const;
     void addPostFix(Text& author, TextView postFix, bool forceUseSpace) const;
     Text generateTag(TextView templateStr, bool isPlural) const;
     Text nameOf(const AuthorRecord& person, bool reverse, bool useFirst) const;

@@ -10,7 +10,6 @@ using namespace authorwords;
 
 namespace {
 
-constexpr std::uint32_t kAnyInstitution = kInstitutionHead | kInstitutionWord | kCompanyEnding;
 // Texts that make a name possibly one of an institution.
 constexpr TextView kPossibleAuthorMarks[] = {u"United", u"Dept", u"Commission", u"of "};
 
@@ -110,13 +109,7 @@ bool OutputTemplateAuthor::isInstitutionalAuthor(WordSpan words) const {
 
 bool OutputTemplateAuthor::isInstitution(WordSpan words) const {
     return procedure(*this, u"OutputTemplateAuthor.isInstitution", {{u"words", authorwords::textOf(words)}}, [&] {
-        std::uint32_t classes = kNoClass;
-        for (const Word& word : words) {
-            classes |= word.shape == Shape::Number ? std::uint32_t{kInstitutionWord} : word.classes;
-        }
-        // One word is a last name or needs no other treatment than one.
-        if (words.size() < 2 || (classes & (kAnyInstitution | kPreposition)) == 0 || isCompactPerson(words) ||
-            isPersonWithSuchName(words)) {
+        if (!hasInstitutionalWord(words) || isCompactPerson(words) || isPersonWithSuchName(words)) {
             return false;
         }
         return beginsWithThe(words) || hasPreposition(words) ||
@@ -125,8 +118,9 @@ bool OutputTemplateAuthor::isInstitution(WordSpan words) const {
 }
 
 bool OutputTemplateAuthor::isInstitutionWord(const Word& word) const {
-    return procedure(*this, u"OutputTemplateAuthor.isInstitutionWord", {{u"word", word.text}},
-                     [&] { return word.is(kAnyInstitution) || word.shape == Shape::Number; });
+    return procedure(*this, u"OutputTemplateAuthor.isInstitutionWord", {{u"word", word.text}}, [&] {
+        return word.is(kInstitutionHead | kInstitutionWord | kCompanyEnding) || word.shape == Shape::Number;
+    });
 }
 
 bool OutputTemplateAuthor::possibleAuthor(TextView text) const {

@@ -259,11 +259,30 @@ constexpr std::array<Entry, kSlots> lexicon() {
 
 constexpr std::array<Entry, kSlots> kLexicon = lexicon();
 
+// Which slots hold a word: most words that are looked up are names and end at this small table.
+constexpr std::size_t kBits = 64;
+
+constexpr std::array<std::uint64_t, kSlots / kBits> occupancy() {
+    std::array<std::uint64_t, kSlots / kBits> bits{};
+    for (std::size_t slot = 0; slot < kSlots; ++slot) {
+        if (!kLexicon[slot].word.empty()) {
+            bits[slot / kBits] |= std::uint64_t{1} << (slot % kBits);
+        }
+    }
+    return bits;
+}
+
+constexpr std::array<std::uint64_t, kSlots / kBits> kOccupancy = occupancy();
+
+bool isOccupied(std::size_t slot) {
+    return ((kOccupancy[slot / kBits] >> (slot % kBits)) & 1U) != 0;
+}
+
 }  // namespace
 
 std::uint32_t classesOf(TextView lowerCaseWord) {
     std::size_t slot = slotOf(lowerCaseWord);
-    while (!kLexicon[slot].word.empty()) {
+    while (isOccupied(slot)) {
         if (kLexicon[slot].word == lowerCaseWord) {
             return kLexicon[slot].classes;
         }

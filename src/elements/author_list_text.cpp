@@ -34,6 +34,13 @@ void AuthorListText::assign(Text text) {
     }
 }
 
+bool hasInstitutionalWord(WordSpan words) {
+    constexpr std::uint32_t kInstitutional = kInstitutionHead | kInstitutionWord | kCompanyEnding | kPreposition;
+    return words.size() > 1 && std::any_of(words.begin(), words.end(), [](const Word& word) {
+               return word.is(kInstitutional) || word.shape == Shape::Number;
+           });
+}
+
 bool isPostfixAt(WordSpan words, std::size_t index) {
     const Word& word = words[index];
     if (!word.is(kPostfix)) {

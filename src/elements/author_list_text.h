@@ -100,6 +100,10 @@ private:
 /// The kind of a piece that holds these words.
 PieceKind kindOf(WordSpan words);
 
+/// Whether a word among several could be an institution's; without one the words are none. A single
+/// word is a last name or needs no other treatment than one.
+bool hasInstitutionalWord(WordSpan words);
+
 /// Whether the word at this index is a postfix of the name before it. "II", "III" and "IV" are, behind a
 /// whole name or its initials; the other Roman numerals are initials, and so are "JR" and "SR" behind a
 /// last name ("Smith JR").

@@ -47,6 +47,10 @@ bool isHyphenedGivenName(TextView text) {
            text[hyphen + 1] >= u'a' && text[hyphen + 1] <= u'z';
 }
 
+bool hasHyphen(TextView text) {
+    return text.find(u'-') != TextView::npos;
+}
+
 bool isHyphen(char16_t unit) {
     return unit == u'-' || unit == u'\u2010' || unit == u'\u2011';
 }
@@ -127,7 +131,8 @@ std::int16_t OutputTemplateAuthor::getFirstNameUbound(WordSpan words) const {
     return procedure(*this, u"OutputTemplateAuthor.getFirstNameUbound", {{u"words", authorwords::textOf(words)}},
                      [&]() -> std::int16_t {
                          const auto n = std::min<std::size_t>(words.size(), INT16_MAX);
-                         if (n < 2 || isArabicName(words) || (words[0].isLower() && isPartialLastName(words[0]))) {
+                         if (n < 2 || (words[0].is(kArabicOpening) && isArabicName(words)) ||
+                             (words[0].isLower() && isPartialLastName(words[0]))) {
                              return -1;
                          }
                          std::size_t begin = n - 1;
@@ -135,6 +140,11 @@ std::int16_t OutputTemplateAuthor::getFirstNameUbound(WordSpan words) const {
                              --begin;
                          }
                          for (std::size_t i = 1; i < begin; ++i) {
+                             // Nearly all words are initials and plain names that no rule knows.
+                             if (words[i].isInitials() ||
+                                 (words[i].classes == kNoClass && !words[i].isLower() && !hasHyphen(words[i].text))) {
+                                 continue;
+                             }
                              const bool isSecondFirstName = words[i].isLower() && i + 2 < n && words[i + 1].isName() &&
                                                             !words[i + 2].isLower() &&
                                                             isOneOf(words[i - 1].text, kNamesBeforeDe);

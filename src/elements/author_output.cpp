@@ -13,6 +13,7 @@ namespace {
 constexpr TextView kEtAlText = u"et al.";
 constexpr TextView kEtAlGroup = u"et al; ";
 constexpr TextView kOmission = u" . . . ";
+constexpr std::size_t kRoomForSigns = 8;
 constexpr TextView kPseudonymMark = u"pseud.";
 
 struct PostfixWithoutStop {
@@ -47,7 +48,9 @@ bool isRunOfCapitals(TextView firstNames) {
 
 class InitialsWriter {
 public:
-    InitialsWriter(Text& result, bool usesPeriods) : mResult(result), mUsesPeriods(usesPeriods) {}
+    /// Appends to the result.
+    InitialsWriter(Text& result, bool usesPeriods)
+        : mResult(result), mBegin(result.size()), mUsesPeriods(usesPeriods) {}
 
     /// A word of the first names: "John", "Jean-Paul", "J.-P.", "A.T.", "[Paul]", "de".
     void add(TextView word) {
@@ -63,7 +66,7 @@ public:
 
 private:
     void addWhole(TextView word) {
-        if (!mResult.empty()) {
+        if (!isEmpty()) {
             mResult.push_back(u' ');
         }
         mResult.append(word);
@@ -92,7 +95,7 @@ private:
     }
 
     void addLetter(TextView letter, bool isHyphened) {
-        if (mUsesPeriods && !mResult.empty()) {
+        if (mUsesPeriods && !isEmpty()) {
             mResult.push_back(isHyphened ? u'-' : u' ');
         } else if (mLastIsWhole) {
             mResult.push_back(u' ');
@@ -104,7 +107,10 @@ private:
         }
     }
 
+    bool isEmpty() const { return mResult.size() == mBegin; }
+
     Text& mResult;
+    std::size_t mBegin;
     bool mUsesPeriods;
     bool mLastIsWhole = false;
 };
@@ -327,12 +333,16 @@ Text OutputTemplateAuthor::toStringAuthor(std::int16_t index, bool Reverse, bool
 
 Text OutputTemplateAuthor::nameOf(const AuthorRecord& person, bool reverse, bool useFirst) const {
     Text name;
+    // Room for separators, and for the stops that initials get.
+    name.reserve(person.lastName.size() + person.firstNames.size() + person.postfix.size() + kRoomForSigns);
     if (person.firstNames.empty() || !useFirst) {
         name = person.lastName;
+    } else if (reverse) {
+        name.append(person.lastName).append(mReversedAuthorUsesComma ? u", " : u" ");
+        toStringAuthorFirst(person.firstNames, name);
     } else {
-        const Text first = toStringAuthorFirst(person.firstNames);
-        name = reverse ? concatenate({person.lastName, mReversedAuthorUsesComma ? u", " : u" ", first})
-                       : Text(trim(concatenate({first, u" ", person.lastName})));
+        toStringAuthorFirst(person.firstNames, name);
+        name.append(u" ").append(person.lastName);
     }
     if (!person.postfix.empty()) {
         addPostFix(name, person.postfix, mIsCitationForm);
@@ -340,13 +350,13 @@ Text OutputTemplateAuthor::nameOf(const AuthorRecord& person, bool reverse, bool
     return name;
 }
 
-Text OutputTemplateAuthor::toStringAuthorFirst(TextView firstNames) const {
-    return procedure(*this, u"OutputTemplateAuthor.toStringAuthorFirst", {{u"firstNames", firstNames}}, [&] {
+/// Appends the first names as the style writes them.
+void OutputTemplateAuthor::toStringAuthorFirst(TextView firstNames, Text& result) const {
+    procedure(*this, u"OutputTemplateAuthor.toStringAuthorFirst", {{u"firstNames", firstNames}}, [&] {
         if (!mInitialsOnly || isRunOfCapitals(firstNames)) {
-            return Text(firstNames);
+            result.append(firstNames);
+            return;
         }
-        Text result;
-        result.reserve(firstNames.size() + 2);
         InitialsWriter initials(result, mInitialsUsePeriods);
         for (std::size_t from = 0; from < firstNames.size();) {
             std::size_t end = firstNames[from] == u'[' ? firstNames.find(u']', from) : firstNames.find(u' ', from);
@@ -359,7 +369,6 @@ Text OutputTemplateAuthor::toStringAuthorFirst(TextView firstNames) const {
             }
             from = end + (end < firstNames.size() && firstNames[end] == u' ' ? 1 : 0);
         }
-        return result;
     });
 }
 

@@ -42,12 +42,17 @@ void OutputTemplateAuthor::Parse(Text& text, TextView previousStr, bool residueA
                   ClearAuthors();
                   readAttributedName(cleaned);
                   ListText list(std::move(cleaned));
-                  ParseAndRemoveDiscussant(list);
+                  // A step that the text gives no reason for is not taken.
+                  if (list.has(kHasDiscussion)) {
+                      ParseAndRemoveDiscussant(list);
+                  }
                   if (!residueAlreadyRemoved) {
                       parseAndRemoveResidue(list);
                   }
                   parseAndRemoveAnthology(list);
-                  parseAndRemoveEtAl(list);
+                  if (list.has(kHasEt | kHasAnd)) {
+                      parseAndRemoveEtAl(list);
+                  }
                   parseAndRemoveAndSeparator(list);
                   mergeInstitutions(list);
                   handleAMAException(list);
@@ -72,9 +77,6 @@ void OutputTemplateAuthor::readAttributedName(Text& text) {
 /// "Smith, J. In discussion of: Jones, K.": what stands before the phrase is the discussant.
 void OutputTemplateAuthor::ParseAndRemoveDiscussant(ListText& text) {
     procedure(*this, u"OutputTemplateAuthor.ParseAndRemoveDiscussant", {{u"text", text.text()}}, [&] {
-        if (!text.has(kHasDiscussion)) {
-            return;
-        }
         const std::size_t at = toLower(text.text()).find(kInDiscussionOf);
         if (at == Text::npos) {
             return;
@@ -96,9 +98,6 @@ void OutputTemplateAuthor::ParseAndRemoveDiscussant(ListText& text) {
 
 void OutputTemplateAuthor::parseAndRemoveEtAl(ListText& text) {
     procedure(*this, u"OutputTemplateAuthor.parseAndRemoveEtAl", {{u"text", text.text()}}, [&] {
-        if (!text.has(kHasEt | kHasAnd)) {
-            return;
-        }
         Words& words = text.words();
         std::size_t kept = 0;
         for (std::size_t i = 0; i < words.size(); ++i) {
@@ -143,7 +142,7 @@ void OutputTemplateAuthor::parseAndRemoveAndSeparator(ListText& text) {
             piece.end = end;
             piece.before = before == Separator::And ? before : words[begin].before;
             piece.kind = kindOf(text.wordsOf(piece));
-            piece.isInstitution = isInstitution(text.wordsOf(piece));
+            piece.isInstitution = hasInstitutionalWord(text.wordsOf(piece)) && isInstitution(text.wordsOf(piece));
             const bool joins =
                 before == Separator::And && !pieces.empty() && isOneAuthorWithAnAndInIt(text, pieces.size() - 1, piece);
             if (joins) {

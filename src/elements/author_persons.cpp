@@ -160,8 +160,9 @@ bool OutputTemplateAuthor::isCompactAuthor(const ListText& text, const Piece& pi
 
 OutputTemplateAuthor::Person OutputTemplateAuthor::parseReversedAuthor(WordSpan last, WordSpan first) const {
     Person person;
-    parseAndRemovePostfix(first, person);
-    if (person.postfix.empty()) {
+    if (first.back().is(kPostfix)) {
+        parseAndRemovePostfix(first, person);
+    } else if (last.back().is(kPostfix)) {
         parseAndRemovePostfix(last, person);
     }
     person.last = authorwords::textOf(last);
@@ -170,13 +171,17 @@ OutputTemplateAuthor::Person OutputTemplateAuthor::parseReversedAuthor(WordSpan 
         first = first.first(first.size() - 1);
     }
     person.first = authorwords::textOf(first);
-    moveApostrophePrefix(person);
+    if (first.size() > 1 && first.back().isLower()) {
+        moveApostrophePrefix(person);
+    }
     return person;
 }
 
 OutputTemplateAuthor::Person OutputTemplateAuthor::parseCompactAuthor(WordSpan words) const {
     Person person;
-    parseAndRemovePostfix(words, person);
+    if (words.back().is(kPostfix)) {
+        parseAndRemovePostfix(words, person);
+    }
     // "Smith JA", "Smith J A"
     std::size_t initials = words.size() - 1;
     while (initials > 1 && words[initials - 1].shape == Shape::Capitals) {
@@ -200,7 +205,9 @@ OutputTemplateAuthor::Person OutputTemplateAuthor::parseAuthor(WordSpan words) c
             person.isGroup = true;
             return;
         }
-        parseAndRemovePostfix(words, person);
+        if (words.back().is(kPostfix)) {
+            parseAndRemovePostfix(words, person);
+        }
         if (isLastNameFirst(words)) {
             person.last = words[0].text;
             person.first = words[1].text;

@@ -208,9 +208,10 @@ void timing(const std::vector<Case>& cases) {
             fresh.Initialize(sink);
             fresh.Reset(preset.options);
         });
-        std::printf("%-9s parse %5.0f ns, parse and format %5.0f ns (%.0f lists/s), style switch %5.0f ns, new element "
-                    "%5.0f ns\n",
-                    utf8Of(preset.name).c_str(), parsing, both, 1e9 / both, switching, making);
+        std::printf(
+            "%-9s parse %5.0f ns, parse and format %5.0f ns (%.0f lists/s), style switch %5.0f ns, new element "
+            "%5.0f ns\n",
+            utf8Of(preset.name).c_str(), parsing, both, 1e9 / both, switching, making);
     }
 }
 
