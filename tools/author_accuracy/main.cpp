@@ -19,7 +19,7 @@
 #include <memory>
 #include <string>
 
-#include "author_cases.h"
+#include "support/author_cases.h"
 #include "support/style_presets.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "author_cases.h"
+#include "support/author_cases.h"
 
 #include <algorithm>
 #include <istream>
