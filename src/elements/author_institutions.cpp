@@ -119,7 +119,7 @@ bool OutputTemplateAuthor::isInstitution(WordSpan words) const {
 
 bool OutputTemplateAuthor::isInstitutionWord(const Word& word) const {
     return procedure(*this, u"OutputTemplateAuthor.isInstitutionWord", {{u"word", word.text}}, [&] {
-        return word.is(kInstitutionHead | kInstitutionWord | kCompanyEnding) || word.shape == Shape::Number;
+        return word.is(kInstitutionHead | kInstitutionWord | kCompanyEnding) || isBareNumber(word);
     });
 }
 
@@ -151,7 +151,7 @@ bool OutputTemplateAuthor::isOneAuthorWithAnAndInIt(const ListText& text, std::s
             return false;
         }
         const bool rightHasHead = hasHead(rightWords);
-        if (left.isInstitution) {
+        if (hasHead(leftWords) || hasPreposition(leftWords)) {
             if (rightHasHead || beginsWithThe(rightWords) || rightWords[0].is(kFirstName)) {
                 return false;
             }
@@ -168,8 +168,8 @@ bool OutputTemplateAuthor::isOneAuthorWithAnAndInIt(const ListText& text, std::s
         }
         const Piece& begin = text.pieces()[first];
         const WordSpan beginWords = text.wordsOf(begin);
-        if (first < leftPiece && begin.isInstitution) {
-            return hasPreposition(beginWords) && !rightHasHead && !rightWords[0].is(kFirstName);
+        if (first < leftPiece && hasPreposition(beginWords)) {
+            return !rightHasHead && !rightWords[0].is(kFirstName);
         }
         if (!right.isInstitution || !rightHasHead || beginsWithThe(rightWords)) {
             return false;
@@ -179,7 +179,7 @@ bool OutputTemplateAuthor::isOneAuthorWithAnAndInIt(const ListText& text, std::s
         }
         // "Food and Agriculture Organization", "John D. and Catherine T. MacArthur Foundation"
         const bool isShortBegin = leftPiece == 0 && isOneOf(left.kind, {Single, EndsWithInitial});
-        return holdsTopic(leftWords) || (isShortBegin && !rightWords[0].is(kInstitutionOpening));
+        return (holdsTopic(leftWords) || isShortBegin) && !rightWords[0].is(kInstitutionOpening);
     });
 }
 

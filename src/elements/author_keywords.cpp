@@ -18,6 +18,7 @@ struct Replacement {
 constexpr Replacement kKeywordReplacements[] = {
     {u" & ", u" "}, {u" and ", u" "}, {u"(", u""}, {u")", u""}, {u"/", u" "}, {u" ", u","},
 };
+constexpr TextView kPseudonymMark = u"pseud.";
 constexpr TextView kPersonSeparator = u"; ";
 
 std::size_t at(std::int32_t index) {
@@ -95,6 +96,13 @@ void OutputTemplateAuthor::authors(const std::vector<Text>& values) {
             }
             store(person);
         }
+    });
+}
+
+Text OutputTemplateAuthor::collapsePseudoToFirstName(TextView firstAuthor) const {
+    return procedure(*this, u"OutputTemplateAuthor.collapsePseudoToFirstName", {{u"firstAuthor", firstAuthor}}, [&] {
+        const bool isUnknown = Pseudoname.empty() || Pseudoname == kPseudonymMark;
+        return isUnknown ? Text(firstAuthor) : concatenate({firstAuthor, u" [", Pseudoname, u"]"});
     });
 }
 

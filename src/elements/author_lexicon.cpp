@@ -77,6 +77,9 @@ constexpr TextView kFirstNames[] = {
     u"valentina", u"vanessa",   u"victoria",   u"vincent",   u"walter",    u"werner",      u"william",    u"wolfgang",
 };
 
+constexpr TextView kAbbreviations[] = {u"wm", u"geo", u"chas", u"jas", u"jos", u"thos", u"robt", u"benj", u"edw",
+                                       u"chr", u"alex", u"fred", u"rev", u"mrs", u"prof", u"jun", u"sen"};
+
 // --- Institutions ---------------------------------------------------------------------------------
 
 constexpr TextView kPrepositions[] = {u"of",  u"for", u"the",  u"on",      u"in",      u"at",
@@ -206,6 +209,7 @@ constexpr WordTable kTables[] = {
     table(kPostfixes, kPostfix),
     table(kDegrees, kDegree),
     table(kFirstNames, kFirstName),
+    table(kAbbreviations, kAbbreviation),
     table(kPrepositions, kPreposition),
     table(kInstitutionHeads, kInstitutionHead),
     table(kInstitutionWords, kInstitutionWord),

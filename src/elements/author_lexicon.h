@@ -62,6 +62,8 @@ enum WordClass : std::uint32_t {
     kEastAsianLastName = 1U << 26,
     /// "discussion" of the discussant phrase.
     kDiscussion = 1U << 27,
+    /// A first name or title cut short with a full stop: "Wm."
+    kAbbreviation = 1U << 28,
 };
 
 inline constexpr std::uint32_t kAnyTag = kEditorTag | kCompilerTag | kTranslatorTag;

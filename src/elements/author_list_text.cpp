@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/letter_case.h"
+
 namespace quorvel::authorwords {
 
 namespace {
@@ -9,6 +11,23 @@ namespace {
 constexpr std::uint32_t kWordsThatInitialsSpell = kParticle | kLowerParticle | kNameConjunction | kPreposition | kAnd |
                                                   kEt | kAl | kAnyTag | kTagOrnament | kArabicOpening | kFamilySuffix |
                                                   kEastAsianLastName | kFirstName;
+
+constexpr TextView kAbbreviatedPostfixes[] = {u"Jr.", u"Sr."};
+
+/// The full stop of the sentence: "Smith, Jonathan.", "Smith J, Petty RE." Abbreviations and single
+/// initials keep theirs.
+void removeFinalStop(Words& words) {
+    if (words.empty() || !words.back().endsWithStop || words.back().shape != Shape::Name ||
+        words.back().is(kPostfix | kDegree | kCompanyEnding | kAnyTag | kSubdivision)) {
+        return;
+    }
+    const Word& stopped = words.back();
+    Word word = wordOf(stopped.text.substr(0, stopped.text.size() - 1));
+    if (word.text.find(u'.') == TextView::npos) {
+        word.before = stopped.before;
+        words.back() = word;
+    }
+}
 
 }  // namespace
 
@@ -19,6 +38,7 @@ void AuthorListText::assign(Text text) {
         mPieces.reserve(kUsualPieces);
     }
     mFeatures = splitIntoWords(mText, mWords);
+    removeFinalStop(mWords);
     mIsShouted = authorwords::isShouted(mWords);
     for (Word& word : mWords) {
         if (word.shape != Shape::Capitals) {
@@ -34,10 +54,14 @@ void AuthorListText::assign(Text text) {
     }
 }
 
+bool isBareNumber(const Word& word) {
+    return word.shape == Shape::Number && !word.is(kPostfix);
+}
+
 bool hasInstitutionalWord(WordSpan words) {
     constexpr std::uint32_t kInstitutional = kInstitutionHead | kInstitutionWord | kCompanyEnding | kPreposition;
     return words.size() > 1 && std::any_of(words.begin(), words.end(), [](const Word& word) {
-               return word.is(kInstitutional) || word.shape == Shape::Number;
+               return word.is(kInstitutional) || isBareNumber(word);
            });
 }
 
@@ -58,6 +82,15 @@ WordSpan withoutPostfix(WordSpan words) {
         words = words.first(words.size() - 1);
     }
     return words;
+}
+
+TextView writtenPostfix(TextView postfix) {
+    for (const TextView abbreviation : kAbbreviatedPostfixes) {
+        if (equalsIgnoringCase(before(postfix, u"."), before(abbreviation, u"."))) {
+            return abbreviation;
+        }
+    }
+    return postfix;
 }
 
 TextView textOf(WordSpan words) {

@@ -100,6 +100,9 @@ private:
 /// The kind of a piece that holds these words.
 PieceKind kindOf(WordSpan words);
 
+/// A number in a name, which only institutions have: "Study Group 8". "2nd" is none.
+bool isBareNumber(const Word& word);
+
 /// Whether a word among several could be an institution's; without one the words are none. A single
 /// word is a last name or needs no other treatment than one.
 bool hasInstitutionalWord(WordSpan words);
@@ -111,6 +114,9 @@ bool isPostfixAt(WordSpan words, std::size_t index);
 
 /// The words without the postfixes at their end.
 WordSpan withoutPostfix(WordSpan words);
+
+/// A postfix as all styles but one write it: "Jr" of an AMA list is "Jr."
+TextView writtenPostfix(TextView postfix);
 
 /// The text of the words, from the first's begin to the last's end; empty for no words.
 TextView textOf(WordSpan words);

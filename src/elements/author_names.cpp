@@ -132,7 +132,7 @@ std::int16_t OutputTemplateAuthor::getFirstNameUbound(WordSpan words) const {
                      [&]() -> std::int16_t {
                          const auto n = std::min<std::size_t>(words.size(), INT16_MAX);
                          if (n < 2 || (words[0].is(kArabicOpening) && isArabicName(words)) ||
-                             (words[0].isLower() && isPartialLastName(words[0]))) {
+                             (words[0].isLower() && words[0].is(kParticle | kLowerParticle))) {
                              return -1;
                          }
                          std::size_t begin = n - 1;

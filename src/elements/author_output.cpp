@@ -46,6 +46,14 @@ bool isRunOfCapitals(TextView firstNames) {
                        [](char16_t unit) { return authorwords::isCapital(unit) || isHyphen(unit); });
 }
 
+/// Where the particle at the end of first names begins ("Simone de"); npos when there is none.
+std::size_t finalParticle(TextView firstNames) {
+    const std::size_t blank = firstNames.rfind(u' ');
+    const bool isParticle = blank != TextView::npos && blank + 1 < firstNames.size() && firstNames[blank + 1] >= u'a' &&
+                            authorwords::wordOf(firstNames.substr(blank + 1)).is(authorwords::kParticle);
+    return isParticle ? blank + 1 : TextView::npos;
+}
+
 class InitialsWriter {
 public:
     /// Appends to the result.
@@ -338,8 +346,14 @@ Text OutputTemplateAuthor::nameOf(const AuthorRecord& person, bool reverse, bool
     if (person.firstNames.empty() || !useFirst) {
         name = person.lastName;
     } else if (reverse) {
+        // AMA 10 3.7: "de Beauvoir S", since without a comma nothing tells where a "de" behind belongs.
+        const TextView names = person.firstNames;
+        const std::size_t particle = mReversedAuthorUsesComma ? TextView::npos : finalParticle(names);
+        if (particle != TextView::npos) {
+            name.append(names.substr(particle)).append(u" ");
+        }
         name.append(person.lastName).append(mReversedAuthorUsesComma ? u", " : u" ");
-        toStringAuthorFirst(person.firstNames, name);
+        toStringAuthorFirst(trim(names.substr(0, particle)), name);
     } else {
         toStringAuthorFirst(person.firstNames, name);
         name.append(u" ").append(person.lastName);

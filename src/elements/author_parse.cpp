@@ -65,7 +65,8 @@ void OutputTemplateAuthor::Parse(Text& text, TextView previousStr, bool residueA
 
 /// "[Horsley, Samuel?]": the work is anonymous, the name supplied.
 void OutputTemplateAuthor::readAttributedName(Text& text) {
-    if (text.empty() || text.front() != u'[' || text.back() != u']' || text.find(u']') + 1 != text.size()) {
+    if (text.empty() || text.front() != u'[' || text.back() != u']' || text.find(u']') + 1 != text.size() ||
+        text.find(u'[', 1) != Text::npos) {
         return;
     }
     text.pop_back();
@@ -183,9 +184,13 @@ void OutputTemplateAuthor::store(const Person& person) {
         mFirstGroupAuthorIndex = mNumAuthors;
     }
     AuthorRecord& record = nextAuthor();
-    record.lastName.append(person.prefix).append(person.last);
+    record.lastName.append(person.prefix);
+    if (!person.prefix.empty() && person.prefix.back() != u'-') {
+        record.lastName.push_back(u' ');
+    }
+    record.lastName.append(person.last);
     writeFirstNames(person, record.firstNames);
-    record.postfix = person.postfix;
+    record.postfix = writtenPostfix(person.postfix);
 }
 
 }  // namespace quorvel

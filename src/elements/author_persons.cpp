@@ -99,7 +99,8 @@ void OutputTemplateAuthor::parseAndRemoveAuthor(ListText& text, std::int16_t ind
                   ++text.nextPiece;
                   if (isPostfixOfPrevious(text, piece, index)) {
                       Text& postfix = mAuthors.at(static_cast<std::size_t>(index - 1)).postfix;
-                      postfix.append(postfix.empty() ? u"" : u", ").append(authorwords::textOf(words));
+                      postfix.append(postfix.empty() ? u"" : u", ");
+                      postfix.append(writtenPostfix(authorwords::textOf(words)));
                       return;
                   }
                   Person person;

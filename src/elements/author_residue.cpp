@@ -74,7 +74,7 @@ void OutputTemplateAuthor::parseAndRemoveResidue(ListText& text) {
         {&Author::parseAndRemoveResidueQuote, kHasQuote},
         {&Author::parseAndRemoveResidueVolume, kHasResidueWord},
         {&Author::parseAndRemoveResidueEditor, kHasColon},
-        {&Author::parseAndRemoveResidueAMAAuthor, kHasSentenceBreak | kHasEt},
+        {&Author::parseAndRemoveResidueAMAAuthor, kHasSentenceBreak | kHasEt | kHasCompactName},
         {&Author::parseAndRemoveCorporateAuthor, kHasSentenceBreak},
         {&Author::parseAndRemoveResidueByInitials, kHasSentenceBreak},
         {&Author::parseAndRemoveResidueByNumeral, kHasDigit},
@@ -245,8 +245,8 @@ void OutputTemplateAuthor::parseAndRemoveResidueAMAAuthor(ListText& text) {
         for (std::size_t i = 1; isCompact && i + 1 < words.size(); ++i) {
             const bool isAfterEtAl = isAtEtAlIndex(text.text(), positionOf(text.text(), words[i - 1]));
             const bool endsList = words[i].before == Separator::Blank && words[i + 1].before == Separator::Blank &&
-                                  (isAfterEtAl || isCompactInitialsWithStop(words[i]));
-            if (endsList && !isTagOrAnd(words[i + 1])) {
+                                  (isAfterEtAl || (words[i - 1].isName() && isCompactInitialsWithStop(words[i])));
+            if (endsList && !isTagOrAnd(words[i + 1]) && !words[i + 1].isInitials()) {
                 const std::size_t end = positionOf(text.text(), words[i]) + words[i].text.size();
                 cutResidue(text, end);
                 return;
@@ -260,7 +260,8 @@ void OutputTemplateAuthor::parseAndRemoveCorporateAuthor(ListText& text) {
     procedure(*this, u"OutputTemplateAuthor.parseAndRemoveCorporateAuthor", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
         for (std::size_t i = 1; i + 1 < words.size() && words[i].before == Separator::Blank; ++i) {
-            if (!words[i].endsWithStop || words[i].shape != Shape::Name || words[i].is(kCompanyEnding)) {
+            if (!words[i].endsWithStop || words[i].shape != Shape::Name ||
+                words[i].is(kCompanyEnding | kSubdivision)) {
                 continue;
             }
             if (isInstitutionalAuthor(WordSpan(words).first(i + 1)) && !words[i + 1].is(kSubdivision)) {
@@ -278,7 +279,9 @@ void OutputTemplateAuthor::parseAndRemoveResidueByInitials(ListText& text) {
         for (std::size_t i = 1; i + 1 < words.size(); ++i) {
             const bool breaks = words[i].endsWithStop && words[i].shape == Shape::Name &&
                                 words[i + 1].before == Separator::Blank && !words[i + 1].is(kSubdivision) &&
-                                !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition);
+                                !words[i + 1].isInitials() &&
+                                !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition |
+                                             kSubdivision);
             const std::size_t position = positionOf(text.text(), words[i]);
             if (breaks && !isAtInitialOrPostfixIndex(text.text(), position == 0 ? 0 : position - 1)) {
                 cutResidue(text, position + words[i].text.size());

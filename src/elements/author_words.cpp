@@ -9,9 +9,13 @@ namespace quorvel::authorwords {
 namespace {
 
 constexpr std::size_t kLongestKnownWord = 16;
+// Shorter words of capitals can be compact names: "HO S, LI JA".
+constexpr std::size_t kShortestShoutedName = 4;
 constexpr std::size_t kMostInitials = 5;
 // "Wm.", "Geo.", "Chas."
 constexpr std::size_t kLongestAbbreviation = 4;
+// "Yu."
+constexpr std::size_t kLongestUnknownAbbreviation = 3;
 constexpr char16_t kEmDash = u'\u2014';
 constexpr char16_t kEllipsisSign = u'\u2026';
 constexpr char16_t kCurlyApostrophe = u'\u2019';
@@ -70,7 +74,7 @@ struct Letters {
 
 Shape shapeOf(const Letters& letters, std::size_t size, bool endsWithStop) {
     const std::size_t all = letters.capitals + letters.lower + letters.others;
-    if (letters.digits > 0 && letters.capitals == 0 && letters.beginsLower == false) {
+    if (letters.digits > 0 && letters.capitals == 0) {
         return Shape::Number;
     }
     if (all == 0) {
@@ -160,6 +164,10 @@ void classify(Word& word) {
             word.classes = classesOf(key);
         }
     }
+    // "John." ends a sentence, "Wm." does not.
+    if (word.shape == Shape::Abbreviation && word.text.size() > kLongestUnknownAbbreviation && !word.is(kAbbreviation)) {
+        word.shape = Shape::Name;
+    }
 }
 
 /// Features that single characters bring.
@@ -211,7 +219,7 @@ bool endsWord(char16_t unit) {
 
 /// "Smith, John. The" breaks after "John."; "St. John" and "J. Smith" do not break.
 bool breaksSentence(const Word& word) {
-    return word.endsWithStop && word.shape == Shape::Name && !word.is(kPostfix | kParticle | kAnyTag | kCompanyEnding);
+    return word.endsWithStop && word.shape == Shape::Name && !word.is(kPostfix | kParticle | kAnyTag | kCompanyEnding | kSubdivision);
 }
 
 }  // namespace
@@ -255,6 +263,9 @@ std::uint32_t splitIntoWords(TextView text, Words& words) {
             classify(word);
         }
         features |= featuresOf(word);
+        if (words.size() == 2 && word.shape == Shape::Capitals && word.before == Separator::Blank) {
+            features |= kHasCompactName;
+        }
         if (at < text.size() && text[at] == u' ' && breaksSentence(word)) {
             features |= kHasSentenceBreak;
         }
@@ -287,7 +298,7 @@ bool isShouted(const Words& words) {
                         [](char16_t unit) { return casedOf(unit).letter == Letter::Lower; })) {
             return false;
         }
-        hasLongWord = hasLongWord || word.shape == Shape::Name;
+        hasLongWord = hasLongWord || word.text.size() >= kShortestShoutedName;
     }
     return hasLongWord;
 }

@@ -64,6 +64,8 @@ enum Feature : std::uint32_t {
     kHasTag = 1U << 11,
     kHasEt = 1U << 12,
     kHasAnd = 1U << 13,
+    /// The list begins like "Smith JA".
+    kHasCompactName = 1U << 14,
 };
 
 /// Splits a cleaned text into words. Commas, semicolons and the blanks between words are gone; words of
