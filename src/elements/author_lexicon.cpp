@@ -77,8 +77,8 @@ constexpr TextView kFirstNames[] = {
     u"valentina", u"vanessa",   u"victoria",   u"vincent",   u"walter",    u"werner",      u"william",    u"wolfgang",
 };
 
-constexpr TextView kAbbreviations[] = {u"wm", u"geo", u"chas", u"jas", u"jos", u"thos", u"robt", u"benj", u"edw",
-                                       u"chr", u"alex", u"fred", u"rev", u"mrs", u"prof", u"jun", u"sen"};
+constexpr TextView kAbbreviations[] = {u"wm",  u"geo",  u"chas", u"jas", u"jos", u"thos", u"robt", u"benj", u"edw",
+                                       u"chr", u"alex", u"fred", u"rev", u"mrs", u"prof", u"jun",  u"sen"};
 
 // --- Institutions ---------------------------------------------------------------------------------
 

@@ -12,12 +12,17 @@ constexpr std::uint32_t kWordsThatInitialsSpell = kParticle | kLowerParticle | k
                                                   kEt | kAl | kAnyTag | kTagOrnament | kArabicOpening | kFamilySuffix |
                                                   kEastAsianLastName | kFirstName;
 
+// "Yu."
+constexpr std::size_t kLongestUnknownAbbreviation = 3;
 constexpr TextView kAbbreviatedPostfixes[] = {u"Jr.", u"Sr."};
 
 /// The full stop of the sentence: "Smith, Jonathan.", "Smith J, Petty RE." Abbreviations and single
 /// initials keep theirs.
 void removeFinalStop(Words& words) {
-    if (words.empty() || !words.back().endsWithStop || words.back().shape != Shape::Name ||
+    const bool isAbbreviation =
+        !words.empty() && words.back().shape == Shape::Abbreviation &&
+        (words.back().is(kAbbreviation) || words.back().text.size() <= kLongestUnknownAbbreviation);
+    if (words.empty() || !words.back().endsWithStop || !words.back().isName() || isAbbreviation ||
         words.back().is(kPostfix | kDegree | kCompanyEnding | kAnyTag | kSubdivision)) {
         return;
     }

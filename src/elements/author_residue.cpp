@@ -143,15 +143,16 @@ void OutputTemplateAuthor::parseAndRemoveSameAsLastAuthor(ListText& text) {
 /// ", trans." at the very end is the tag of these persons; with a name behind it it is not theirs.
 void OutputTemplateAuthor::parseAndRemoveTranslator(ListText& text) {
     procedure(*this, u"OutputTemplateAuthor.parseAndRemoveTranslator", {{u"text", text.text()}}, [&] {
+        const Words& words = text.words();
+        const auto last = std::find_if_not(words.rbegin(), words.rend(), isTagOrAnd);
+        if (last == words.rend()) {
+            return;
+        }
+        const std::size_t lastOther = positionOf(text.text(), *last);
         const Text lower = toLower(text.text());
         for (const TextView mark : kTranslatorMarks) {
-            for (std::size_t at = lower.find(mark); at != Text::npos; at = lower.find(mark, at + 1)) {
-                const bool beginsWord = mark.front() == u',' || at == 0 || lower[at - 1] == u' ';
-                const Words& words = text.words();
-                const auto behind = std::find_if(words.begin(), words.end(), [&](const Word& word) {
-                    return positionOf(text.text(), word) >= at + trim(mark).size();
-                });
-                if (beginsWord && std::any_of(behind, words.end(), [](const Word& w) { return !isTagOrAnd(w); })) {
+            for (std::size_t at = lower.find(mark); at < lastOther; at = lower.find(mark, at + 1)) {
+                if (mark.front() == u',' || at == 0 || lower[at - 1] == u' ') {
                     cutResidue(text, at, mark.front() == u',' ? 1 : 0);
                     return;
                 }
@@ -260,14 +261,14 @@ void OutputTemplateAuthor::parseAndRemoveCorporateAuthor(ListText& text) {
     procedure(*this, u"OutputTemplateAuthor.parseAndRemoveCorporateAuthor", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
         for (std::size_t i = 1; i + 1 < words.size() && words[i].before == Separator::Blank; ++i) {
-            if (!words[i].endsWithStop || words[i].shape != Shape::Name ||
-                words[i].is(kCompanyEnding | kSubdivision)) {
+            if (!words[i].endsWithStop || words[i].shape != Shape::Name || words[i].is(kCompanyEnding | kSubdivision)) {
                 continue;
             }
-            if (isInstitutionalAuthor(WordSpan(words).first(i + 1)) && !words[i + 1].is(kSubdivision)) {
+            // Only the first sentence can be the author's.
+            if (!words[i + 1].is(kSubdivision) && isInstitutionalAuthor(WordSpan(words).first(i + 1))) {
                 cutResidue(text, positionOf(text.text(), words[i]) + words[i].text.size());
-                return;
             }
+            return;
         }
     });
 }
@@ -277,11 +278,10 @@ void OutputTemplateAuthor::parseAndRemoveResidueByInitials(ListText& text) {
     procedure(*this, u"OutputTemplateAuthor.parseAndRemoveResidueByInitials", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
         for (std::size_t i = 1; i + 1 < words.size(); ++i) {
-            const bool breaks = words[i].endsWithStop && words[i].shape == Shape::Name &&
-                                words[i + 1].before == Separator::Blank && !words[i + 1].is(kSubdivision) &&
-                                !words[i + 1].isInitials() &&
-                                !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition |
-                                             kSubdivision);
+            const bool breaks =
+                words[i].endsWithStop && words[i].shape == Shape::Name && words[i + 1].before == Separator::Blank &&
+                !words[i + 1].is(kSubdivision) && !words[i + 1].isInitials() &&
+                !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition | kSubdivision);
             const std::size_t position = positionOf(text.text(), words[i]);
             if (breaks && !isAtInitialOrPostfixIndex(text.text(), position == 0 ? 0 : position - 1)) {
                 cutResidue(text, position + words[i].text.size());

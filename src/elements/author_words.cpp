@@ -14,8 +14,6 @@ constexpr std::size_t kShortestShoutedName = 4;
 constexpr std::size_t kMostInitials = 5;
 // "Wm.", "Geo.", "Chas."
 constexpr std::size_t kLongestAbbreviation = 4;
-// "Yu."
-constexpr std::size_t kLongestUnknownAbbreviation = 3;
 constexpr char16_t kEmDash = u'\u2014';
 constexpr char16_t kEllipsisSign = u'\u2026';
 constexpr char16_t kCurlyApostrophe = u'\u2019';
@@ -164,8 +162,8 @@ void classify(Word& word) {
             word.classes = classesOf(key);
         }
     }
-    // "John." ends a sentence, "Wm." does not.
-    if (word.shape == Shape::Abbreviation && word.text.size() > kLongestUnknownAbbreviation && !word.is(kAbbreviation)) {
+    // "John." ends a sentence, "Wm." and "Card." do not.
+    if (word.shape == Shape::Abbreviation && word.is(kFirstName)) {
         word.shape = Shape::Name;
     }
 }
@@ -219,7 +217,8 @@ bool endsWord(char16_t unit) {
 
 /// "Smith, John. The" breaks after "John."; "St. John" and "J. Smith" do not break.
 bool breaksSentence(const Word& word) {
-    return word.endsWithStop && word.shape == Shape::Name && !word.is(kPostfix | kParticle | kAnyTag | kCompanyEnding | kSubdivision);
+    return word.endsWithStop && word.shape == Shape::Name &&
+           !word.is(kPostfix | kParticle | kAnyTag | kCompanyEnding | kSubdivision);
 }
 
 }  // namespace
