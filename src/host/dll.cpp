@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "host/adapters/author_adapter.h"
 #include "host/adapters/date_time_adapter.h"
 #include "host/adapters/place_adapter.h"
 #include "host/adapters/year_adapter.h"
@@ -27,6 +28,7 @@ struct CreatableClass {
 // Every coclass of the type library.
 const CreatableClass kCreatableClasses[] = {
     {CLSID_Main2, make<quorvel::host::Main2>},
+    {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
     {CLSID_OutputTemplateYear, make<YearAdapter>},
     {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
     {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},

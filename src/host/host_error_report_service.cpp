@@ -28,7 +28,7 @@ Variant arrayOf(const std::vector<T>& values) {
 /// A reported value in the variant of its declared type; arrays as every client reads them.
 struct ToVariant {
     Variant operator()(TraceValue::Object object) const { return Variant(dispatchOf(object)); }
-    Variant operator()(const std::vector<bool>* values) const { return arrayOf(*values); }
+    Variant operator()(const std::vector<bool>* values) const { return arrayOfFlags(*values); }
     Variant operator()(const std::vector<std::int16_t>* values) const { return arrayOf(*values); }
     Variant operator()(const std::vector<Text>* values) const { return arrayOfTexts(*values); }
     Variant operator()(const std::vector<TraceValue::Object>* objects) const {

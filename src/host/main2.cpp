@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/procedure.h"
+#include "host/adapters/author_adapter.h"
 #include "host/adapters/date_time_adapter.h"
 #include "host/adapters/place_adapter.h"
 #include "host/adapters/year_adapter.h"
@@ -22,9 +23,8 @@ struct ElementClass {
 
 // The element type codes and their classes. A code without a row makes nothing.
 constexpr ElementClass kElementClasses[] = {
-    {15, make<PlaceAdapter>},
-    {17, make<DateTimeAdapter>},
-    {6, make<YearAdapter>},
+    {0, make<AuthorAdapter>},    {9, make<AuthorAdapter>}, {15, make<PlaceAdapter>},
+    {17, make<DateTimeAdapter>}, {6, make<YearAdapter>},
 };
 
 ComPtr<IDispatch> createElement(std::int16_t whichType) {

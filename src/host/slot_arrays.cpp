@@ -1,17 +1,13 @@
 #include "host/slot_arrays.h"
 
 #include "core/procedure.h"
+#include "host/com/arguments.h"
 #include "host/com/arrays.h"
 #include "host/host_sink.h"
 
 namespace quorvel::host {
 
 namespace {
-
-Text textOf(const Variant& value) {
-    Variant text;
-    return Text(SUCCEEDED(convert(value, VT_BSTR, text)) ? view(text.bstrVal) : TextView());
-}
 
 OutputSinkRef sinkOf(const Variant& value) {
     Variant object;
@@ -26,10 +22,7 @@ bool fillSlotArrays(Implementor& implementor, bool isFootnote, VARIANT* items, V
     // Named after the assembly, since an array that is missing or too small is no fault of the element.
     moduleProcedure(u"OutputTemplate.ToFormattedStringImpl",
                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
-                        std::vector<Text> texts;
-                        for (const Variant& item : elementsOf(*items)) {
-                            texts.push_back(textOf(item));
-                        }
+                        std::vector<Text> texts = textsOf(*items);
                         std::vector<OutputSinkRef> fragments;
                         for (const Variant& item : elementsOf(*formattedItems)) {
                             fragments.push_back(sinkOf(item));

@@ -98,6 +98,14 @@ Variant arrayOfVariants(std::vector<Variant> values) {
     return result;
 }
 
+Variant arrayOfFlags(const std::vector<bool>& values) {
+    std::vector<Variant> variants;
+    for (const bool value : values) {
+        variants.emplace_back(value);
+    }
+    return arrayOfVariants(std::move(variants));
+}
+
 Variant arrayOfTexts(const std::vector<Text>& values) {
     std::vector<Variant> variants;
     variants.reserve(values.size());

@@ -11,6 +11,7 @@
 namespace quorvel::host {
 
 /// An array as every client reads it: of variants, from index 0.
+Variant arrayOfFlags(const std::vector<bool>& values);
 Variant arrayOfTexts(const std::vector<Text>& values);
 Variant arrayOfVariants(std::vector<Variant> values);
 

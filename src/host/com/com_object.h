@@ -46,8 +46,17 @@ inline void store(LONG* target, std::int32_t value) {
 inline void store(IDispatch** target, ComPtr<IDispatch> value) {
     *target = value.detach();
 }
+inline void store(SHORT* target, std::int16_t value) {
+    *target = value;
+}
+inline void store(VARIANT* target, Variant value) {
+    *target = value.detach();
+}
 inline void store(VARIANT* target, const std::vector<Text>& value) {
     *target = arrayOfTexts(value).detach();
+}
+inline void store(VARIANT* target, const std::vector<bool>& value) {
+    *target = arrayOfFlags(value).detach();
 }
 
 /// A text that a member changes in place: read on creation, written back at the end.
@@ -162,19 +171,6 @@ protected:
         return S_OK;
     }
 
-    /// The body of a member that reads arguments of a type of their own (an array, an index or none): what
-    /// fails there is reported as an error of the procedure, and the member does nothing.
-    template <class Body>
-    HRESULT call(const Name& procedure, Body&& body) noexcept {
-        return call([&] {
-            try {
-                body();
-            } catch (...) {
-                reportCurrentException(VBWPROTECTOR::ofThisApartment(), procedure, nullptr);
-            }
-        });
-    }
-
     /// The body of a member with a result, which is the empty value when the body has none to give.
     template <class Result, class Body>
     HRESULT call(Result* result, Body&& body) noexcept {
@@ -187,6 +183,17 @@ protected:
                 store(result, std::move(value));
             }
         });
+    }
+
+    /// Inside `call`, around the reading of arguments that may be of several types: what fails there is
+    /// reported as an error of the procedure, and the member does nothing.
+    template <class Body>
+    static void trapped(const Name& procedure, Body&& body) noexcept {
+        try {
+            body();
+        } catch (...) {
+            reportCurrentException(VBWPROTECTOR::ofThisApartment(), procedure, nullptr);
+        }
     }
 
 private:

@@ -5,6 +5,7 @@
 #include <mutex>
 
 #include "core/procedure.h"
+#include "host/com/arguments.h"
 #include "host/com/automation_error.h"
 #include "host/com/module.h"
 
@@ -92,11 +93,6 @@ void copyDefault(const PARAMDESC& description, Variant& defaultValue) {
     if ((description.wParamFlags & PARAMFLAG_FHASDEFAULT) != 0 && description.pparamdescex != nullptr) {
         VariantCopy(&defaultValue, &description.pparamdescex->varDefaultValue);
     }
-}
-
-/// What a caller passes for an argument that he leaves out.
-bool isMissing(const VARIANT& value) {
-    return value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND;
 }
 
 bool isNull(const VARIANT& value) {

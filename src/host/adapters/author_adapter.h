@@ -1,0 +1,192 @@
+#pragma once
+
+#include <memory>
+
+#include "elements/author.h"
+#include "host/com/arguments.h"
+#include "host/com/com_object.h"
+#include "host/host_sink.h"
+#include "host/interfaces.h"
+#include "host/slot_arrays.h"
+
+namespace quorvel::host {
+
+/// `OutputTemplateAuthor` as the host sees it.
+class AuthorAdapter final : public ComObject<_OutputTemplateAuthor> {
+public:
+    explicit AuthorAdapter(std::shared_ptr<OutputTemplateAuthor> author = std::make_shared<OutputTemplateAuthor>())
+        : mAuthor(std::move(author)) {}
+
+    STDMETHODIMP Initialize(IDispatch* formattedStr) override {
+        return call([&] { mAuthor->Initialize(HostSink::of(formattedStr)); });
+    }
+    STDMETHODIMP Reset(VARIANT_BOOL SupportAnonAndPseudoAuthors, VARIANT_BOOL SquareBracketIsForFirstName,
+                       BSTR editorTags, BSTR andSeparator, VARIANT_BOOL twoAuthorsIsOnlyCaseHaveNoComma,
+                       VARIANT_BOOL ReverseFirstOnFootnote, VARIANT_BOOL reverseSecondaryAuthors,
+                       VARIANT_BOOL reversedAuthorUsesComma, VARIANT_BOOL reversedAuthorPostfixUsesComma,
+                       short numAuthorsToTriggerEtAl, short numAuthorsToTriggerEtAlCitation,
+                       short numAuthorsToTriggerEtAlMinimalString, short numAuthorsInEtAl,
+                       short numAuthorsInEtAlMinimalString, VARIANT_BOOL etAlUsesElipses,
+                       VARIANT_BOOL etAlInReferenceList, VARIANT_BOOL etAlHasComma, VARIANT_BOOL etAlCitationHasComma,
+                       BSTR editorSeparator, VARIANT_BOOL initialsOnly, VARIANT_BOOL initialsUsePeriods,
+                       VARIANT_BOOL semicolonBetweenGroupAuthors, VARIANT_BOOL supportsCompilerAndEditor) override {
+        return call([&] {
+            mAuthor->Reset(asBool(SupportAnonAndPseudoAuthors), asBool(SquareBracketIsForFirstName), view(editorTags),
+                           view(andSeparator), asBool(twoAuthorsIsOnlyCaseHaveNoComma), asBool(ReverseFirstOnFootnote),
+                           asBool(reverseSecondaryAuthors), asBool(reversedAuthorUsesComma),
+                           asBool(reversedAuthorPostfixUsesComma), numAuthorsToTriggerEtAl,
+                           numAuthorsToTriggerEtAlCitation, numAuthorsToTriggerEtAlMinimalString, numAuthorsInEtAl,
+                           numAuthorsInEtAlMinimalString, asBool(etAlUsesElipses), asBool(etAlInReferenceList),
+                           asBool(etAlHasComma), asBool(etAlCitationHasComma), view(editorSeparator),
+                           asBool(initialsOnly), asBool(initialsUsePeriods), asBool(semicolonBetweenGroupAuthors),
+                           asBool(supportsCompilerAndEditor));
+        });
+    }
+    STDMETHODIMP Clone(IDispatch** result) override {
+        return call(result, [&] { return adapterOf<AuthorAdapter>(mAuthor->Clone()); });
+    }
+    STDMETHODIMP CloneForEditors(IDispatch** result) override {
+        return call(result, [&] { return adapterOf<AuthorAdapter>(mAuthor->CloneForEditors()); });
+    }
+    STDMETHODIMP ToFormattedString(IDispatch* formattedStr, VARIANT_BOOL isFootnote,
+                                   VARIANT_BOOL shortenedVersion) override {
+        return call([&] {
+            mAuthor->ToFormattedString(HostSink::of(formattedStr), asBool(isFootnote), asBool(shortenedVersion));
+        });
+    }
+    STDMETHODIMP ToFormattedStringImpl(VARIANT_BOOL isFootnote, VARIANT* items, VARIANT* formattedItems,
+                                       VARIANT_BOOL shortenedVersion, VARIANT_BOOL* result) override {
+        return call(result, [&] {
+            return fillSlotArrays(*mAuthor, asBool(isFootnote), items, formattedItems, asBool(shortenedVersion));
+        });
+    }
+    STDMETHODIMP toString(VARIANT_BOOL isFootnote, VARIANT_BOOL shortenedVersion, VARIANT_BOOL isMinimal,
+                          VARIANT_BOOL isCitation, VARIANT_BOOL forceNoInitials, VARIANT_BOOL isRTF,
+                          BSTR* result) override {
+        return call(result, [&] {
+            return mAuthor->toString(asBool(isFootnote), asBool(shortenedVersion), asBool(isMinimal),
+                                     asBool(isCitation), asBool(forceNoInitials), asBool(isRTF));
+        });
+    }
+    STDMETHODIMP toCitationFormat(BSTR* form1, BSTR* form2) override {
+        return call([&] { mAuthor->toCitationFormat(InOutText(form1), InOutText(form2)); });
+    }
+    STDMETHODIMP Parse(BSTR* text, BSTR previousStr, VARIANT_BOOL residueAlreadyRemoved) override {
+        return call([&] { mAuthor->Parse(InOutText(text), view(previousStr), asBool(residueAlreadyRemoved)); });
+    }
+    STDMETHODIMP toKeywordList(VARIANT* result) override {
+        return call(result, [&] { return mAuthor->toKeywordList(); });
+    }
+    STDMETHODIMP toMergedString(BSTR* result) override {
+        return call(result, [&] { return mAuthor->toMergedString(); });
+    }
+    STDMETHODIMP isSameAuthor(BSTR str1, BSTR str2, VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->isSameAuthor(view(str1), view(str2)); });
+    }
+    STDMETHODIMP get_authors(VARIANT* result) override {
+        return call(result, [&] { return mAuthor->authors(); });
+    }
+    STDMETHODIMP put_authors(VARIANT values) override {
+        return call([&] { trapped(u"OutputTemplateAuthor.authors[Let]", [&] { mAuthor->authors(textsOf(values)); }); });
+    }
+    STDMETHODIMP get_authorsForQVDb(BSTR* result) override {
+        return call(result, [&] { return mAuthor->authorsForQVDb(); });
+    }
+    STDMETHODIMP get_hasDiscussant(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->hasDiscussant(); });
+    }
+    STDMETHODIMP get_Anthologies(VARIANT index, VARIANT* result) override {
+        return call(result, [&] {
+            Variant roles;
+            trapped(u"OutputTemplateAuthor.Anthologies[Get]", [&] { roles = anthologies(index); });
+            return roles;
+        });
+    }
+    STDMETHODIMP put_Anthologies(VARIANT index, VARIANT values) override {
+        return call([&] { trapped(u"OutputTemplateAuthor.Anthologies[Let]", [&] { setAnthologies(index, values); }); });
+    }
+    STDMETHODIMP get_editor(BSTR* result) override {
+        return call(result, [&] { return mAuthor->editor(); });
+    }
+    STDMETHODIMP get_checkingArray(VARIANT* result) override {
+        return call(result, [&] { return mAuthor->checkingArray(); });
+    }
+    STDMETHODIMP get_residue(BSTR* result) override {
+        return call(result, [&] { return mAuthor->residue(); });
+    }
+    STDMETHODIMP put_residue(BSTR residue) override {
+        return call([&] { mAuthor->residue(view(residue)); });
+    }
+    STDMETHODIMP get_LastNameFirstForAuthor1(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->LastNameFirstForAuthor1(); });
+    }
+    STDMETHODIMP get_isJapaneseOrChineseLastName(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->isJapaneseOrChineseLastName(); });
+    }
+    STDMETHODIMP get_supportsCompilerAndEditor(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->supportsCompilerAndEditor(); });
+    }
+    STDMETHODIMP get_SupportAnonAndPseudoAuthors(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->SupportAnonAndPseudoAuthors(); });
+    }
+    STDMETHODIMP get_SquareBracketIsForFirstName(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->SquareBracketIsForFirstName(); });
+    }
+    STDMETHODIMP collapsePseudoToFirstName(BSTR firstAuthor, BSTR* result) override {
+        return call(result, [&] { return mAuthor->collapsePseudoToFirstName(view(firstAuthor)); });
+    }
+    STDMETHODIMP convertCommaToSemicolon(BSTR text, BSTR* result) override {
+        return call(result, [&] { return mAuthor->convertCommaToSemicolon(view(text)); });
+    }
+    STDMETHODIMP ClearAuthors() override {
+        return call([&] { mAuthor->ClearAuthors(); });
+    }
+    STDMETHODIMP isEmptyArrayAuthor(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->isEmptyArrayAuthor(); });
+    }
+    STDMETHODIMP get_Pseudoname(BSTR* result) override {
+        return call(result, [&] { return mAuthor->Pseudoname; });
+    }
+    STDMETHODIMP put_Pseudoname(BSTR Pseudoname) override {
+        return call([&] { mAuthor->Pseudoname = view(Pseudoname); });
+    }
+    STDMETHODIMP get_AuthorType(short* result) override {
+        return call(result, [&] { return mAuthor->AuthorType; });
+    }
+    STDMETHODIMP put_AuthorType(short AuthorType) override {
+        return call([&] { mAuthor->AuthorType = AuthorType; });
+    }
+    STDMETHODIMP get_HasEtAl(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mAuthor->HasEtAl; });
+    }
+    STDMETHODIMP put_HasEtAl(VARIANT_BOOL HasEtAl) override {
+        return call([&] { mAuthor->HasEtAl = asBool(HasEtAl); });
+    }
+
+private:
+    /// One role for an index, all three without.
+    Variant anthologies(const VARIANT& index) const {
+        if (!isMissing(index)) {
+            return Variant(mAuthor->Anthologies(numberOf(index)));
+        }
+        std::vector<Variant> roles;
+        for (std::int16_t role = 0; role < OutputTemplateAuthor::kRoles; ++role) {
+            roles.emplace_back(mAuthor->Anthologies(role));
+        }
+        return arrayOfVariants(std::move(roles));
+    }
+    void setAnthologies(const VARIANT& index, const VARIANT& values) {
+        if (!isMissing(index)) {
+            mAuthor->Anthologies(numberOf(index), flagOf(values));
+            return;
+        }
+        std::int16_t role = 0;
+        for (const Variant& value : elementsOf(values)) {
+            mAuthor->Anthologies(role++, flagOf(value));
+        }
+    }
+
+    std::shared_ptr<OutputTemplateAuthor> mAuthor;
+};
+
+}  // namespace quorvel::host
