@@ -263,6 +263,7 @@ private:
 
     // Reading: tags.
     bool processEditor(ListText& text);
+    void removeInnerTags(ListText& text);
     bool isEditor(WordSpan words) const;
     bool editionMisinterpretedAsEditor(WordSpan words) const;
     bool isEdition(TextView word) const;

@@ -111,8 +111,12 @@ Text OutputTemplateAuthor::editor() const {
 
 void OutputTemplateAuthor::parseAndRemoveAnthology(ListText& text) {
     procedure(*this, u"OutputTemplateAuthor.parseAndRemoveAnthology", {{u"text", text.text()}}, [&] {
-        if (text.has(kHasTag) && processEditor(text)) {
-            return;
+        if (text.has(kHasTag)) {
+            const bool hasTags = processEditor(text);
+            removeInnerTags(text);
+            if (hasTags) {
+                return;
+            }
         }
         // "Smith, John, anthology" without any tag.
         Words& words = text.words();
@@ -121,6 +125,20 @@ void OutputTemplateAuthor::parseAndRemoveAnthology(ListText& text) {
             words.pop_back();
         }
     });
+}
+
+/// "Smith, J. (Ed.), & Jones, K. (Trans.)": a tag behind one of several persons. The element has one set
+/// of roles for all.
+void OutputTemplateAuthor::removeInnerTags(ListText& text) {
+    Words& words = text.words();
+    std::size_t kept = 0;
+    for (const Word& word : words) {
+        const bool isTag = kept > 0 && word.is(kAnyTag) && word.text.front() == u'(' && word.text.back() == u')';
+        if (!isTag || !parseAnthologyTag(word)) {
+            words[kept++] = word;
+        }
+    }
+    words.resize(kept);
 }
 
 bool OutputTemplateAuthor::parseAnthologyTag(const Word& word) {

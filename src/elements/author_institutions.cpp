@@ -17,7 +17,10 @@ bool isArticleFor(const Word& word) {
     return word.text.starts_with(u"'") || word.text.starts_with(u"\u2019") || word.is(kParticle);
 }
 
-/// "of" and "for" in any case between two words; the others in lower case only, and not where they are
+// "For", "Without"; "By" and "To" are names.
+constexpr std::size_t kShortestCapitalisedPreposition = 3;
+
+/// "of" and the longer ones in any case between two words; the others in lower case only, and not where they are
 /// particles ("in 't Veld").
 bool isInnerPreposition(WordSpan words, std::size_t i) {
     if (!words[i].is(kPreposition) || i == 0 || i + 1 == words.size() || words[i].is(kParticle)) {
@@ -26,7 +29,7 @@ bool isInnerPreposition(WordSpan words, std::size_t i) {
     if (words[i].is(kLowerParticle)) {
         return words[i].isLower() && !isArticleFor(words[i + 1]);
     }
-    return words[i].isLower() || words[i].text.size() == 3 || words[i].text == u"Of";
+    return words[i].isLower() || words[i].text.size() >= kShortestCapitalisedPreposition || words[i].text == u"Of";
 }
 
 bool hasPreposition(WordSpan words) {
@@ -76,7 +79,8 @@ bool isPersonWithSuchName(WordSpan words) {
 
 /// "Press WH", "van der Bank J": a last name with initials behind it.
 bool isCompactPerson(WordSpan words) {
-    if (words.back().shape != Shape::Capitals) {
+    const bool isCompany = words.back().is(kCompanyEnding) && words.back().text.size() > 2;
+    if (words.back().shape != Shape::Capitals || isCompany) {
         return false;
     }
     const auto names = std::count_if(words.begin(), words.end() - 1,

@@ -82,9 +82,9 @@ constexpr TextView kAbbreviations[] = {u"wm",  u"geo",  u"chas", u"jas", u"jos",
 
 // --- Institutions ---------------------------------------------------------------------------------
 
-constexpr TextView kPrepositions[] = {u"of",  u"for", u"the",  u"on",      u"in",      u"at",
-                                      u"to",  u"by",  u"with", u"against", u"from",    u"pour",
-                                      u"für", u"des", u"per",  u"para",    u"without", u"sans"};
+constexpr TextView kPrepositions[] = {u"of",  u"for", u"the",  u"on",      u"in",   u"at",
+                                      u"to",  u"by",  u"with", u"against", u"from", u"pour",
+                                      u"für", u"des", u"para", u"without", u"sans"};
 
 constexpr TextView kInstitutionHeads[] = {
     u"academy",       u"agency",         u"agencies",      u"alliance",      u"assembly",      u"association",
@@ -125,7 +125,8 @@ constexpr TextView kInstitutionWords[] = {
     u"films",     u"website",    u"wikipedia", u"contributors", u"county",          u"national",
     u"archives",  u"affairs",    u"sciences",  u"analytics",    u"consulting",      u"editorial",
     u"crew",      u"survey",     u"campaign",  u"developers",   u"reporters",       u"correspondents",
-    u"members",   u"students",   u"workers",   u"teachers",
+    u"members",   u"students",   u"workers",   u"teachers",     u"rights",          u"watch",
+    u"canada",    u"australia",  u"zealand",   u"britain",
 };
 
 // Words of institutions that are surnames as well: "Emma Church", "William Press".

@@ -16,7 +16,8 @@ namespace {
 constexpr TextView kPostfixDigits = u"IVX";
 // "de" that stands with the first names: "Beauvoir, Simone de".
 constexpr TextView kNamesWithoutDe[] = {u"brigron", u"beauvoir"};
-// Before these a "de" opens a second first name, not the last name: "Maria de Lourdes Silva".
+// Before these a "de" opens a second first name, not the last name: "Maria de Lourdes Silva", "María de
+// la Luz Hernández".
 constexpr TextView kNamesBeforeDe[] = {u"Maria", u"María", u"Marie"};
 // Moved in front of the last name: "Hakim, Tawfiq al-".
 constexpr TextView kApostrophePrefixes[] = {u"al-", u"el-", u"Al-", u"El-", u"de'", u"de\u2019"};
@@ -145,12 +146,15 @@ std::int16_t OutputTemplateAuthor::getFirstNameUbound(WordSpan words) const {
                                  (words[i].classes == kNoClass && !words[i].isLower() && !hasHyphen(words[i].text))) {
                                  continue;
                              }
-                             const bool isSecondFirstName = words[i].isLower() && i + 2 < n && words[i + 1].isName() &&
-                                                            !words[i + 2].isLower() &&
-                                                            isOneOf(words[i - 1].text, kNamesBeforeDe);
-                             if (isSecondFirstName) {
-                                 ++i;
-                                 continue;
+                             if (words[i].isLower() && isOneOf(words[i - 1].text, kNamesBeforeDe)) {
+                                 std::size_t name = i;
+                                 while (name < n && words[name].isLower()) {
+                                     ++name;
+                                 }
+                                 if (name + 1 < n && !words[name + 1].isLower()) {
+                                     i = name;
+                                     continue;
+                                 }
                              }
                              if (isSpanishY(words[i])) {
                                  begin = std::max<std::size_t>(i - 1, 1);

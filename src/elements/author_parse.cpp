@@ -108,6 +108,9 @@ void OutputTemplateAuthor::parseAndRemoveEtAl(ListText& text) {
             if (isEtAl) {
                 HasEtAl = true;
                 ++i;
+                if (i + 1 < words.size() && words[i + 1].before == Separator::Blank) {
+                    words[i + 1].before = Separator::Comma;
+                }
             } else {
                 words[kept++] = words[i];
             }
@@ -164,12 +167,12 @@ void OutputTemplateAuthor::parseAndRemoveAndSeparator(ListText& text) {
     });
 }
 
-/// "Smith J, Jones K": a list whose first person is compact is compact as a whole.
+/// "Smith J, Jones K", "Smith J., Jones K.": a list whose first person is compact is so as a whole.
 void OutputTemplateAuthor::handleAMAException(ListText& text) const {
     procedure(*this, u"OutputTemplateAuthor.handleAMAException", {{u"text", text.text()}}, [&] {
         for (const Piece& piece : text.pieces()) {
             if (!piece.isInstitution) {
-                text.isCompact = piece.kind == PieceKind::Compact;
+                text.isCompact = piece.kind == PieceKind::Compact || piece.kind == PieceKind::EndsWithInitial;
                 return;
             }
         }

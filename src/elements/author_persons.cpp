@@ -24,6 +24,21 @@ bool looksLikeLastName(WordSpan words) {
            first.is(kPartialLastName) || words.back().is(kFamilySuffix);
 }
 
+/// "Smith, Jones, and Brown", as a citation names them.
+bool areLastNamesOnly(const AuthorListText& text, std::size_t piece) {
+    const auto& pieces = text.pieces();
+    return piece == 0 && pieces.size() > 2 && pieces.back().before == Separator::And &&
+           std::all_of(pieces.begin(), pieces.end(),
+                       [](const Piece& each) { return each.kind == PieceKind::Single; }) &&
+           !text.wordsOf(pieces[1])[0].is(kFirstName);
+}
+
+/// "(ATLAS Collaboration)" without its parentheses.
+TextView insideParentheses(TextView text) {
+    const bool isEnclosed = text.size() > 2 && text.front() == u'(' && text.back() == u')';
+    return isEnclosed ? text.substr(1, text.size() - 2) : text;
+}
+
 /// "[David Cornwell]" without its brackets.
 TextView insideBrackets(TextView text) {
     text.remove_prefix(1);
@@ -57,7 +72,8 @@ bool OutputTemplateAuthor::parseAndRecoverFirstName(const ListText& text, std::s
         if (first.kind == Postfix) {
             return last.kind == Single && isDegreeLikeInitials(firstWords);
         }
-        if (last.isInstitution || first.isInstitution || (text.isCompact && last.kind == Compact)) {
+        if (last.isInstitution || first.isInstitution ||
+            (text.isCompact && (last.kind == Compact || last.kind == EndsWithInitial))) {
             return false;
         }
         // "Smith, J. A.", "Brendan D.": no name in direct order ends with an initial.
@@ -68,6 +84,9 @@ bool OutputTemplateAuthor::parseAndRecoverFirstName(const ListText& text, std::s
         if (last.kind == Direct || last.kind == EndsWithInitial || last.kind == Initials || last.kind == Compact) {
             // "de F. S. M. Russo, Rosaria"
             return isLastName && last.kind != EndsWithInitial;
+        }
+        if (last.kind == Single && areLastNamesOnly(text, piece)) {
+            return false;
         }
         if (text.hasDirect) {
             // "Warnier, Martijn, David de Groot, ...": whoever follows a name in direct order is so too.
@@ -111,7 +130,7 @@ void OutputTemplateAuthor::parseAndRemoveAuthor(ListText& text, std::int16_t ind
                       isReversed = true;
                       text.hasReversed = true;
                   } else if (piece.isInstitution || isGroupBehindSemicolon(text, piece)) {
-                      person.last = authorwords::textOf(words);
+                      person.last = insideParentheses(authorwords::textOf(words));
                       person.isGroup = true;
                   } else if (isCompactAuthor(text, piece)) {
                       person = parseCompactAuthor(words);
@@ -155,7 +174,7 @@ bool OutputTemplateAuthor::isCompactAuthor(const ListText& text, const Piece& pi
     if (piece.kind == PieceKind::Compact) {
         return text.isCompact || (!text.hasDirect && !text.wordsOf(piece)[0].is(kFirstName));
     }
-    // The last initial of the list before the full stop of the sentence: "Smith J, Jones K."
+    // "Smith J., Jones K.", or the full stop of the sentence behind the last initial.
     return text.isCompact && piece.kind == PieceKind::EndsWithInitial;
 }
 
@@ -185,7 +204,7 @@ OutputTemplateAuthor::Person OutputTemplateAuthor::parseCompactAuthor(WordSpan w
     }
     // "Smith JA", "Smith J A"
     std::size_t initials = words.size() - 1;
-    while (initials > 1 && words[initials - 1].shape == Shape::Capitals) {
+    while (initials > 1 && words[initials - 1].isInitials()) {
         --initials;
     }
     person.last = authorwords::textOf(words.first(initials));

@@ -91,6 +91,10 @@ Shape shapeOf(const Letters& letters, std::size_t size, bool endsWithStop) {
         return Shape::Name;
     }
     if (letters.beginsLower) {
+        // "e. e. cummings"
+        if (letters.lower == 1 && endsWithStop && size == 2) {
+            return Shape::Initial;
+        }
         return Shape::Lower;
     }
     // "J-JCh": the last initial is a sound of two letters.

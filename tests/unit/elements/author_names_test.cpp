@@ -39,6 +39,7 @@ TEST(AuthorNames, ParticlesBelongToTheLastName) {
         {u"Quoc Le", u"Le|Quoc"},
         // "Maria de Lourdes" is a first name.
         {u"Maria de Lourdes Silva", u"Silva|Maria de Lourdes"},
+        {u"María de la Luz Hernández", u"Hernández|María de la Luz"},
         {u"Simone de Beauvoir", u"Beauvoir|Simone de"},
         {u"Beauvoir, Simone de", u"Beauvoir|Simone de"},
         {u"Russo, R. de F., and A. de F. S. M. Russo", u"Russo|R. de F.; de F. S. M. Russo|A."},
@@ -138,6 +139,8 @@ TEST(AuthorNames, InstitutionsStayWhole) {
         {u"John D. and Catherine T. MacArthur Foundation", u"John D. and Catherine T. MacArthur Foundation"},
         {u"The New Yorker", u"The New Yorker"},
         {u"UNESCO", u"UNESCO"},
+        {u"Doctors Without Borders", u"Doctors Without Borders"},
+        {u"Ernst & Young LLP", u"Ernst & Young LLP"},
         // Two of them, and institutions beside persons.
         {u"World Health Organization & World Bank", u"World Health Organization; World Bank"},
         {u"World Bank and UNESCO", u"World Bank; UNESCO"},
