@@ -15,11 +15,12 @@ export WINEDEBUG=${WINEDEBUG:--all}
 # crashes: its status is 0 after that at times.
 export WINEDLLOVERRIDES='mscoree=;mshtml=;winemenubuilder.exe,winedbg.exe=d'
 
-# build PRESET [TARGET...]: configures and builds a preset; only what changed is compiled.
+# build PRESET [OPTION...]: configures and builds a preset, with options for `cmake --build`; only what
+# changed is compiled.
 build() {
     local preset=$1
     shift
-    (cd "$root" && cmake --preset "$preset" && cmake --build --preset "$preset" ${1:+--target "$@"})
+    (cd "$root" && cmake --preset "$preset" && cmake --build --preset "$preset" "$@")
 }
 
 # register_library: registers the 64-bit library in the Wine prefix.

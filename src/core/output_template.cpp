@@ -307,6 +307,7 @@ void outputTemplate::dumpVariables(VBWPROTECTOR& report) const {
     const OutputSinkRef formattedStr = mFormattedStr;
     const std::vector<OutputSinkRef> fragments = mFormattedItems;
     std::vector<TraceValue::Object> formattedItems;
+    formattedItems.reserve(fragments.size());
     for (const OutputSinkRef& fragment : fragments) {
         formattedItems.push_back(fragment.get());
     }

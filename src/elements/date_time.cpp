@@ -192,6 +192,7 @@ void OutputTemplateDateTime::ToFormattedString(const OutputSinkRef& formattedStr
 bool OutputTemplateDateTime::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
                                                    std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
     std::vector<TraceValue::Object> fragments;
+    fragments.reserve(formattedItems.size());
     for (const OutputSinkRef& item : formattedItems) {
         fragments.push_back(item.get());
     }

@@ -138,7 +138,7 @@ Text OutputTemplatePlace::toString(bool isFootnote, bool shortenedVersion, TextV
     return procedure(
         *this, u"OutputTemplatePlace.toString",
         {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}, {u"publisherStr", publisherStr}}, [&] {
-            const Text place = toStringImpl(publisherStr);
+            Text place = toStringImpl(publisherStr);
             switch (placeType) {
                 case kNotKnown: return Supports(kNotKnown) ? Text(kNotKnownText) : place;
                 case kGuessed: return Supports(kGuessed) ? concatenate({u"[", place, u"?]"}) : place;

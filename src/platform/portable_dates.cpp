@@ -36,15 +36,16 @@ constexpr int kMonthsInYear = 12;
 constexpr int kLongestMonth = 31;
 constexpr int kSecondsInDay = 24 * 60 * 60;
 
+constexpr std::size_t kNoName = static_cast<std::size_t>(-1);
+
 /// The numbers of a date in the order in which they can stand: Y year, M month, D day. Of the orders
 /// of a shape the first that gives a day of the calendar is taken.
 struct Shape {
-    std::size_t numbers;
-    std::size_t firstName;  // which number is the first that was given as a month's name
+    std::size_t numbers = 0;
+    std::size_t firstName = kNoName;  // which number is the first that was given as a month's name
     std::array<TextView, 4> orders;
 };
 
-constexpr std::size_t kNoName = static_cast<std::size_t>(-1);
 constexpr Shape kShapes[] = {
     {2, kNoName, {u"MD", u"DM", u"MY", u"YM"}},      // 12/5, 13/5, 5/1990, 1990/5
     {2, 0, {u"MD", u"MY"}},                          // May 5, May 1990

@@ -53,7 +53,7 @@ Text WindowsDates::format(DateValue date, TextView pattern) const {
         return {};
     }
     std::wstring platformPattern = forPlatform(pattern.empty() ? kShortDatePattern : pattern);
-    std::array<BYTE, kTokenBytes> tokens;
+    std::array<BYTE, kTokenBytes> tokens{};
     int actual = 0;
     if (FAILED(VarTokenizeFormatString(platformPattern.data(), tokens.data(), static_cast<int>(tokens.size()),
                                        /*first day: Sunday*/ 1, /*first week: of 1 January*/ 1, kForPatterns,
