@@ -19,9 +19,8 @@ constexpr DateValue kLastDay = 2958465;   // 31 December 9999
 bool hasLongNumber(TextView text) {
     std::size_t digits = 0;
     for (const char16_t unit : text) {
-        const bool isDigit = unit >= u'0' && unit <= u'9';
         const bool isLeadingZero = unit == u'0' && digits == 0;
-        digits = isDigit ? digits + (isLeadingZero ? 0 : 1) : 0;
+        digits = isDigit(unit) ? digits + (isLeadingZero ? 0 : 1) : 0;
         if (digits > kMostDigits) {
             return true;
         }

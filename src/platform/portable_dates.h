@@ -15,8 +15,8 @@ namespace quorvel {
 /// lie between 1950 and 2049.
 ///
 /// It differs from the platform, as Wine 8 has it, where no reference is likely to go: names that are
-/// run together ("MonMay 7"), a day half inside a time ("10 am:30"), and letters that the platform
-/// swallows behind a bare "a" or "p".
+/// run together ("MonMay 7", "May am" without the blank), and characters that the platform swallows
+/// behind a bare "a" or "p".
 ///
 /// A pattern's other letters ("h", "c", "q") and its quoting marks have a meaning to the platform; here
 /// they are written as they stand. So is a lone "y". A year before 1000 is written without zeros in

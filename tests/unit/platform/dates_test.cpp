@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdio>
 #include <limits>
+#include <ostream>
 #include <string>
 
 #include "platform/date_cases.h"
@@ -70,59 +71,67 @@ void expectTables(const Dates& dates) {
     }
 }
 
-template <class Implementation>
-class DatesTest : public ::testing::Test {
-protected:
-    const Implementation dates;
+struct Implementation {
+    const char* name;
+    const Dates& dates;
 };
 
-#ifdef _WIN32
-using Implementations = ::testing::Types<PortableDates, WindowsDates>;
-#else
-using Implementations = ::testing::Types<PortableDates>;
-#endif
-
-struct ImplementationName {
-    template <class Implementation>
-    static std::string GetName(int) {
-        return std::is_same_v<Implementation, PortableDates> ? "Portable" : "Windows";
-    }
-};
-
-TYPED_TEST_SUITE(DatesTest, Implementations, ImplementationName);
-
-TYPED_TEST(DatesTest, ReadsAndWritesWhatTheTablesSay) {
-    expectTables(this->dates);
+void PrintTo(const Implementation& implementation, std::ostream* out) {
+    *out << implementation.name;
 }
 
-TYPED_TEST(DatesTest, TheUsersCountryDoesNotMatter) {
+const PortableDates kPortable;
+#ifdef _WIN32
+const WindowsDates kWindows;
+#endif
+
+const Implementation kImplementations[] = {
+    {"Portable", kPortable},
+#ifdef _WIN32
+    {"Windows", kWindows},
+#endif
+};
+
+class DatesTest : public ::testing::TestWithParam<Implementation> {
+protected:
+    const Dates& dates = GetParam().dates;
+};
+
+INSTANTIATE_TEST_SUITE_P(, DatesTest, ::testing::ValuesIn(kImplementations),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_P(DatesTest, ReadsAndWritesWhatTheTablesSay) {
+    expectTables(dates);
+}
+
+TEST_P(DatesTest, TheUsersCountryDoesNotMatter) {
     for (const tests::Country& country : tests::kHostileCountries) {
         SCOPED_TRACE(country.posixLocale);
         const tests::HostileEnvironment environment(country);
         if (!environment.isInForce()) {
             GTEST_SKIP() << "no locale " << country.posixLocale << " on this machine";
         }
-        expectTables(this->dates);
+        expectTables(dates);
     }
 }
 
-TYPED_TEST(DatesTest, ReadsEveryDateThatItWrites) {
+TEST_P(DatesTest, ReadsEveryDateThatItWrites) {
     constexpr TextView kPatterns[] = {u"mmmm d, yyyy", u"d mmm yyyy", u"yyyy-mm-dd",
                                       u"m/d/yyyy",     u"d/m/yyyy",   u"dddd, mmmm dd, yyyy"};
     // A prime step meets every day, month and weekday.
     for (DateValue date = kFirstDay; date <= kLastDay; date += 1009) {
         for (const TextView pattern : kPatterns) {
-            const Text text = this->dates.format(date, pattern);
-            const auto read = this->dates.parse(text);
+            const Text text = dates.format(date, pattern);
+            const auto read = dates.parse(text);
             // A day of 12 or less is read as the month.
-            if (pattern != u"d/m/yyyy" || this->dates.format(date, u"dd") > u"12") {
+            if (pattern != u"d/m/yyyy" || dates.format(date, u"dd") > u"12") {
                 ASSERT_EQ(read, date) << ::testing::PrintToString(text);
             }
         }
     }
 }
 
-TYPED_TEST(DatesTest, HostileTextsAreNoDates) {
+TEST_P(DatesTest, HostileTextsAreNoDates) {
     constexpr std::size_t kMillion = 1'000'000;
     for (const TextView unit : {u"1", u"0", u" ", u",", u"/", u"-", u":", u".", u"a", u"m", u"May ", u"1 ", u"Monday ",
                                 u"1:", u"\u00A0", u"\xD800", u"\xFFFF"}) {
@@ -130,37 +139,36 @@ TYPED_TEST(DatesTest, HostileTextsAreNoDates) {
         while (text.size() < kMillion) {
             text += unit;
         }
-        EXPECT_EQ(this->dates.parse(text), std::nullopt) << ::testing::PrintToString(Text(unit));
-        EXPECT_EQ(this->dates.parse(text + u" May 1990"), std::nullopt) << ::testing::PrintToString(Text(unit));
+        EXPECT_EQ(dates.parse(text), std::nullopt) << ::testing::PrintToString(Text(unit));
+        EXPECT_EQ(dates.parse(text + u" May 1990"), std::nullopt) << ::testing::PrintToString(Text(unit));
     }
     // A NUL ends no text here.
-    EXPECT_EQ(this->dates.parse(TextView(u"May 5, 1990\0", 12)), std::nullopt);
-    EXPECT_EQ(this->dates.parse(TextView(u"May 5, 1990\0 and more", 21)), std::nullopt);
-    EXPECT_EQ(this->dates.parse(TextView(u"\0May 5, 1990", 12)), std::nullopt);
+    EXPECT_EQ(dates.parse(TextView(u"May 5, 1990\0", 12)), std::nullopt);
+    EXPECT_EQ(dates.parse(TextView(u"May 5, 1990\0 and more", 21)), std::nullopt);
+    EXPECT_EQ(dates.parse(TextView(u"\0May 5, 1990", 12)), std::nullopt);
     // The view's end counts, whatever stands behind it.
-    EXPECT_EQ(describe(this->dates.parse(TextView(u"May 5, 19901").substr(0, 11))), u"1990-05-05");
+    EXPECT_EQ(describe(dates.parse(TextView(u"May 5, 19901").substr(0, 11))), u"1990-05-05");
 }
 
-TYPED_TEST(DatesTest, WhatCannotBeWrittenIsEmpty) {
+TEST_P(DatesTest, WhatCannotBeWrittenIsEmpty) {
     constexpr DateValue kInfinity = std::numeric_limits<DateValue>::infinity();
     for (const DateValue date : {kFirstDay - 1, kLastDay + 1, 1e300, -1e300, kInfinity, -kInfinity,
                                  std::numeric_limits<DateValue>::quiet_NaN()}) {
-        EXPECT_EQ(this->dates.format(date, u"yyyy"), u"") << date;
+        EXPECT_EQ(dates.format(date, u"yyyy"), u"") << date;
     }
-    EXPECT_EQ(this->dates.format(kLastDay + 0.5, u"mmmm d, yyyy"), u"December 31, 9999");
-    EXPECT_EQ(this->dates.format(0, Text(1'000'000, u'y')), u"");
-    EXPECT_EQ(this->dates.format(0, Text(101, u'-')), u"");
-    EXPECT_EQ(this->dates.format(0, Text(100, u'-')), Text(100, u'-'));
-    EXPECT_EQ(this->dates.format(0, TextView(u"yyyy\0", 5)), u"");
+    EXPECT_EQ(dates.format(kLastDay + 0.5, u"mmmm d, yyyy"), u"December 31, 9999");
+    EXPECT_EQ(dates.format(0, Text(1'000'000, u'y')), u"");
+    EXPECT_EQ(dates.format(0, Text(101, u'-')), u"");
+    EXPECT_EQ(dates.format(0, Text(100, u'-')), Text(100, u'-'));
+    EXPECT_EQ(dates.format(0, TextView(u"yyyy\0", 5)), u"");
 }
 
 // The platform takes the limit from the machine's settings; the twin has the one that Windows has now.
 TEST(PortableDates, TwoDigitYearsEndWith2049) {
-    const PortableDates dates;
-    EXPECT_EQ(describe(dates.parse(u"May 5, 30")), u"2030-05-05");
-    EXPECT_EQ(describe(dates.parse(u"May 5, 49")), u"2049-05-05");
-    EXPECT_EQ(describe(dates.parse(u"1 50")), u"1950-01-01");
-    EXPECT_EQ(describe(dates.parse(u"1 49")), u"2049-01-01");
+    EXPECT_EQ(describe(kPortable.parse(u"May 5, 30")), u"2030-05-05");
+    EXPECT_EQ(describe(kPortable.parse(u"May 5, 49")), u"2049-05-05");
+    EXPECT_EQ(describe(kPortable.parse(u"1 49")), u"2049-01-01");
+    EXPECT_EQ(describe(kPortable.parse(u"1 50")), u"1950-01-01");
 }
 
 TEST(Dates, TheBuildsOwnImplementationIsInPlace) {

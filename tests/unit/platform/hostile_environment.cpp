@@ -47,6 +47,9 @@ bool setCountry(const Country& country) {
 }  // namespace
 
 HostileEnvironment::HostileEnvironment(const Country& country) : mLocale(std::setlocale(LC_ALL, nullptr)) {
+    if (const char* timeZone = std::getenv("TZ")) {
+        mTimeZone = timeZone;
+    }
 #ifdef _WIN32
     mThreadLocale = GetThreadLocale();
 #endif
@@ -59,7 +62,7 @@ HostileEnvironment::~HostileEnvironment() {
 #ifdef _WIN32
     SetThreadLocale(mThreadLocale);
 #endif
-    setTimeZone(nullptr);
+    setTimeZone(mTimeZone ? mTimeZone->c_str() : nullptr);
 }
 
 }  // namespace quorvel::tests

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 namespace quorvel::tests {
@@ -29,6 +30,7 @@ public:
 
 private:
     std::string mLocale;
+    std::optional<std::string> mTimeZone;
     unsigned mThreadLocale = 0;
     bool mIsInForce = false;
 };
