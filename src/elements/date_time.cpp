@@ -237,9 +237,10 @@ Text OutputTemplateDateTime::formatStr(TextView text) {
 
 void OutputTemplateDateTime::Parse(Text& text, TextView secondaryText) {
     procedure(*this, u"OutputTemplateDateTime.Parse", {{u"text", text}, {u"secondaryText", secondaryText}}, [&] {
-        const Text main = cleanUp(text);
+        const Text cleaned = cleanUp(text);
+        const TextView main = withoutSentenceEnd(cleaned);
         const Text time = cleanUp(secondaryText);
-        Parts parts = partsOf(main).value_or(Parts{withoutSentenceEnd(main), {}, {}});
+        Parts parts = partsOf(main).value_or(Parts{main, {}, {}});
         if (!time.empty()) {
             const std::optional<Parts> timeParts = partsOf(time);
             // What is not just a time is kept as the host has it.

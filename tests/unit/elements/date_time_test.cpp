@@ -60,6 +60,7 @@ TEST(DateTime, ReadsDateTimeAndZone) {
          u"12:57:58 p.m. PDT"},
         {u"1:47:54 p.m. ET.", u"", u"1:47:54 p.m.", u"ET", u"1:47:54 p.m. ET", u"(1:47:54 p.m. ET)",
          u"1:47:54 p.m. ET"},
+        {u"14:30..", u"", u"14:30", u"", u"14:30", u"(14:30)", u"14:30"},
         {u"(14:30 UTC+2)", u"", u"14:30", u"UTC+2", u"14:30 UTC+2", u"(14:30 UTC+2)", u"14:30 UTC+2"},
         {u"10:23am MAY 5, 2011", u"MAY 5, 2011", u"10:23am", u"", u"May 5, 2011, 10:23 a.m.",
          u"2011, May 5 (10:23 a.m.)", u"5 May 2011, 10:23 a.m."},
@@ -121,6 +122,7 @@ TEST(DateTime, WritesOnlyCompleteDatesByThePattern) {
         // Texts with a time in them that are more than date and time.
         {u"September 1, 2011, 10:23 a.m. local time"},
         {u"10:23 a.m. local time"},
+        {u"September 1, 2011 (10:23 a.m."},
         {u"\u201CSeptember 1, 2011\u201D 10:23 a.m."},
         {u"(September 1, 2011, 10:23 a.m.)"},
         {u"1 a.m., 2 a.m."},
