@@ -58,6 +58,7 @@ struct Person {
 /// Owns the text, its words and its pieces. The arrays of an ordinary list stay inside the object.
 class AuthorListText {
 public:
+    // The buffer is raw memory. NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
     explicit AuthorListText(Text text) { assign(std::move(text)); }
 
     const Text& text() const { return mText; }

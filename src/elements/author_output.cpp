@@ -62,10 +62,9 @@ public:
 
     /// A word of the first names: "John", "Jean-Paul", "J.-P.", "A.T.", "[Paul]", "de".
     void add(TextView word) {
-        if (word.front() == u'[') {
-            addWhole(word);
-        } else if (word.front() >= u'a' && authorwords::wordOf(word).is(authorwords::kParticle)) {
-            // "Beauvoir, Simone de" is "Beauvoir, S. de".
+        // "Beauvoir, Simone de" is "Beauvoir, S. de".
+        const bool isParticle = word.front() >= u'a' && authorwords::wordOf(word).is(authorwords::kParticle);
+        if (word.front() == u'[' || isParticle) {
             addWhole(word);
         } else {
             addLetters(word);

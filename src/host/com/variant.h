@@ -26,7 +26,7 @@ inline VARIANT_BOOL asVariantBool(bool value) {
 /// A VARIANT that frees what it holds.
 class Variant : public VARIANT {
 public:
-    Variant() { VariantInit(this); }
+    Variant() : VARIANT{} {}
     explicit Variant(TextView text) : Variant() {
         bstrVal = newBstr(text);
         vt = VT_BSTR;
