@@ -1,0 +1,382 @@
+#include "elements/publisher.h"
+
+#include <algorithm>
+
+#include "core/procedure.h"
+
+namespace quorvel {
+
+namespace {
+
+enum Slot : std::int16_t { kImprintSlot, kPublisherSlot, kCopublisherPlaceSlot, kCopublisherSlot };
+
+constexpr std::size_t kSlots = 4;
+
+/// The separators of each slot: in front of the output, before each later slot, at the end.
+constexpr TextView kLayout[kSlots][kSlots + 1] = {
+    {u"", u"-", u"; ", u"; ", u""},
+    {u"", u"; ", u"; ", u""},
+    {u"", u": ", u""},
+    {u"", u""},
+};
+
+// What stands between the parts of a text; the blanks around the last two mean nothing.
+constexpr TextView kImprintSign = u"-";
+constexpr TextView kCopublisherSign = u";";
+constexpr TextView kPlaceSign = u":";
+
+constexpr TextView kPublisherUnknown = u"Publisher unknown";
+constexpr TextView kNoPublisher = u"n.p.";
+constexpr TextView kInPreparationText = u"Manuscript in preparation";
+constexpr TextView kSubmittedText = u"Manuscript submitted for publication";
+constexpr TextView kAuthorText = u"Author";
+
+struct SpecialText {
+    TextView text;
+    OutputTemplatePublisher::PublisherKind kind;
+};
+
+// In the order in which they are tried.
+constexpr SpecialText kSpecialTexts[] = {
+    {kAuthorText, OutputTemplatePublisher::kAuthor},
+    {u"by the author", OutputTemplatePublisher::kAuthor},
+    {kInPreparationText, OutputTemplatePublisher::kInPreparation},
+    {kSubmittedText, OutputTemplatePublisher::kSubmitted},
+    {u"forthcoming", OutputTemplatePublisher::kSubmitted},
+    {kPublisherUnknown, OutputTemplatePublisher::kUnknown},
+    {kNoPublisher, OutputTemplatePublisher::kUnknown},
+    {u"N.p.", OutputTemplatePublisher::kUnknown},
+};
+
+struct Shortening {
+    TextView full;
+    TextView shortened;
+};
+
+// MLA 7 7.5. In this order, so that the two words together come first.
+constexpr Shortening kShortenings[] = {
+    {u"University Press", u"UP"},
+    {u"University", u"U"},
+    {u"Press", u"P"},
+};
+
+// A name is a shortened one when it has one of these words; "P" alone may be an initial.
+constexpr TextView kSignsOfShortening[] = {u"U", u"UP"};
+constexpr TextView kEndsOfWords = u" -;:";
+
+// No blank is asked for behind the article, deliberately: "Theatre Arts Books" loses its letters too.
+constexpr TextView kArticle = u"The";
+// Each is removed where it is there, in this order; what stands before it stays, deliberately.
+constexpr TextView kAbbreviations[] = {u"Inc.", u"Ltd.", u"S.A.", u"& Co.", u"Publishing Co.", u"Co."};
+
+bool isShortened(TextView text) {
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find_first_of(kEndsOfWords), text.size());
+        if (std::find(std::begin(kSignsOfShortening), std::end(kSignsOfShortening), text.substr(0, end)) !=
+            std::end(kSignsOfShortening)) {
+            return true;
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return false;
+}
+
+/// What stands behind the first separator; empty when there is none.
+TextView after(TextView text, TextView separator) {
+    const std::size_t at = text.find(separator);
+    return at == TextView::npos ? TextView() : text.substr(at + separator.size());
+}
+
+}  // namespace
+
+void OutputTemplatePublisher::Initialize(const OutputSinkRef& formattedStr) {
+    procedure(*this, u"OutputTemplatePublisher.Initialize", {{u"formattedStr", formattedStr}}, [&] {
+        mOutputTemplate.Initialize(formattedStr);
+        Reset(false, false, false, false, false);
+    });
+}
+
+void OutputTemplatePublisher::Reset(bool supportCoPublisher, bool useAdvancedOptions, bool usePublisherUnknown,
+                                    bool shortenUniversityAndPress, bool removePublisherAbbreviations) {
+    procedure(*this, u"OutputTemplatePublisher.Reset",
+              {{u"supportCoPublisher", supportCoPublisher},
+               {u"useAdvancedOptions", useAdvancedOptions},
+               {u"usePublisherUnknown", usePublisherUnknown},
+               {u"shortenUniversityAndPress", shortenUniversityAndPress},
+               {u"removePublisherAbbreviations", removePublisherAbbreviations}},
+              [&] {
+                  mSupportCoPublisher = supportCoPublisher;
+                  mSupportAdvancedOptions = useAdvancedOptions;
+                  mPublisherUnknown = usePublisherUnknown ? kPublisherUnknown : kNoPublisher;
+                  mShortenUniversityAndPress = shortenUniversityAndPress;
+                  mRemovePublisherAbbreviations = removePublisherAbbreviations;
+                  mOutputTemplate.Reset(kCopublisherSlot);
+                  for (std::size_t slot = 0; slot < kSlots; ++slot) {
+                      const TextView* const separators = kLayout[slot];
+                      Add(static_cast<std::int16_t>(slot), false, false,
+                          std::vector<Text>(separators, separators + kSlots + 1 - slot));
+                  }
+              });
+}
+
+std::shared_ptr<OutputTemplatePublisher> OutputTemplatePublisher::Clone(const OutputSinkRef& formattedStr) const {
+    return procedure(*this, u"OutputTemplatePublisher.Clone", {{u"formattedStr", formattedStr}}, [&] {
+        auto clone = std::make_shared<OutputTemplatePublisher>();
+        clone->Initialize(formattedStr);
+        clone->Reset(mSupportCoPublisher, mSupportAdvancedOptions, mPublisherUnknown == kPublisherUnknown,
+                     mShortenUniversityAndPress, mRemovePublisherAbbreviations);
+        clone->PublisherType = PublisherType;
+        clone->copublisherPlace = copublisherPlace;
+        clone->mPublisher = mPublisher;
+        clone->mImprint = mImprint;
+        clone->mCoPublisher = mCoPublisher;
+        return clone;
+    });
+}
+
+void OutputTemplatePublisher::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
+                                                bool shortenedVersion) {
+    procedure(*this, u"OutputTemplatePublisher.ToFormattedString",
+              {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
+              [&] {
+                  mOutputTemplate.ResetReferenceItems();
+                  mOutputTemplate.ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote);
+              });
+}
+
+Text OutputTemplatePublisher::toString(bool isFootnote, bool shortenedVersion) {
+    return procedure(*this, u"OutputTemplatePublisher.toString",
+                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
+                     [&] { return mOutputTemplate.toString(*this, shortenedVersion, isFootnote, false); });
+}
+
+bool OutputTemplatePublisher::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
+                                                    std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
+    std::vector<TraceValue::Object> fragments;
+    for (const OutputSinkRef& item : formattedItems) {
+        fragments.push_back(item.get());
+    }
+    return procedure(*this, u"OutputTemplatePublisher.ToFormattedStringImpl",
+                     {{u"isFootnote", isFootnote},
+                      {u"items", items},
+                      {u"formattedItems", fragments},
+                      {u"shortenedVersion", shortenedVersion}},
+                     [&] {
+                         if (isSpecial()) {
+                             items.at(kPublisherSlot) = specialText();
+                             return false;
+                         }
+                         // All before the first goes into its slot: the reports reach the host, which may
+                         // empty the slots meanwhile.
+                         Text imprint = getImprint();
+                         Text name = targetedReplace(publisher());
+                         Text place = getCopublisherPlace();
+                         Text copublisher = getCopublisher();
+                         items.at(kImprintSlot) = std::move(imprint);
+                         items.at(kPublisherSlot) = std::move(name);
+                         items.at(kCopublisherPlaceSlot) = std::move(place);
+                         items.at(kCopublisherSlot) = std::move(copublisher);
+                         return false;
+                     });
+}
+
+bool OutputTemplatePublisher::supportCoPublisher() const {
+    return procedure(*this, u"OutputTemplatePublisher.supportCoPublisher[Get]", kNoParameters,
+                     [&] { return mSupportCoPublisher; });
+}
+
+bool OutputTemplatePublisher::SupportAdvancedOptions() const {
+    return procedure(*this, u"OutputTemplatePublisher.SupportAdvancedOptions[Get]", kNoParameters,
+                     [&] { return mSupportAdvancedOptions; });
+}
+
+Text OutputTemplatePublisher::publisher() const {
+    return procedure(*this, u"OutputTemplatePublisher.publisher[Get]", kNoParameters, [&] { return mPublisher; });
+}
+
+void OutputTemplatePublisher::publisher(TextView theVal) {
+    procedure(*this, u"OutputTemplatePublisher.publisher[Let]", {{u"theVal", theVal}}, [&] { mPublisher = theVal; });
+}
+
+Text OutputTemplatePublisher::Imprint() const {
+    return procedure(*this, u"OutputTemplatePublisher.Imprint[Get]", kNoParameters, [&] { return mImprint; });
+}
+
+void OutputTemplatePublisher::Imprint(TextView theVal) {
+    procedure(*this, u"OutputTemplatePublisher.Imprint[Let]", {{u"theVal", theVal}}, [&] { mImprint = theVal; });
+}
+
+Text OutputTemplatePublisher::CoPublisher() const {
+    return procedure(*this, u"OutputTemplatePublisher.CoPublisher[Get]", kNoParameters, [&] { return mCoPublisher; });
+}
+
+void OutputTemplatePublisher::CoPublisher(TextView theVal) {
+    procedure(*this, u"OutputTemplatePublisher.CoPublisher[Let]", {{u"theVal", theVal}},
+              [&] { mCoPublisher = theVal; });
+}
+
+void OutputTemplatePublisher::Parse(Text& text, TextView previousStr) {
+    procedure(*this, u"OutputTemplatePublisher.Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
+        Imprint({});
+        CoPublisher({});
+        copublisherPlace.clear();
+        text = cleanUp(text);
+        parseAndRemovePublisherType(text);
+        if (isSpecial()) {
+            publisher({});
+            return;
+        }
+        const bool wasShortened = isShortened(text);
+        parseAndRemoveCopublisher(text);
+        parseAndRemoveImprint(text);
+        publisher(text);
+        if (wasShortened) {
+            // Another style may want the names in full.
+            publisher(targetedExpansion(publisher()));
+            Imprint(targetedExpansion(Imprint()));
+            CoPublisher(targetedExpansion(CoPublisher()));
+        }
+    });
+}
+
+void OutputTemplatePublisher::Add(std::int16_t Index, bool isFormatted, bool isChecking,
+                                  const std::vector<Text>& separators) {
+    procedure(
+        *this, u"OutputTemplatePublisher.Add",
+        {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
+        [&] { mOutputTemplate.Add(Index, isFormatted, isChecking, separators); });
+}
+
+Text OutputTemplatePublisher::getImprint() const {
+    return procedure(*this, u"OutputTemplatePublisher.getImprint", kNoParameters,
+                     [&] { return targetedReplace(Imprint()); });
+}
+
+Text OutputTemplatePublisher::getCopublisher() const {
+    return procedure(*this, u"OutputTemplatePublisher.getCopublisher", kNoParameters,
+                     [&] { return targetedReplace(CoPublisher()); });
+}
+
+Text OutputTemplatePublisher::getCopublisherPlace() const {
+    return procedure(*this, u"OutputTemplatePublisher.getCopublisherPlace", kNoParameters,
+                     [&] { return copublisherPlace; });
+}
+
+/// "Doubleday" of "Anchor-Doubleday" stays in the text. A name that itself has a hyphen is split too,
+/// deliberately: the parts are written with the same hyphen between them.
+void OutputTemplatePublisher::parseAndRemoveImprint(Text& text) {
+    procedure(*this, u"OutputTemplatePublisher.parseAndRemoveImprint", {{u"text", text}}, [&] {
+        const Text second(after(text, kImprintSign));
+        if (!second.empty()) {
+            Imprint(Text(before(text, kImprintSign)));
+            text = second;
+        }
+    });
+}
+
+void OutputTemplatePublisher::parseAndRemoveCopublisher(Text& text) {
+    procedure(*this, u"OutputTemplatePublisher.parseAndRemoveCopublisher", {{u"text", text}}, [&] {
+        const Text second(trim(after(text, kCopublisherSign)));
+        if (second.empty()) {
+            return;
+        }
+        text = Text(trim(before(text, kCopublisherSign)));
+        if (contains(second, kPlaceSign)) {
+            copublisherPlace = trim(before(second, kPlaceSign));
+            CoPublisher(trim(after(second, kPlaceSign)));
+        } else {
+            CoPublisher(second);
+        }
+    });
+}
+
+void OutputTemplatePublisher::parseAndRemovePublisherType(Text& text) {
+    procedure(*this, u"OutputTemplatePublisher.parseAndRemovePublisherType", {{u"text", text}}, [&] {
+        PublisherType = kNamed;
+        for (const SpecialText& special : kSpecialTexts) {
+            if (text == special.text) {
+                PublisherType = special.kind;
+                text.clear();
+                return;
+            }
+        }
+    });
+}
+
+Text OutputTemplatePublisher::targetedExpansion(TextView text) const {
+    return procedure(*this, u"OutputTemplatePublisher.targetedExpansion", {{u"text", text}}, [&] {
+        Text result(text);
+        for (const Shortening& words : kShortenings) {
+            result = targetedReplaceImpl(result, words.shortened, words.full);
+        }
+        return result;
+    });
+}
+
+Text OutputTemplatePublisher::targetedReplace(TextView text) const {
+    return procedure(*this, u"OutputTemplatePublisher.targetedReplace", {{u"text", text}}, [&] {
+        Text result(text);
+        if (mShortenUniversityAndPress) {
+            for (const Shortening& words : kShortenings) {
+                result = targetedReplaceImpl(result, words.full, words.shortened);
+            }
+        }
+        if (mRemovePublisherAbbreviations) {
+            removePrefix(result, kArticle);
+            for (const TextView abbreviation : kAbbreviations) {
+                removeSuffix(result, abbreviation);
+            }
+        }
+        return result;
+    });
+}
+
+/// Replaces a whole word, at most once: at the beginning, else at the end, else the first one between.
+/// A text that is nothing but the word stays, deliberately.
+Text OutputTemplatePublisher::targetedReplaceImpl(TextView text, TextView find, TextView theReplace) const {
+    return procedure(*this, u"OutputTemplatePublisher.targetedReplaceImpl",
+                     {{u"text", text}, {u"find", find}, {u"theReplace", theReplace}}, [&]() -> Text {
+                         const Text withBlanks = concatenate({u" ", find, u" "});
+                         const TextView word = withBlanks;
+                         if (startsWith(text, word.substr(1))) {
+                             return concatenate({theReplace, text.substr(find.size())});
+                         }
+                         if (endsWith(text, word.substr(0, word.size() - 1))) {
+                             return concatenate({text.substr(0, text.size() - find.size()), theReplace});
+                         }
+                         const std::size_t at = text.find(word);
+                         if (at == TextView::npos) {
+                             return Text(text);
+                         }
+                         return concatenate({text.substr(0, at + 1), theReplace, text.substr(at + 1 + find.size())});
+                     });
+}
+
+bool OutputTemplatePublisher::isSpecial() const {
+    return PublisherType >= kUnknown && PublisherType <= kAuthor;
+}
+
+Text OutputTemplatePublisher::specialText() const {
+    switch (PublisherType) {
+        case kInPreparation: return Text(kInPreparationText);
+        case kSubmitted: return Text(kSubmittedText);
+        case kAuthor: return Text(kAuthorText);
+        default: return mPublisherUnknown;
+    }
+}
+
+void OutputTemplatePublisher::dumpVariables(VBWPROTECTOR& report) const {
+    report.vbwReportVariable(u"PublisherType", PublisherType);
+    report.vbwReportVariable(u"copublisherPlace", copublisherPlace);
+    report.vbwReportVariable(u"mPublisher", mPublisher);
+    report.vbwReportVariable(u"mImprint", mImprint);
+    report.vbwReportVariable(u"mCoPublisher", mCoPublisher);
+    report.vbwReportVariable(u"mSupportAdvancedOptions", mSupportAdvancedOptions);
+    report.vbwReportVariable(u"mSupportCoPublisher", mSupportCoPublisher);
+    report.vbwReportVariable(u"mShortenUniversityAndPress", mShortenUniversityAndPress);
+    report.vbwReportVariable(u"mRemovePublisherAbbreviations", mRemovePublisherAbbreviations);
+    report.vbwReportVariable(u"mPublisherUnknown", mPublisherUnknown);
+    report.vbwReportVariable(u"mOutputTemplate", HostObjectRef());
+}
+
+}  // namespace quorvel
