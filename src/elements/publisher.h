@@ -27,7 +27,7 @@ namespace quorvel {
 /// The texts of the special kinds are compared as they stand. Whatever was read is written, also in a
 /// style that offers no imprints or co-publishers.
 ///
-/// Styles: MLA 7 5.5.2, 5.5.17-18, 7.5, APA 6 6.30, 7.09, Turabian 7 17.1.6, AMA 10 3.12.7.
+/// Styles: MLA 7 5.5.2, 5.5.17-18, 7.5, APA 6 6.30, 7.09, Turabian 7 17.1.6, AMA 10 3.12.
 class OutputTemplatePublisher final : public Implementor, public Instrumented {
 public:
     /// Values of `PublisherType`. They are part of the interface.
@@ -89,12 +89,11 @@ public:
     /// @param previousStr not used
     void Parse(Text& text, TextView previousStr);
 
-    /// Registers a slot of the assembly (see outputTemplate::Add).
-    void Add(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
-
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:
+    void Add(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
+
     Text getImprint() const;
     Text getCopublisher() const;
     Text getCopublisherPlace() const;
