@@ -6,7 +6,10 @@
 
 #include "host/adapters/author_adapter.h"
 #include "host/adapters/date_time_adapter.h"
+#include "host/adapters/keywords_adapter.h"
+#include "host/adapters/page_adapter.h"
 #include "host/adapters/place_adapter.h"
+#include "host/adapters/publisher_adapter.h"
 #include "host/adapters/year_adapter.h"
 #include "host/com/class_factory.h"
 #include "host/com/dispatch_table.h"
@@ -32,6 +35,9 @@ const CreatableClass kCreatableClasses[] = {
     {CLSID_OutputTemplateYear, make<YearAdapter>},
     {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
     {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
+    {CLSID_OutputTemplatePublisher, make<PublisherAdapter>},
+    {CLSID_OutputTemplatePage, make<PageAdapter>},
+    {CLSID_OutputTemplateKeywords, make<KeywordsAdapter>},
 };
 
 /// An entry point lets no exception out; only memory can run out in one.

@@ -6,7 +6,10 @@
 #include "core/procedure.h"
 #include "host/adapters/author_adapter.h"
 #include "host/adapters/date_time_adapter.h"
+#include "host/adapters/keywords_adapter.h"
+#include "host/adapters/page_adapter.h"
 #include "host/adapters/place_adapter.h"
+#include "host/adapters/publisher_adapter.h"
 #include "host/adapters/year_adapter.h"
 #include "host/com/late_bound_object.h"
 
@@ -23,8 +26,8 @@ struct ElementClass {
 
 // The element type codes and their classes. A code without a row makes nothing.
 constexpr ElementClass kElementClasses[] = {
-    {0, make<AuthorAdapter>},    {9, make<AuthorAdapter>}, {15, make<PlaceAdapter>},
-    {17, make<DateTimeAdapter>}, {6, make<YearAdapter>},
+    {0, make<AuthorAdapter>},    {9, make<AuthorAdapter>},    {15, make<PlaceAdapter>}, {5, make<PublisherAdapter>},
+    {14, make<KeywordsAdapter>}, {17, make<DateTimeAdapter>}, {7, make<PageAdapter>},   {6, make<YearAdapter>},
 };
 
 ComPtr<IDispatch> createElement(std::int16_t whichType) {
