@@ -21,7 +21,7 @@ constexpr ElementKind kElementKinds[] = {
     {L"refers-to", 12, L"refers-to"},
     {L"online", 13, L"online"},
     {L"medium", 16, L"medium"},
-    {L"keywords", 14, L"keywords"},
+    {L"keywords", 14, L""},
 };
 
 }  // namespace

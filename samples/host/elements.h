@@ -13,6 +13,7 @@ struct ElementKind {
     /// The code that `Main2.build` takes.
     std::int16_t code;
     /// The name under which a style file gives its options: kinds that share a class share them.
+    /// Empty for an element whose `Reset` takes none.
     const wchar_t* optionsName;
 };
 

@@ -35,7 +35,8 @@ LateBoundObject StyledElements::element(const std::wstring& name) {
 LateBoundObject StyledElements::buildElement(const std::wstring& name) {
     const ElementKind* kind = findElementKind(name);
     const std::vector<StyleOption> options = mStyle.optionsOf(kind->optionsName);
-    if (options.empty()) return LateBoundObject();
+    const bool hasOptions = *kind->optionsName != L'\0';
+    if (hasOptions && options.empty()) return LateBoundObject();
     const ComPointer<FormattedText> sink = makeObject<FormattedText>();
     const LateBoundObject built(objectOf(mMain.call(L"build", {kind->code, sink.get()})));
     if (!built) return built;

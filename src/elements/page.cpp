@@ -315,7 +315,8 @@ void OutputTemplatePage::parseAndRemovePageType(Text& text) {
         }
         // The style's own words; an empty one is a blank, with which no text begins.
         for (const LocatorType type : {kChapter, kParagraph}) {
-            if (removePrefix(text, mPluralPrefixes.at(type)) || removePrefix(text, mPrefixes.at(type))) {
+            const auto index = static_cast<std::size_t>(type);
+            if (removePrefix(text, mPluralPrefixes.at(index)) || removePrefix(text, mPrefixes.at(index))) {
                 pageType = type;
                 return;
             }
