@@ -1,0 +1,91 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "core/text.h"
+
+/// Capitalisation of titles. A title is gone through once, word by word; only letter case changes, so
+/// that a place in the result is the same place in the title.
+///
+///   the origins of the cold war        heading      The Origins of the Cold War
+///   The Origins of the Cold War        sentence     The origins of the Cold War
+///
+/// Rules: MLA 7 3.6.1, Turabian 7 22.3.1 (headings), APA 6 4.15, AMA 10 10.2 (sentences). The lists of
+/// words are title_words.h, those of names title_names.h.
+namespace quorvel::titlecase {
+
+struct Rules {
+    bool isHeading = true;
+    /// The later parts of a hyphenated word are capitalised in headings.
+    bool capitalizeHyphenatedWord = true;
+    /// The first word behind ": " is capitalised in sentences; in headings it always is.
+    bool capitalizeSubtitle = true;
+};
+
+/// A part of a text.
+struct Range {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    friend bool operator==(const Range&, const Range&) = default;
+};
+
+struct CasedTitle {
+    Text text;
+    /// The words that changed, without their punctuation; what a form highlights.
+    std::vector<Range> changed;
+};
+
+/// The title as the rules write it. Sentence case changes only a title that stands in heading case:
+/// one in sentence case shows itself what its names are.
+CasedTitle casedTitle(TextView title, const Rules& rules);
+
+/// Whether most of the words that a heading capitalises and a sentence does not have a capital.
+bool standsInHeadingCase(TextView title);
+
+/// A word of a title.
+struct Word {
+    /// Its letters and digits, without the punctuation around it.
+    Range core;
+    /// The number of its piece.
+    std::size_t piece = 0;
+    bool isFirst = false;
+    bool isLast = false;
+    /// The first word of a piece behind ": " or a dash, and not of the title.
+    bool beginsSubtitle = false;
+    /// The first word behind "; ", which begins no sentence.
+    bool beginsClause = false;
+};
+
+/// The pieces of a title: what stands between ": ", ". ", "; ", "! " and "? ". A full stop behind an
+/// initial or an abbreviation ends none ("E. coli", "vs. ", "U.S.S. "), and "; or, " is no end of its own.
+std::vector<Range> piecesOf(TextView title);
+/// The words of all pieces.
+std::vector<Word> wordsOf(TextView title);
+
+/// The parts of a word between hyphens, dashes and slashes.
+std::vector<Range> partsOf(TextView text, Range word);
+
+// Tests on a word.
+
+/// All its letters are capitals, and there are two or more: "DNA", "U.S".
+bool isAcronym(TextView word);
+/// A capital behind the first letter, or a digit: "mRNA", "p53", "McDonald".
+bool hasOwnCase(TextView word);
+/// Ends in "'s" or "s'".
+bool isPossessive(TextView word);
+TextView withoutPossessive(TextView word);
+bool isCapital(char16_t unit);
+bool isSmallLetter(char16_t unit);
+
+/// Heading case of one piece, in place.
+/// @param capitalizeFirstWord the first word is capitalised even when it is a small one
+void applyHeading(Text& text, const std::vector<Word>& words, std::size_t index, bool capitalizeFirstWord,
+                  const Rules& rules);
+/// Sentence case of all words of a title that stands in heading case, in place (title_sentence.cpp).
+void applySentence(Text& text, const std::vector<Word>& words, const Rules& rules);
+
+void capitalizeAt(Text& text, std::size_t index);
+void lowerAt(Text& text, std::size_t index);
+
+}  // namespace quorvel::titlecase

@@ -1,0 +1,290 @@
+// Sentence case: what keeps its capital in a title that stood in heading case.
+
+#include <algorithm>
+#include <initializer_list>
+
+#include "core/letter_case.h"
+#include "elements/title_case.h"
+#include "elements/title_words.h"
+
+namespace quorvel::titlecase {
+
+namespace {
+
+TextView slice(TextView text, Range range) {
+    return text.substr(range.begin, range.end - range.begin);
+}
+
+// Words with accents that are English.
+constexpr TextView kLoanWords[] = {
+    u"café",    u"cafés",   u"cliché", u"clichés", u"coöperation", u"élite",   u"façade",
+    u"façades", u"fiancé",  u"naïve",  u"naïvely", u"naïveté",     u"protégé", u"régime",
+    u"résumé",  u"résumés", u"rôle",   u"rôles",   u"soufflé",
+};
+
+// Endings of common words, which a name behind a given name does not have.
+constexpr TextView kCommonEndings[] = {u"ing", u"tion", u"tions", u"ment", u"ments", u"ness", u"ology", u"ity", u"ism"};
+
+bool endsWithAny(TextView text, std::initializer_list<TextView> endings) {
+    return std::any_of(endings.begin(), endings.end(), [&](TextView ending) { return endsWith(text, ending); });
+}
+
+bool isLoanWord(TextView lowered) {
+    return std::find(std::begin(kLoanWords), std::end(kLoanWords), lowered) != std::end(kLoanWords);
+}
+
+bool hasCommonEnding(TextView word) {
+    return std::any_of(std::begin(kCommonEndings), std::end(kCommonEndings),
+                       [&](TextView ending) { return endsWith(word, ending); });
+}
+
+bool isKnown(TextView word) {
+    return titlewords::isPlace(word) || titlewords::isName(word) || titlewords::isGivenName(word);
+}
+
+/// "Victorian", "Guatemalan", "Japanese", but not "librarian".
+bool hasNameSuffix(TextView lowered) {
+    if (endsWith(lowered, u"s")) {
+        lowered.remove_suffix(1);
+    }
+    if (lowered.size() < 5 || titlewords::isCommonInNameSuffix(lowered)) {
+        return false;
+    }
+    if (endsWithAny(lowered, {u"ician", u"arian"})) {
+        return false;
+    }
+    return endsWithAny(lowered, {u"ian", u"ean", u"ese", u"esque"}) && !endsWithAny(lowered, {u"cean", u"esque"});
+}
+
+/// Known by itself, as a plural, or as what its ending was put to: "Kantianism", "Darwinists".
+bool isProperName(TextView word) {
+    if (isKnown(word)) {
+        return true;
+    }
+    TextView stem = word;
+    for (const TextView ending : {TextView(u"s"), TextView(u"ism"), TextView(u"ist"), TextView(u"ization"),
+                                  TextView(u"ized"), TextView(u"izing")}) {
+        if (stem.size() > ending.size() + 3 && endsWith(stem, ending)) {
+            stem.remove_suffix(ending.size());
+            if (isKnown(stem)) {
+                return true;
+            }
+        }
+    }
+    return hasNameSuffix(toLower(stem)) && hasNameSuffix(toLower(word).substr(0, stem.size()));
+}
+
+class SentenceCase {
+public:
+    SentenceCase(Text& text, const std::vector<Word>& words, const Rules& rules)
+        : mText(text), mWords(words), mRules(rules), mKept(words.size(), false) {}
+
+    void run() {
+        findPhrases();
+        for (std::size_t i = 0; i < mWords.size(); ++i) {
+            mKept[i] = mKept[i] || isName(i);
+        }
+        for (std::size_t i = mWords.size(); i-- > 0;) {
+            mKept[i] = mKept[i] || isPartOfNameBehind(i);
+        }
+        for (std::size_t i = 0; i < mWords.size(); ++i) {
+            write(i);
+        }
+    }
+
+private:
+    TextView word(std::size_t i) const { return slice(mText, mWords[i].core); }
+    TextView wholeName(std::size_t i) const { return withoutPossessive(word(i)); }
+
+    /// The word before, in the same piece and with nothing but a blank between (and a full stop, behind an
+    /// initial or a title); empty otherwise.
+    TextView neighbourBefore(std::size_t i) const {
+        if (i == 0 || mWords[i].piece != mWords[i - 1].piece) {
+            return {};
+        }
+        const std::size_t end = mWords[i - 1].core.end;
+        const std::size_t gap = mWords[i].core.begin - end;
+        const bool isJoined = (gap == 1 && mText[end] == u' ') || (gap == 2 && mText[end] == u'.');
+        return isJoined ? word(i - 1) : TextView();
+    }
+    bool hasStopBehind(std::size_t i) const {
+        return mWords[i].core.end < mText.size() && mText[mWords[i].core.end] == u'.';
+    }
+    bool isFunction(std::size_t i) const { return titlewords::isFunctionWord(toLower(word(i))); }
+
+    void findPhrases() {
+        for (std::size_t i = 0; i < mWords.size(); ++i) {
+            for (const titlewords::Phrase& phrase : titlewords::phrasesFrom(toLower(wholeName(i)))) {
+                if (i + phrase.words <= mWords.size() && standsAt(phrase, i)) {
+                    break;
+                }
+            }
+        }
+    }
+
+    /// Keeps the capitals of a phrase that stands here.
+    bool standsAt(const titlewords::Phrase& phrase, std::size_t i) {
+        TextView rest = phrase.text;
+        std::vector<bool> capitals;
+        for (std::size_t k = 0; k < phrase.words; ++k) {
+            const TextView part = before(rest, u" ");
+            rest.remove_prefix(std::min(part.size() + 1, rest.size()));
+            TextView expected = part;
+            while (!expected.empty() && (expected.back() == u'.' || expected.back() == u',' ||
+                                         expected.back() == u'\'' || expected.back() == u'\u2019')) {
+                expected.remove_suffix(1);
+            }
+            const bool isSame =
+                equalsIgnoringCase(word(i + k), expected) || equalsIgnoringCase(wholeName(i + k), expected);
+            if (!isSame || mWords[i + k].piece != mWords[i].piece) {
+                return false;
+            }
+            capitals.push_back(isCapital(part[0]));
+        }
+        for (std::size_t k = 0; k < phrase.words; ++k) {
+            mKept[i + k] = mKept[i + k] || capitals[k];
+        }
+        return true;
+    }
+
+    bool isName(std::size_t i) const {
+        const TextView whole = wholeName(i);
+        const Text lowered = toLower(whole);
+        const TextView previous = neighbourBefore(i);
+        if (whole.size() == 1) {
+            return isSingleLetterKept(i, whole, previous);
+        }
+        if (isProperName(whole)) {
+            return true;
+        }
+        if (isMonth(i, whole, previous)) {
+            return true;
+        }
+        if (isFunction(i)) {
+            return false;
+        }
+        if (hasForeignLetter(lowered)) {
+            return true;
+        }
+        if (whole == u"Western") {
+            return true;
+        }
+        if (isCompass(i, whole)) {
+            return true;
+        }
+        if (!previous.empty()) {
+            const bool isAfterInitial = previous.size() == 1 && hasStopBehind(i - 1) && isCapital(previous[0]);
+            if ((isAfterInitial || titlewords::isGivenName(previous)) && !hasCommonEnding(lowered)) {
+                return !titlewords::isSpeciesEpithet(lowered);
+            }
+            if (titlewords::isNameLead(previous) && isCapital(previous[0])) {
+                return true;
+            }
+            const bool isAfterName = mKept[i - 1] || (mWords[i - 1].isFirst && isProperName(previous));
+            if (isAfterName && titlewords::isNameTail(whole)) {
+                return true;
+            }
+            const bool isAdjective = endsWithAny(previous, {u"n", u"sh", u"ch", u"ese", u"ic"});
+            if (isAfterName && titlewords::isInstitutionTail(whole) && !isAdjective) {
+                return true;
+            }
+        }
+        return isPossessive(word(i)) && isPossessiveOfName(lowered);
+    }
+
+    static bool isSingleLetterKept(std::size_t i, TextView letter, TextView previous) {
+        const bool isArticle = letter == u"A" && !(i > 0 && titlewords::takesLetter(previous));
+        return !isArticle;
+    }
+
+    /// "May" and "March" beside a number or behind "in".
+    bool isMonth(std::size_t i, TextView whole, TextView previous) const {
+        if (whole != u"May" && whole != u"March") {
+            return false;
+        }
+        const bool isBeforeNumber = i + 1 < mWords.size() && isDigit(word(i + 1).front());
+        const bool isBehindNumber = !previous.empty() && isDigit(previous.back());
+        return isBeforeNumber || isBehindNumber || (equalsIgnoringCase(previous, u"in") && mWords[i].isLast);
+    }
+
+    static bool hasForeignLetter(TextView lowered) {
+        return std::any_of(lowered.begin(), lowered.end(),
+                           [](char16_t unit) { return unit >= 0xC0 && isCasedLetter(unit); }) &&
+               !isLoanWord(lowered);
+    }
+
+    /// "the Decline of the West".
+    bool isCompass(std::size_t i, TextView whole) const {
+        const bool isRegion = whole == u"West" || whole == u"South" || whole == u"East" || whole == u"North";
+        const bool isAlone = mWords[i].isLast || isFunction(i + 1);
+        return isRegion && isAlone && equalsIgnoringCase(neighbourBefore(i), u"the");
+    }
+
+    static bool isPossessiveOfName(TextView lowered) {
+        const bool isAgent = endsWithAny(lowered, {u"er", u"or", u"ist", u"ian", u"ing", u"ess", u"tion"});
+        return !isAgent && !titlewords::isCommonPossessor(lowered);
+    }
+
+    /// A first part of a name that was found behind it: "South" of "South Sudan", "President" of "President
+    /// Lincoln", "Mount" of "Mount Athos".
+    bool isPartOfNameBehind(std::size_t i) const {
+        if (i + 1 >= mWords.size() || neighbourBefore(i + 1).empty() || isPossessive(word(i))) {
+            return false;
+        }
+        const TextView whole = word(i);
+        const TextView next = wholeName(i + 1);
+        if (titlewords::isNameLead(whole)) {
+            return mKept[i + 1];
+        }
+        if (titlewords::isTitleOfPerson(whole)) {
+            return isKnown(next);
+        }
+        if (!titlewords::isDirection(whole) || !titlewords::isPlace(next)) {
+            return false;
+        }
+        const bool isLarge = startsWith(next, u"Europe") || startsWith(next, u"Africa") || startsWith(next, u"Asia") ||
+                             next == u"Ireland" || next == u"California" || next == u"Australia";
+        return isLarge || !endsWith(whole, u"ern");
+    }
+
+    bool isCapitalizedAtStart(const Word& word) const {
+        return word.isFirst && !word.beginsClause && (mRules.capitalizeSubtitle || !word.beginsSubtitle);
+    }
+
+    void write(std::size_t i) {
+        const Word& current = mWords[i];
+        const std::vector<Range> parts = partsOf(mText, current.core);
+        for (std::size_t p = 0; p < parts.size(); ++p) {
+            const TextView part = slice(mText, parts[p]);
+            if (p == 0 && isCapitalizedAtStart(current)) {
+                capitalizeAt(mText, parts[p].begin);
+                continue;
+            }
+            const bool isWhole = parts.size() == 1;
+            const bool isKept = isWhole ? mKept[i] : isPartKept(part, p == 0 && mKept[i]);
+            if (!isKept && !hasOwnCase(withoutPossessive(part))) {
+                lowerAt(mText, parts[p].begin);
+            }
+        }
+    }
+
+    /// A part of a hyphenated word: by itself it has no neighbours.
+    static bool isPartKept(TextView part, bool isPhrase) {
+        const TextView whole = withoutPossessive(part);
+        return isPhrase || (whole.size() == 1 && whole != u"A") || (whole.size() > 1 && isProperName(whole)) ||
+               hasForeignLetter(toLower(whole));
+    }
+
+    Text& mText;
+    const std::vector<Word>& mWords;
+    const Rules& mRules;
+    std::vector<bool> mKept;
+};
+
+}  // namespace
+
+void applySentence(Text& text, const std::vector<Word>& words, const Rules& rules) {
+    SentenceCase(text, words, rules).run();
+}
+
+}  // namespace quorvel::titlecase

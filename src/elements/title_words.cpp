@@ -1,0 +1,258 @@
+#include "elements/title_words.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "core/letter_case.h"
+#include "elements/title_names.h"
+
+namespace quorvel::titlewords {
+
+namespace {
+
+// The heading's small words. The list is exact: no other preposition belongs to it.
+constexpr TextView kSmallWords =
+    u"a an as at by in of on or so to and but for nor off out the yet amid from over with above about after below "
+    u"under "
+    u"before beside behind beyond during against beneath between without";
+
+constexpr TextView kFunctionWords =
+    u"across along among around down into near onto per since than that through throughout till toward towards until "
+    u"up "
+    u"upon versus via within is are was were be been am do does did can could may might must shall should will would "
+    u"if when while where who whom whose which what why how not no it its it's he she we they you i me my our your his "
+    u"her "
+    u"their them us this these those there then vs v et al";
+
+constexpr TextView kParticles = u"de di le der van von du";
+constexpr TextView kForeignParticles = u"la las los del della des den dem das do da dos y e al el ibn bin al- ten ter";
+
+constexpr TextView kSpeciesEpithets =
+    u"albicans aeruginosa aegypti anthracis aureus burgdorferi carolinensis catus cerevisiae cholerae coli communis "
+    u"davidiana difficile domestica domesticus elegans epidermidis erectus falciparum familiaris frugiperda fumigatus "
+    u"gambiae gondii habilis influenzae japonica jejuni laevis leprae lupus lycopersicum mansoni melanogaster meliloti "
+    u"mellifera monocytogenes musculus mutans neanderthalensis nigra norvegicus officinalis pallidum pneumoniae pombe "
+    u"pylori pyogenes rerio rex sapiens sativa sativum sativus sinensis subtilis thaliana thermophilus trachomatis "
+    u"trichocarpa tuberculosis tumefaciens typhimurium vivax vulgaris economicus faber ludens";
+
+constexpr TextView kAbbreviations =
+    u"vs v mr mrs ms dr st jr sr prof rev gen col capt lt sgt mt ft no nos vol vols pt ch fig ed eds al cf ca approx "
+    u"dept "
+    u"u.s.s u.s u.k h.m.s e.g i.e";
+
+constexpr TextView kNameLeads =
+    u"Saint St Mount Mt Fort Ft Mr Mrs Ms Dr Sir Dame Herr Frau San Santa Los Las Ibn Madame";
+constexpr TextView kTitlesOfPersons =
+    u"Captain Colonel Doctor Dona Duke Emperor Empress General Judge Justice Kaiser King Lady Lake Lord Miss Pope Port "
+    u"President Prince Princess Professor Queen Senator Sultan Tsar Czar Uncle Aunt Don Cape Camp Point";
+
+constexpr TextView kNameTails =
+    u"River Rivers Valley Mountain Mountains Island Islands Bay Sea Ocean Desert Peninsula Basin Delta Canal Strait "
+    u"Coast "
+    u"Republic Federation Empire Kingdom Dynasty Revolution War Wars Conquest Pact Cathedral Abbey Railroad Highlands "
+    u"Falls "
+    u"Gorge Glacier Plateau Archipelago Creek Isles Channel County Prize Doctrine Accords Territory Hemisphere";
+constexpr TextView kInstitutionTails =
+    u"University College Institute Street Avenue Square Park Palace Castle Museum Harbor Harbour "
+    u"Foundation Company Corporation Hall Medal Manifesto Bridge House";
+
+constexpr TextView kDirections =
+    u"North South East West Northeast Northwest Southeast Southwest Northern Southern Eastern Western Central";
+
+constexpr TextView kLetterTakers =
+    u"vitamin hepatitis influenza type group class plan part appendix level grade series category factor protein "
+    u"schedule "
+    u"section vitamins cyclosporin haemophilia hemophilia immunoglobulin";
+
+constexpr TextView kCommonInNameSuffix =
+    u"academician aesthetician agrarian alien amphibian antiquarian apian arcadian artesian authoritarian avian "
+    u"barbarian "
+    u"bean beautician cean centenarian cetacean chean circadian civilian clean clinician collegian comedian "
+    u"comprehensian "
+    u"contrarian crustacean custodian dean dietician dietitian diluvian disciplinarian disciplinarian draconian "
+    u"egalitarian electrician equalitarian equestrian esthetician fruitarian geriatrician glean grammarian guardian "
+    u"herculean historian humanitarian latitudinarian lean lesbian librarian libertarian logician magician "
+    u"majoritarian "
+    u"mammalian marsupian mathematician mean median meridian metaphysician midian millenarian musician "
+    u"nonagenarian obsidian obstetrician ocean octogenarian optician ovarian parliamentarian patrician pean pedestrian "
+    u"pediatrician phonetician physician plebeian pluvian politician proletarian protean quotidian radian reptilian "
+    u"rhetorician riparian ruffian saurian sean sectarian seminarian septuagenarian simian stean statistician "
+    u"subterranean tactician technician technicians theologian thespian totalitarian tragedian trean trivian unclean "
+    u"utilitarian vaudevillian vegetarian veterinarian vulgarian zillion antiutilitarian nonsectarian egalitarian "
+    u"demean bemean skean jean praetorian communitarian equatorian cyclopean empyrean pean "
+    u"cheese these obese diocese geese legalese journalese reese mayonnaise headachese archdiocese";
+
+constexpr TextView kCommonPossessors =
+    u"actor adult animal ant applicant architect artist author baby bachelor baker beast beginner bird body boss boy "
+    u"bride "
+    u"brother business butcher buyer candidate cat century chef child children citizen city clinician company computer "
+    u"consumer cook country creature critic crow customer daughter day death devil doctor dog dragon earth editor "
+    u"emperor "
+    u"empire employee employer enemy engineer everyone everybody eye family farmer father fool friend gardener "
+    u"gentleman "
+    u"gentlemen giant girl goddess grandfather grandmother guide hacker hare heart heaven here hero hitchhiker home "
+    u"host house human hunter husband individual infant insider it judge king kid kids lady lawyer leader learner let "
+    u"life "
+    u"lion listener liver lover magician maker maiden maid man manager marketer master matter men midsummer midwife "
+    u"mind mistress moment monkey month moon morning mother mouse musician nation nature navigator neighbor neighbour "
+    u"night nobody novel novelist nurse observer ocean one organization other outsider owner painter parent patient "
+    u"people "
+    u"person philosopher physician pilgrim pilot player poet politician practitioner president prince prisoner "
+    u"professor "
+    u"programmer publisher queen reader researcher sailor scholar school scientist season self seller serpent servant "
+    u"shepherd ship sister slave society soldier somebody someone son speaker spirit spring stranger student summer "
+    u"sun "
+    u"surgeon swan teacher that there therapist thief time today tomorrow tortoise town toddler translator traveler "
+    u"traveller tree user victim viewer village visitor voter warrior watchman week what who widow wife winter witch "
+    u"wolf "
+    u"woman women worker world writer year yesterday handmaid handmaiden layman layperson investor educator conductor "
+    u"carpenter builder baker butler captain chairman child collector connoisseur countryman craftsman creator dancer "
+    u"designer director dreamer explorer faculty fisherman foreigner fox general golfer historian horseman ideal "
+    u"immigrant infantry inventor journalist knight linguist mathematician merchant miller modeler naturalist newcomer "
+    u"novice officer orphan peasant pirate planner plant practitioner priest prophet pupil sculptor seafarer singer "
+    u"skeptic sorcerer squire state statistician storyteller survivor tailor tenant tiger trader turtle vampire";
+
+/// The words of blank-separated lists.
+class WordSet {
+public:
+    WordSet() = default;
+    explicit WordSet(TextView words) { add(words); }
+
+    void add(TextView words) {
+        while (!words.empty()) {
+            const std::size_t end = std::min(words.find(u' '), words.size());
+            mWords.insert(words.substr(0, end));
+            words.remove_prefix(std::min(end + 1, words.size()));
+        }
+    }
+    bool holds(TextView word) const { return mWords.contains(word); }
+
+private:
+    std::unordered_set<TextView> mWords;
+};
+
+WordSet setOf(const titlenames::WordList* lists, std::size_t count) {
+    WordSet set;
+    for (std::size_t i = 0; i < count; ++i) {
+        set.add(lists[i].words);
+    }
+    return set;
+}
+
+using Phrases = std::unordered_map<Text, std::vector<Phrase>>;
+
+Phrases allPhrases() {
+    Phrases phrases;
+    for (std::size_t i = 0; i < titlenames::kPhrasesCount; ++i) {
+        TextView rest = titlenames::kPhrases[i].words;
+        while (!rest.empty()) {
+            const std::size_t end = std::min(rest.find(u'|'), rest.size());
+            const TextView text = rest.substr(0, end);
+            rest.remove_prefix(std::min(end + 1, rest.size()));
+            const auto blanks = std::count(text.begin(), text.end(), u' ');
+            phrases[toLower(before(text, u" "))].push_back({text, static_cast<std::size_t>(blanks) + 1});
+        }
+    }
+    for (auto& [first, list] : phrases) {
+        std::sort(list.begin(), list.end(), [](const Phrase& a, const Phrase& b) { return a.words > b.words; });
+    }
+    return phrases;
+}
+
+}  // namespace
+
+bool isSmallWord(TextView word) {
+    static const WordSet set(kSmallWords);
+    return set.holds(word);
+}
+
+bool isFunctionWord(TextView word) {
+    static const WordSet set(kFunctionWords);
+    return isSmallWord(word) || set.holds(word);
+}
+
+bool isParticle(TextView word) {
+    static const WordSet set(kParticles);
+    return set.holds(word);
+}
+
+bool isForeignParticle(TextView word) {
+    static const WordSet set(kForeignParticles);
+    return set.holds(word);
+}
+
+bool isSpeciesEpithet(TextView word) {
+    static const WordSet set(kSpeciesEpithets);
+    return set.holds(word);
+}
+
+bool isAbbreviation(TextView word) {
+    static const WordSet set(kAbbreviations);
+    return set.holds(toLower(word));
+}
+
+bool isNameLead(TextView word) {
+    static const WordSet set(kNameLeads);
+    return set.holds(word);
+}
+
+bool isNameTail(TextView word) {
+    static const WordSet set(kNameTails);
+    return set.holds(word);
+}
+
+bool isTitleOfPerson(TextView word) {
+    static const WordSet set(kTitlesOfPersons);
+    return set.holds(word);
+}
+
+bool isInstitutionTail(TextView word) {
+    static const WordSet set(kInstitutionTails);
+    return set.holds(word);
+}
+
+bool isDirection(TextView word) {
+    static const WordSet set(kDirections);
+    return set.holds(word);
+}
+
+bool takesLetter(TextView word) {
+    static const WordSet set(kLetterTakers);
+    return set.holds(toLower(word));
+}
+
+bool isCommonInNameSuffix(TextView word) {
+    static const WordSet set(kCommonInNameSuffix);
+    return set.holds(word);
+}
+
+bool isCommonPossessor(TextView word) {
+    static const WordSet set(kCommonPossessors);
+    return set.holds(word);
+}
+
+bool isPlace(TextView word) {
+    static const WordSet set = setOf(titlenames::kPlaces, titlenames::kPlacesCount);
+    return set.holds(word);
+}
+
+bool isName(TextView word) {
+    static const WordSet set = setOf(titlenames::kNames, titlenames::kNamesCount);
+    return set.holds(word);
+}
+
+bool isGivenName(TextView word) {
+    static const WordSet set = setOf(titlenames::kGivenNames, titlenames::kGivenNamesCount);
+    return set.holds(word);
+}
+
+std::span<const Phrase> phrasesFrom(TextView firstWord) {
+    static const Phrases phrases = allPhrases();
+    const auto found = phrases.find(Text(firstWord));
+    return found != phrases.end() ? std::span<const Phrase>(found->second) : std::span<const Phrase>();
+}
+
+}  // namespace quorvel::titlewords
