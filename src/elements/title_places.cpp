@@ -56,7 +56,8 @@ const WordList kPlaces[] = {
      u"Nebraska Nevada Hampshire Jersey Ohio Oklahoma Oregon Pennsylvania Dakota Tennessee Texas Utah Vermont Virginia "
      u"Washington Wisconsin Wyoming"},
     // Cities and other places.
-    {u"Aberdeen Accra Aleppo Alexandria Algiers Amsterdam Ankara Antwerp Appomattox Athens Atlanta Auckland Auschwitz "
+    {u"Bethlehem Nilotic Arabia Herculaneum Nabataea Aberdeen Accra Aleppo Alexandria Algiers Amsterdam Ankara Antwerp "
+     u"Appomattox Athens Atlanta Auckland Auschwitz "
      u"Austin Avignon Baghdad Baltimore Bangkok Barcelona Basel Beijing Beirut Belfast Belgrade Berkeley Berlin Bern "
      u"Birmingham Bogotá Bologna Bombay Bonn Boston Bourges Bratislava Bremen Brisbane Bristol Broadway Brooklyn Bronx "
      u"Bruges Brussels Bucharest Budapest Cairo Calcutta Calgary Cambridge Canberra Canterbury Caracas Casablanca "

@@ -56,6 +56,27 @@ bool hasNameSuffix(TextView lowered) {
     return endsWithAny(lowered, {u"ian", u"ean", u"ese", u"esque"}) && !endsWithAny(lowered, {u"cean", u"esque"});
 }
 
+/// "Lermontov", "Johnson", "Hamburg": endings that few common words have.
+bool hasSurnameEnding(TextView lowered) {
+    constexpr TextView kEndings[] = {u"berg",  u"burg",  u"burgh", u"bury", u"elli",  u"enko", u"etti",
+                                     u"ham",   u"ini",   u"ius",   u"kov",  u"mann",  u"nov",  u"ov",
+                                     u"ski",   u"sky",   u"son",   u"stan", u"stein", u"ucci", u"vich",
+                                     u"ville", u"worth", u"shire", u"guez"};
+    constexpr TextView kCommon[] = {
+        u"arson",      u"person",   u"reason",     u"season",      u"lesson",       u"prison",      u"poison",
+        u"comparison", u"treason",  u"unison",     u"venison",     u"garrison",     u"crimson",     u"parson",
+        u"liaison",    u"grandson", u"stepson",    u"radius",      u"genius",       u"gingham",     u"iceberg",
+        u"vaudeville", u"bikini",   u"martini",    u"houdini",     u"panini",       u"zucchini",    u"husky",
+        u"risky",      u"frisky",   u"whisky",     u"salesperson", u"spokesperson", u"chairperson", u"layperson",
+        u"mason",      u"jettison", u"unworth",    u"noteworth",   u"oxbow",        u"caisson",     u"alumni",
+        u"mini",       u"bison",    u"trustworth", u"sartorius",   u"fettucini"};
+    if (lowered.size() < 6 || std::find(std::begin(kCommon), std::end(kCommon), lowered) != std::end(kCommon)) {
+        return false;
+    }
+    return std::any_of(std::begin(kEndings), std::end(kEndings),
+                       [&](TextView ending) { return endsWith(lowered, ending); });
+}
+
 /// Known by itself, as a plural, or as what its ending was put to: "Kantianism", "Darwinists".
 bool isProperName(TextView word) {
     if (isKnown(word)) {
@@ -64,20 +85,20 @@ bool isProperName(TextView word) {
     TextView stem = word;
     for (const TextView ending : {TextView(u"s"), TextView(u"ism"), TextView(u"ist"), TextView(u"ization"),
                                   TextView(u"ized"), TextView(u"izing")}) {
-        if (stem.size() > ending.size() + 3 && endsWith(stem, ending)) {
+        if (stem.size() > std::max<std::size_t>(3, 2 * ending.size()) && endsWith(stem, ending)) {
             stem.remove_suffix(ending.size());
             if (isKnown(stem)) {
                 return true;
             }
         }
     }
-    return hasNameSuffix(toLower(stem)) && hasNameSuffix(toLower(word).substr(0, stem.size()));
+    return hasNameSuffix(toLower(stem)) || hasSurnameEnding(toLower(word));
 }
 
 class SentenceCase {
 public:
     SentenceCase(Text& text, const std::vector<Word>& words, const Rules& rules)
-        : mText(text), mWords(words), mRules(rules), mKept(words.size(), false) {}
+        : mText(text), mWords(words), mRules(rules), mKept(words.size(), false), mIsPhrase(words.size(), false) {}
 
     void run() {
         findPhrases();
@@ -143,6 +164,7 @@ private:
         }
         for (std::size_t k = 0; k < phrase.words; ++k) {
             mKept[i + k] = mKept[i + k] || capitals[k];
+            mIsPhrase[i + k] = mIsPhrase[i + k] || capitals[k];
         }
         return true;
     }
@@ -189,7 +211,16 @@ private:
                 return true;
             }
         }
+        if (isBehindOf(i)) {
+            return true;
+        }
         return isPossessive(word(i)) && isPossessiveOfName(lowered);
+    }
+
+    /// "Battle of Hastings", "Duke of Norfolk".
+    bool isBehindOf(std::size_t i) const {
+        return i >= 2 && equalsIgnoringCase(neighbourBefore(i), u"of") && !neighbourBefore(i - 1).empty() &&
+               titlewords::isOfLead(word(i - 2)) && !hasCommonEnding(word(i)) && !mWords[i - 2].isLast;
     }
 
     static bool isSingleLetterKept(std::size_t i, TextView letter, TextView previous) {
@@ -227,7 +258,7 @@ private:
 
     /// A first part of a name that was found behind it: "South" of "South Sudan", "President" of "President
     /// Lincoln", "Mount" of "Mount Athos".
-    bool isPartOfNameBehind(std::size_t i) const {
+    bool isPartOfNameBehind(std::size_t i) {
         if (i + 1 >= mWords.size() || neighbourBefore(i + 1).empty() || isPossessive(word(i))) {
             return false;
         }
@@ -235,6 +266,15 @@ private:
         const TextView next = wholeName(i + 1);
         if (titlewords::isNameLead(whole)) {
             return mKept[i + 1];
+        }
+        // "Battle of Hastings", but not "kings of England".
+        if (titlewords::isOfLead(whole) && next == u"of" && i + 2 < mWords.size()) {
+            return mKept[i + 2] && !neighbourBefore(i + 2).empty();
+        }
+        const bool isNational = whole == u"National" || whole == u"Royal";
+        if (isNational && (titlewords::isInstitutionTail(next) || next == u"Gallery" || next == u"Library")) {
+            mKept[i + 1] = true;
+            return true;
         }
         if (titlewords::isTitleOfPerson(whole)) {
             return isKnown(next);
@@ -261,7 +301,7 @@ private:
                 continue;
             }
             const bool isWhole = parts.size() == 1;
-            const bool isKept = isWhole ? mKept[i] : isPartKept(part, p == 0 && mKept[i]);
+            const bool isKept = isWhole ? mKept[i] : isPartKept(part, mIsPhrase[i] || (p == 0 && mKept[i]));
             if (!isKept && !hasOwnCase(withoutPossessive(part))) {
                 lowerAt(mText, parts[p].begin);
             }
@@ -279,6 +319,8 @@ private:
     const std::vector<Word>& mWords;
     const Rules& mRules;
     std::vector<bool> mKept;
+    // Part of a known name of several words, hyphens and all.
+    std::vector<bool> mIsPhrase;
 };
 
 }  // namespace

@@ -59,6 +59,11 @@ constexpr TextView kInstitutionTails =
     u"University College Institute Street Avenue Square Park Palace Castle Museum Harbor Harbour "
     u"Foundation Company Corporation Hall Medal Manifesto Bridge House";
 
+constexpr TextView kOfLeads =
+    u"Battle Treaty Siege University Gulf Strait Straits Isle Cape Archbishop Bishop Duke Duchess Earl Countess "
+    u"Republic "
+    u"Cathedral Archdiocese Province Peace Edict Council Commonwealth Bank";
+
 constexpr TextView kDirections =
     u"North South East West Northeast Northwest Southeast Southwest Northern Southern Eastern Western Central";
 
@@ -211,6 +216,11 @@ bool isTitleOfPerson(TextView word) {
 
 bool isInstitutionTail(TextView word) {
     static const WordSet set(kInstitutionTails);
+    return set.holds(word);
+}
+
+bool isOfLead(TextView word) {
+    static const WordSet set(kOfLeads);
     return set.holds(word);
 }
 

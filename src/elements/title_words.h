@@ -30,6 +30,8 @@ bool isTitleOfPerson(TextView word);
 /// Last parts of names behind a noun, not behind an adjective: "Columbia University", but "Chinese university
 /// students".
 bool isInstitutionTail(TextView word);
+/// First parts of names with "of": "Battle of Hastings".
+bool isOfLead(TextView word);
 /// "North", "Eastern", "Central".
 bool isDirection(TextView word);
 /// What carries a letter as a grade or kind, so that "A" behind it is no article: "vitamin".
