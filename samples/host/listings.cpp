@@ -39,7 +39,7 @@ void printStylesSideBySide(std::vector<StyledElements>& styles, const std::vecto
             bool isOffered = false;
             bool hasOwnNote = false;
             for (StyledElements& style : styles) {
-                const std::optional<FormattedElement> formatted = style.format(element.name, element.text);
+                const std::optional<FormattedElement> formatted = style.format(references[i], element);
                 isOffered = isOffered || formatted.has_value();
                 row.push_back(formatted ? shown(*formatted->reference) : L"");
                 noteRow.push_back(formatted ? shown(*formatted->note) : L"");
@@ -58,7 +58,7 @@ void printStyle(StyledElements& style, const std::vector<Reference>& references)
     for (std::size_t i = 0; i < references.size(); ++i) {
         print(kHeadings.row({heading(i, references[i])}));
         for (const ReferenceElement& element : references[i].elements) {
-            const std::optional<FormattedElement> formatted = style.format(element.name, element.text);
+            const std::optional<FormattedElement> formatted = style.format(references[i], element);
             if (!formatted) continue;
             print(kListAndNote.row({L"  " + element.name, shown(*formatted->reference), shown(*formatted->note)}));
         }
@@ -72,7 +72,7 @@ void printAsRtf(StyledElements& style, const std::vector<Reference>& references)
         paragraphs.push_back({"", ""});
         paragraphs.push_back({rtfBody({{heading(i, references[i]), kBold}}), ""});
         for (const ReferenceElement& element : references[i].elements) {
-            const std::optional<FormattedElement> formatted = style.format(element.name, element.text);
+            const std::optional<FormattedElement> formatted = style.format(references[i], element);
             if (!formatted) continue;
             const std::string name = rtfBody({{element.name, kPlain}});
             paragraphs.push_back(

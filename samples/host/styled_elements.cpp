@@ -1,5 +1,7 @@
 #include "styled_elements.h"
 
+#include <algorithm>
+
 #include "elements.h"
 
 namespace sample {
@@ -15,13 +17,21 @@ ComPointer<FormattedText> write(const LateBoundObject& element, bool isFootnote)
 
 }  // namespace
 
-std::optional<FormattedElement> StyledElements::format(const std::wstring& name, const std::wstring& text) {
+std::optional<FormattedElement> StyledElements::format(const std::wstring& name, const std::wstring& text,
+                                                       const std::wstring& secondaryText) {
     const LateBoundObject styled = element(name);
     if (!styled) return std::nullopt;
     // The text goes by reference: the element takes out of it what it has understood.
     Variant remaining(text);
-    styled.call(L"Parse", {Variant::byReference(remaining.get().bstrVal), L""});
+    styled.call(L"Parse", {Variant::byReference(remaining.get().bstrVal), secondaryText});
     return FormattedElement{write(styled, false), write(styled, true)};
+}
+
+std::optional<FormattedElement> StyledElements::format(const Reference& reference, const ReferenceElement& element) {
+    const bool isInside = std::any_of(
+        reference.elements.begin(), reference.elements.end(),
+        [](const ReferenceElement& other) { return other.name == L"container" || other.name == L"newspaper"; });
+    return format(element.name, element.text, element.name == L"title" && isInside ? L"Article" : L"");
 }
 
 LateBoundObject StyledElements::element(const std::wstring& name) {

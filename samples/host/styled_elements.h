@@ -6,6 +6,7 @@
 
 #include "formatted_text.h"
 #include "late_bound.h"
+#include "references.h"
 #include "styles.h"
 
 namespace sample {
@@ -28,7 +29,11 @@ public:
     /// The text of an element in this style; nothing when the library does not offer the element or
     /// the style file has no options for it.
     /// @param name the kind's name (elements.h)
-    std::optional<FormattedElement> format(const std::wstring& name, const std::wstring& text);
+    /// @param secondaryText what the host knows beside the text: of a title its type
+    std::optional<FormattedElement> format(const std::wstring& name, const std::wstring& text,
+                                           const std::wstring& secondaryText = {});
+    /// An element of a reference; the title of a work inside a journal or newspaper is an article's.
+    std::optional<FormattedElement> format(const Reference& reference, const ReferenceElement& element);
 
 private:
     LateBoundObject element(const std::wstring& name);

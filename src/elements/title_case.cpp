@@ -50,16 +50,6 @@ TextView wordBefore(TextView text, std::size_t end) {
     return text.substr(begin, end - begin);
 }
 
-/// A full stop that ends no piece: behind an initial that is no numeral, or an abbreviation.
-bool isStopOfWord(TextView text, std::size_t stop) {
-    const TextView word = wordBefore(text, stop);
-    if (word.size() == 1) {
-        return isCapital(word[0]) && word != u"I" && word != u"V" && word != u"X";
-    }
-    const bool isInitials = word.size() >= 3 && word[word.size() - 2] == u'.';
-    return isInitials || titlewords::isAbbreviation(word);
-}
-
 /// Where the next piece begins when a mark at this place ends one, else npos.
 std::size_t endOfPiece(TextView text, std::size_t i) {
     const char16_t unit = text[i];
@@ -98,7 +88,7 @@ void capitalizePart(Text& text, Range part, bool isLastOfTitle, TextView first) 
 }
 
 /// What stays as it stands in a heading although it is no small word.
-bool staysInHeading(TextView text, const std::vector<Word>& words, std::size_t index) {
+bool staysInHeading(TextView text, std::span<const Word> words, std::size_t index) {
     const TextView word = slice(text, words[index].core);
     if (index == 0) {
         return false;
@@ -126,7 +116,49 @@ bool staysInHeading(TextView text, const std::vector<Word>& words, std::size_t i
     return false;
 }
 
+/// One word of a piece.
+void applyHeading(Text& text, std::span<const Word> words, std::size_t index, bool capitalizeFirstWord,
+                  const Rules& rules) {
+    const Word& word = words[index];
+    const bool isFirst = word.isFirst && (index > 0 || capitalizeFirstWord);
+    const bool isEnd = isFirst || word.isLast;
+    const std::vector<Range> parts = partsOf(text, word.core);
+    const Text first(slice(text, parts.front()));
+    const Text lowered = toLower(first);
+    const bool isCompound = parts.size() > 1;
+    const bool isSlash = isCompound && text[parts.front().end] == u'/';
+    // "e-learning", "t-test": the letter stays, the word behind it is capitalised.
+    const bool isLetter = isCompound && first.size() == 1 && first != u"a";
+    const bool isGreek = first.size() == 1 && first[0] >= 0x370 && first[0] < 0x400;
+    if (!hasOwnCase(first) && !isGreek) {
+        // One test is on the word as it stands, deliberately: a capital "A" is no article.
+        const bool isSmall = titlewords::isSmallWord(lowered) && first != u"A" && (!isCompound || isSlash);
+        if (isSmall && !isEnd) {
+            lowerAt(text, parts.front().begin);
+        } else if (isFirst || !(isLetter || staysInHeading(text, words, index))) {
+            capitalizeAt(text, parts.front().begin);
+        } else if (titlewords::isSpeciesEpithet(lowered)) {
+            lowerAt(text, parts.front().begin);
+        }
+    }
+    for (std::size_t part = 1; part < parts.size(); ++part) {
+        const bool isLastOfTitle = word.isLast && part + 1 == parts.size();
+        if (rules.capitalizeHyphenatedWord || isSlash) {
+            capitalizePart(text, parts[part], isLastOfTitle, first);
+        }
+    }
+}
+
 }  // namespace
+
+bool isStopOfWord(TextView text, std::size_t stop) {
+    const TextView word = wordBefore(text, stop);
+    if (word.size() == 1) {
+        return isCapital(word[0]) && word != u"I" && word != u"V" && word != u"X";
+    }
+    const bool isInitials = word.size() >= 3 && word[word.size() - 2] == u'.';
+    return isInitials || titlewords::isAbbreviation(word);
+}
 
 bool isCapital(char16_t unit) {
     return lower(unit) != unit;
@@ -223,7 +255,9 @@ std::vector<Word> wordsOf(TextView title) {
             i = end;
         }
         if (words.size() > firstOfPiece) {
-            words.back().isLast = true;
+            // The "or," of "; or, " is no last word.
+            const std::size_t end = words.back().core.end;
+            words.back().isLast = end >= title.size() || title[end] != u',';
         }
     }
     return words;
@@ -243,37 +277,6 @@ std::vector<Range> partsOf(TextView text, Range word) {
     return parts;
 }
 
-void applyHeading(Text& text, const std::vector<Word>& words, std::size_t index, bool capitalizeFirstWord,
-                  const Rules& rules) {
-    const Word& word = words[index];
-    const bool isEnd = (word.isFirst && capitalizeFirstWord) || word.isLast;
-    const std::vector<Range> parts = partsOf(text, word.core);
-    const Text first(slice(text, parts.front()));
-    const Text lowered = toLower(first);
-    const bool isCompound = parts.size() > 1;
-    const bool isSlash = isCompound && text[parts.front().end] == u'/';
-    // "e-learning", "t-test": the letter stays, the word behind it is capitalised.
-    const bool isLetter = isCompound && first.size() == 1 && first != u"a";
-    const bool isGreek = first.size() == 1 && first[0] >= 0x370 && first[0] < 0x400;
-    if (!hasOwnCase(first) && !isGreek) {
-        // One test is on the word as it stands, deliberately: a capital "A" is no article.
-        const bool isSmall = titlewords::isSmallWord(lowered) && first != u"A" && (!isCompound || isSlash);
-        if (isSmall && !isEnd) {
-            lowerAt(text, parts.front().begin);
-        } else if ((isEnd && word.isFirst) || !(isLetter || staysInHeading(text, words, index))) {
-            capitalizeAt(text, parts.front().begin);
-        } else if (titlewords::isSpeciesEpithet(lowered)) {
-            lowerAt(text, parts.front().begin);
-        }
-    }
-    for (std::size_t part = 1; part < parts.size(); ++part) {
-        const bool isLastOfTitle = word.isLast && part + 1 == parts.size();
-        if (rules.capitalizeHyphenatedWord || isSlash) {
-            capitalizePart(text, parts[part], isLastOfTitle, first);
-        }
-    }
-}
-
 bool standsInHeadingCase(TextView title) {
     int capitals = 0;
     int smalls = 0;
@@ -291,22 +294,54 @@ bool standsInHeadingCase(TextView title) {
     return capitals > smalls;
 }
 
+bool capitalizesFirstWord(const Word& first, const Rules& rules) {
+    return rules.isHeading || (!first.beginsClause && (rules.capitalizeSubtitle || !first.beginsSubtitle));
+}
+
+std::vector<std::span<const Word>> pieces(const std::vector<Word>& words) {
+    std::vector<std::span<const Word>> result;
+    const std::span<const Word> all(words);
+    for (std::size_t begin = 0; begin < all.size();) {
+        std::size_t end = begin + 1;
+        while (end < all.size() && all[end].piece == all[begin].piece) {
+            ++end;
+        }
+        result.push_back(all.subspan(begin, end - begin));
+        begin = end;
+    }
+    return result;
+}
+
+void applyPiece(Text& text, std::span<const Word> piece, bool capitalizeFirstWord, const Rules& rules) {
+    if (!rules.isHeading) {
+        applySentence(text, piece, capitalizeFirstWord, rules);
+        return;
+    }
+    for (std::size_t i = 0; i < piece.size(); ++i) {
+        applyHeading(text, piece, i, capitalizeFirstWord, rules);
+    }
+}
+
+std::vector<Range> changedWords(TextView before, TextView after, const std::vector<Word>& words) {
+    std::vector<Range> changed;
+    for (const Word& word : words) {
+        if (slice(before, word.core) != slice(after, word.core)) {
+            changed.push_back(word.core);
+        }
+    }
+    return changed;
+}
+
 CasedTitle casedTitle(TextView title, const Rules& rules) {
     CasedTitle result;
     result.text = title;
     const std::vector<Word> words = wordsOf(title);
-    if (rules.isHeading) {
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            applyHeading(result.text, words, i, true, rules);
-        }
-    } else if (standsInHeadingCase(title)) {
-        applySentence(result.text, words, rules);
-    }
-    for (const Word& word : words) {
-        if (slice(title, word.core) != slice(result.text, word.core)) {
-            result.changed.push_back(word.core);
+    if (rules.isHeading || standsInHeadingCase(title)) {
+        for (const std::span<const Word> piece : pieces(words)) {
+            applyPiece(result.text, piece, capitalizesFirstWord(piece.front(), rules), rules);
         }
     }
+    result.changed = changedWords(title, result.text, words);
     return result;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include "core/text.h"
@@ -78,12 +79,19 @@ TextView withoutPossessive(TextView word);
 bool isCapital(char16_t unit);
 bool isSmallLetter(char16_t unit);
 
-/// Heading case of one piece, in place.
-/// @param capitalizeFirstWord the first word is capitalised even when it is a small one
-void applyHeading(Text& text, const std::vector<Word>& words, std::size_t index, bool capitalizeFirstWord,
-                  const Rules& rules);
-/// Sentence case of all words of a title that stands in heading case, in place (title_sentence.cpp).
-void applySentence(Text& text, const std::vector<Word>& words, const Rules& rules);
+/// Whether the rules capitalise the first word of a piece.
+bool capitalizesFirstWord(const Word& first, const Rules& rules);
+/// The words of one piece after the other.
+std::vector<std::span<const Word>> pieces(const std::vector<Word>& words);
+/// One piece in heading or sentence case, in place. Sentence case takes a piece of a title that stands in
+/// heading case (title_sentence.cpp).
+void applyPiece(Text& text, std::span<const Word> piece, bool capitalizeFirstWord, const Rules& rules);
+void applySentence(Text& text, std::span<const Word> piece, bool capitalizeFirstWord, const Rules& rules);
+/// The words whose text differs.
+std::vector<Range> changedWords(TextView before, TextView after, const std::vector<Word>& words);
+
+/// Whether a full stop at this place belongs to its word: behind an initial or an abbreviation.
+bool isStopOfWord(TextView text, std::size_t stop);
 
 void capitalizeAt(Text& text, std::size_t index);
 void lowerAt(Text& text, std::size_t index);

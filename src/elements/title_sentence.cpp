@@ -97,8 +97,13 @@ bool isProperName(TextView word) {
 
 class SentenceCase {
 public:
-    SentenceCase(Text& text, const std::vector<Word>& words, const Rules& rules)
-        : mText(text), mWords(words), mRules(rules), mKept(words.size(), false), mIsPhrase(words.size(), false) {}
+    SentenceCase(Text& text, std::span<const Word> words, bool capitalizeFirstWord, const Rules& rules)
+        : mText(text),
+          mWords(words),
+          mCapitalizeFirstWord(capitalizeFirstWord),
+          mRules(rules),
+          mKept(words.size(), false),
+          mIsPhrase(words.size(), false) {}
 
     void run() {
         findPhrases();
@@ -287,8 +292,8 @@ private:
         return isLarge || !endsWith(whole, u"ern");
     }
 
-    bool isCapitalizedAtStart(const Word& word) const {
-        return word.isFirst && !word.beginsClause && (mRules.capitalizeSubtitle || !word.beginsSubtitle);
+    bool isCapitalizedAtStart(std::size_t i) const {
+        return i == 0 ? mCapitalizeFirstWord : mWords[i].isFirst && mRules.capitalizeSubtitle;
     }
 
     void write(std::size_t i) {
@@ -296,7 +301,7 @@ private:
         const std::vector<Range> parts = partsOf(mText, current.core);
         for (std::size_t p = 0; p < parts.size(); ++p) {
             const TextView part = slice(mText, parts[p]);
-            if (p == 0 && isCapitalizedAtStart(current)) {
+            if (p == 0 && isCapitalizedAtStart(i)) {
                 capitalizeAt(mText, parts[p].begin);
                 continue;
             }
@@ -316,7 +321,8 @@ private:
     }
 
     Text& mText;
-    const std::vector<Word>& mWords;
+    std::span<const Word> mWords;
+    bool mCapitalizeFirstWord;
     const Rules& mRules;
     std::vector<bool> mKept;
     // Part of a known name of several words, hyphens and all.
@@ -325,8 +331,8 @@ private:
 
 }  // namespace
 
-void applySentence(Text& text, const std::vector<Word>& words, const Rules& rules) {
-    SentenceCase(text, words, rules).run();
+void applySentence(Text& text, std::span<const Word> piece, bool capitalizeFirstWord, const Rules& rules) {
+    SentenceCase(text, piece, capitalizeFirstWord, rules).run();
 }
 
 }  // namespace quorvel::titlecase

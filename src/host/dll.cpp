@@ -10,6 +10,7 @@
 #include "host/adapters/page_adapter.h"
 #include "host/adapters/place_adapter.h"
 #include "host/adapters/publisher_adapter.h"
+#include "host/adapters/title_adapter.h"
 #include "host/adapters/year_adapter.h"
 #include "host/com/class_factory.h"
 #include "host/com/dispatch_table.h"
@@ -38,6 +39,9 @@ const CreatableClass kCreatableClasses[] = {
     {CLSID_OutputTemplatePublisher, make<PublisherAdapter>},
     {CLSID_OutputTemplatePage, make<PageAdapter>},
     {CLSID_OutputTemplateKeywords, make<KeywordsAdapter>},
+    {CLSID_Main2, make<quorvel::host::Main2>},       {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
+    {CLSID_OutputTemplateYear, make<YearAdapter>},   {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
+    {CLSID_OutputTemplateTitle, make<TitleAdapter>}, {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
 };
 
 /// An entry point lets no exception out; only memory can run out in one.

@@ -10,6 +10,7 @@
 #include "host/adapters/page_adapter.h"
 #include "host/adapters/place_adapter.h"
 #include "host/adapters/publisher_adapter.h"
+#include "host/adapters/title_adapter.h"
 #include "host/adapters/year_adapter.h"
 #include "host/com/late_bound_object.h"
 

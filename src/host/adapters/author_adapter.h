@@ -164,6 +164,8 @@ public:
     }
 
 private:
+    ComPtr<IUnknown> elementAccess() override { return ElementAccess::to(this, mAuthor); }
+
     /// One role for an index, all three without.
     Variant anthologies(const VARIANT& index) const {
         if (!isMissing(index)) {

@@ -11,6 +11,7 @@
 #include "host/com/arrays.h"
 #include "host/com/com_ptr.h"
 #include "host/com/dispatch_table.h"
+#include "host/com/element_access.h"
 #include "host/com/module.h"
 #include "host/com/variant.h"
 
@@ -96,6 +97,10 @@ public:
         if (object == nullptr) {
             return E_POINTER;
         }
+        if (iid == kElementAccess) {
+            *object = elementAccess().detach();
+            return *object != nullptr ? S_OK : E_NOINTERFACE;
+        }
         const bool isOurs = iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(Interface);
         *object = isOurs ? static_cast<Interface*>(this) : nullptr;
         if (!isOurs) {
@@ -159,6 +164,10 @@ public:
 protected:
     ComObject() : mTable(DispatchTable::of(__uuidof(Interface))) { Module::objectBegins(); }
     virtual ~ComObject() { Module::objectEnds(); }
+
+    /// An adapter whose element other elements hold hands it out here: `return ElementAccess::to(this,
+    /// mElement)`.
+    virtual ComPtr<IUnknown> elementAccess() { return {}; }
 
     /// The body of a member without result.
     template <class Body>

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "core/text.h"
+
+/// The types that a title may have, their captions in the form, and the texts that describe them.
+namespace quorvel::titletypes {
+
+/// The style codes that `Reset` receives as format. They are part of the interface.
+enum StyleCode : std::int16_t { kMlaWithoutEd = -1, kAma = 0, kApa = 1, kMla = 2, kTurabian = 3 };
+
+Text captionOf(TextView type);
+Text typeOf(TextView caption);
+
+/// Foreword, Introduction, Preface, Afterword.
+std::vector<Text> prematterTypes();
+bool isPrematter(TextView type);
+
+/// Whether a work of this type is part of a larger one.
+bool isPart(TextView type);
+
+/// The text that describes a work of this type, without the marks around it; empty for none.
+/// @param hasTitle whether the work has a title of its own
+TextView describingText(TextView type, std::int16_t format, bool hasTitle);
+/// Whether the describing text stands before the person it is about: "obituary for ".
+bool isLeadIn(TextView describingText);
+/// The type that a describing text in square brackets stands for: "Letter" for "letter"; empty for none.
+Text typeOfDescribingText(TextView text);
+
+/// Describing texts stand in square brackets (APA 6 6.33, AMA 10 3.12), or else after a comma.
+bool usesBrackets(std::int16_t format);
+/// Parts of works stand in quotation marks (MLA 7 3.6.3, Turabian 7 22.3.2), or else in plain text.
+bool quotesParts(std::int16_t format);
+
+/// What joins the word of prematter, the title and the author of the work.
+struct PrematterJoints {
+    TextView beforeTitle;
+    TextView beforeAuthor;
+};
+PrematterJoints prematterJoints(std::int16_t format);
+
+}  // namespace quorvel::titletypes

@@ -1,0 +1,208 @@
+#include "elements/title.h"
+
+#include <gtest/gtest.h>
+
+#include "elements/title_types.h"
+#include "support/recording_service.h"
+#include "support/recording_sink.h"
+#include "support/style_presets.h"
+
+namespace quorvel {
+namespace {
+
+using Title = OutputTemplateTitle;
+
+std::shared_ptr<OutputTemplateAuthor> authorElement() {
+    auto author = std::make_shared<OutputTemplateAuthor>();
+    author->Initialize(std::make_shared<RecordingSink>());
+    author->Reset(test::mlaAuthorOptions());
+    return author;
+}
+
+std::shared_ptr<Title> titleIn(std::int16_t format) {
+    auto title = std::make_shared<Title>();
+    title->Initialize(std::make_shared<RecordingSink>());
+    const bool isSentence = format == 0 || format == 1;
+    title->Reset(format, authorElement(), isSentence, format != 0, u"books", format != 0, u"parts", true,
+                 u"Chapter title,Introduction,Interview");
+    return title;
+}
+
+/// What is written, italics between "_".
+Text written(Title& title, bool isFootnote = false, bool shortenedVersion = false) {
+    const auto sink = std::make_shared<RecordingSink>();
+    title.ToFormattedString(sink, isFootnote, shortenedVersion);
+    Text text;
+    for (const RecordingSink::Phrase& phrase : sink->phrases()) {
+        const bool isItalic = phrase.font == 1 && !phrase.text.empty();
+        text += isItalic ? u"_" + phrase.text + u"_" : phrase.text;
+    }
+    return text;
+}
+
+TEST(Title, WritesEachTypeAsTheStyleAsks) {
+    struct Case {
+        TextView text;
+        TextView type;
+        std::int16_t format;
+        TextView written;
+    };
+    constexpr Case kCases[] = {
+        {u"The double helix: a personal account.", u"", 2, u"_The Double Helix: A Personal Account_"},
+        {u"The Double Helix: A Personal Account", u"", 1, u"_The double helix: A personal account_"},
+        {u"The Double Helix: A Personal Account", u"", 0, u"_The double helix: a personal account_"},
+        {u"\u201CThe Clash of Civilizations?\u201D", u"Article", 3, u"\u201CThe Clash of Civilizations?\u201D"},
+        {u"\u201CThe Clash of Civilizations?\u201D", u"Article", 1, u"The clash of civilizations?"},
+        {u"The \"Other\" Question", u"Article", 2, u"\u201CThe \u2018Other\u2019 Question\u201D"},
+        {u"Who Governs?: Democracy in America", u"", 2, u"_Who Governs? Democracy in America_"},
+        {u"Le deuxi\u00E8me sexe [The second sex]", u"", 2, u"_Le deuxi\u00E8me sexe_ [The second sex]"},
+        {u"A Life", u"Interview", -1, u"\u201CA Life,\u201D interview"},
+        {u"A Life", u"Interview", 2, u"\u201CA Life\u201D"},
+        {u"A Life?", u"Interview", -1, u"\u201CA Life?\u201D interview"},
+        {u"A Life", u"Abridged", 2, u"_A Life_, abridged"},
+        {u"A Life", u"Abridged", -1, u"_A Life_"},
+        {u"A Life", u"Video", 0, u"_A life_ [video]"},
+        {u"A Life", u"Letter", 3, u"\u201CA Life,\u201D letter to the editor"},
+        {u"A Life", u"Letter", 1, u"A life [letter]"},
+        {u"A Life", u"Letter", 2, u"\u201CA Life\u201D"},
+        {u"", u"Letter", -1, u"Letter"},
+        {u"A Life", u"Letter", -1, u"\u201CA Life,\u201D letter"},
+        {u"A Life", u"Monograph", 1, u"_A life_ [Monograph]"},
+        {u"A Life", u"Monograph", 3, u"_A Life_, monograph"},
+        {u"", u"Obituary", 3, u"obituary for "},
+        {u"", u"Reply to letter", 2, u"Reply to letter of "},
+        {u"A Life", u"Reply to letter", 2, u"\u201CA Life\u201D"},
+        {u"A Life", u"interview", -1, u"_A Life_"},
+        {u"Drug Allergy [Letter].", u"", 1, u"Drug allergy [letter]"},
+        {u"The E. coli Strains of the U.S.S. Enterprise", u"", 2, u"_The _E. coli_ Strains of the _U.S.S. Enterprise"},
+        {u"", u"", 2, u""},
+    };
+    for (const Case& c : kCases) {
+        SCOPED_TRACE(testing::PrintToString(Text(c.text) + u" / " + Text(c.type)));
+        const auto title = titleIn(c.format);
+        Text text(c.text);
+        title->Parse(text, c.type);
+        EXPECT_EQ(text, u"");
+        EXPECT_EQ(written(*title), c.written);
+        EXPECT_EQ(written(*title->Clone()), c.written);
+    }
+}
+
+TEST(Title, ShortensAndQuotesParts) {
+    const auto title = titleIn(2);
+    Text text = u"Guns, Germs, and Steel: The Fates of Human Societies";
+    title->Parse(text, u"");
+    EXPECT_EQ(title->value(0), u"Guns, Germs, and Steel");
+    EXPECT_EQ(title->value(1), u"The Fates of Human Societies");
+    EXPECT_EQ(written(*title, false, true), u"_Guns, Germs, and Steel_");
+    EXPECT_EQ(title->CapitalizationRule(), u"books");
+    title->IsChapterOrWebsite(true);
+    EXPECT_EQ(title->CapitalizationRule(), u"parts");
+    EXPECT_EQ(title->toString(false, true), u"\u201CGuns, Germs, and Steel\u201D");
+    EXPECT_EQ(title->CloneForHeadingCapitalization()->IsSentenceCapitalization(), false);
+}
+
+TEST(Title, WritesPrematter) {
+    struct Case {
+        TextView text;
+        TextView type;
+        std::int16_t format;
+        TextView written;
+        TextView note;
+    };
+    constexpr Case kCases[] = {
+        {u"Introduction to Middlemarch, by George Eliot", u"", 3, u"Introduction to _Middlemarch_, by George Eliot",
+         u"introduction to _Middlemarch_, by George Eliot"},
+        {u"Introduction. Middlemarch. By George Eliot.", u"", 2, u"Introduction. _Middlemarch_. By George Eliot",
+         u"Introduction. _Middlemarch_. By George Eliot"},
+        {u"Foreword. In Middlemarch", u"", 1, u"Foreword. In _Middlemarch_", u"Foreword. In _Middlemarch_"},
+        {u"Middlemarch", u"Preface", 3, u"Preface to _Middlemarch_", u"preface to _Middlemarch_"},
+        {u"Afterword.", u"", 3, u"Afterword", u"afterword"},
+        // A book, and no introduction of one.
+        {u"Introduction to Algorithms", u"", 3, u"_Introduction to Algorithms_", u"_Introduction to Algorithms_"},
+    };
+    for (const Case& c : kCases) {
+        SCOPED_TRACE(testing::PrintToString(Text(c.text)));
+        const auto title = titleIn(c.format);
+        Text text(c.text);
+        title->Parse(text, c.type);
+        EXPECT_EQ(written(*title), c.written);
+        EXPECT_EQ(written(*title, true), c.note);
+    }
+}
+
+TEST(Title, MapsTypesAndCaptions) {
+    const auto title = titleIn(2);
+    const std::pair<TextView, TextView> kCaptions[] = {
+        {u"Chapter title", u"Chapter"},
+        {u"Excerpt from", u"Excerpt"},
+        {u"Reference entry", u"Entry"},
+        {u"Introduction", u"Intro"},
+        {u"Obituary", u"Obituary for"},
+        {u"Interview", u"Interview of"},
+        {u"Text", u"Text"},
+        {u"interview", u"interview"},
+    };
+    for (const auto& [type, caption] : kCaptions) {
+        EXPECT_EQ(title->TitleTypeToCaption(type), caption);
+        EXPECT_EQ(title->CaptionToTitleType(caption), type);
+    }
+    EXPECT_EQ(title->subworkTypes(), (std::vector<Text>{u"Chapter title", u"Introduction", u"Interview"}));
+    EXPECT_EQ(title->TitleSubtypes(), (std::vector<Text>{u"Chapter title", u"Interview"}));
+    EXPECT_TRUE(title->UsesTitleType());
+    title->setTitleTypes(u"");
+    EXPECT_FALSE(title->UsesTitleType());
+    EXPECT_EQ(title->prematterTypes(), (std::vector<Text>{u"Foreword", u"Introduction", u"Preface", u"Afterword"}));
+}
+
+TEST(Title, LeavesForeignOldAndPreformattedTitlesAlone) {
+    const auto heading = titleIn(2);
+    const auto sentence = titleIn(1);
+    constexpr TextView kAlone[] = {u"Cien a\u00F1os de soledad",
+                                   u"Kafka und Prag",
+                                   u"Dei delitti e delle pene",
+                                   u"Le deuxi\u00E8me sexe",
+                                   u"De rerum natura et cetera",
+                                   u"Het achterhuis",
+                                   u"A declaration of the state whereunto the realmes came",
+                                   u"Szkoła żon",
+                                   u"JAMA",
+                                   u"http://www.example.org/some page"};
+    for (const TextView text : kAlone) {
+        EXPECT_EQ(heading->formatRule(text), text);
+        EXPECT_EQ(sentence->formatRule(text), text);
+    }
+    constexpr TextView kEnglish[] = {u"Learning from Las Vegas", u"The Philosophy of Simone de Beauvoir",
+                                     u"What Does It Mean", u"El Ni\u00F1o Events", u"Die Hard"};
+    for (const TextView text : kEnglish) {
+        EXPECT_TRUE(heading->isEnglishTitle(text) && !heading->isOldTitle(text)) << testing::PrintToString(Text(text));
+    }
+}
+
+class TitleReports : public ReportingTest {};
+
+TEST_F(TitleReports, ReportsWhatIsOutOfRangeAndSurvivesAFailingSink) {
+    const auto title = titleIn(2);
+    Text text = u"A Life: A Story [Translation]";
+    title->Parse(text, u"Video");
+    EXPECT_EQ(title->value(3), u"");
+    title->value(-1, u"x");
+    EXPECT_EQ(service().errors().size(), 2U);
+    for (int call = 1; call < 12; ++call) {
+        const auto sink = std::make_shared<RecordingSink>();
+        title->Initialize(sink);
+        sink->failAt(call);
+        title->ToFormattedString(sink, false, false);
+        sink->failAt(0);
+    }
+    title->ToFormattedString(nullptr, false, false);
+    // The host changes the style while it is written to.
+    const auto sink = std::make_shared<RecordingSink>();
+    title->Initialize(sink);
+    sink->onCall([&] { title->Reset(1, nullptr, true, true, u"", true, u"", true, u""); });
+    title->ToFormattedString(sink, false, false);
+    EXPECT_EQ(title->IsSentenceCapitalization(), true);
+}
+
+}  // namespace
+}  // namespace quorvel
