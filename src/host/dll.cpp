@@ -30,19 +30,19 @@ struct CreatableClass {
 };
 
 // Every coclass of the type library.
+// clang-format off: one row a line
 const CreatableClass kCreatableClasses[] = {
     {CLSID_Main2, make<quorvel::host::Main2>},
     {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
-    {CLSID_OutputTemplateYear, make<YearAdapter>},
-    {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
-    {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
+    {CLSID_OutputTemplateTitle, make<TitleAdapter>},
     {CLSID_OutputTemplatePublisher, make<PublisherAdapter>},
+    {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
+    {CLSID_OutputTemplateYear, make<YearAdapter>},
+    {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
     {CLSID_OutputTemplatePage, make<PageAdapter>},
     {CLSID_OutputTemplateKeywords, make<KeywordsAdapter>},
-    {CLSID_Main2, make<quorvel::host::Main2>},       {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
-    {CLSID_OutputTemplateYear, make<YearAdapter>},   {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
-    {CLSID_OutputTemplateTitle, make<TitleAdapter>}, {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
 };
+// clang-format on
 
 /// An entry point lets no exception out; only memory can run out in one.
 template <class Body>

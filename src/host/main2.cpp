@@ -26,10 +26,21 @@ struct ElementClass {
 };
 
 // The element type codes and their classes. A code without a row makes nothing.
+// clang-format off: one row a line
 constexpr ElementClass kElementClasses[] = {
-    {0, make<AuthorAdapter>},    {9, make<AuthorAdapter>},    {15, make<PlaceAdapter>}, {5, make<PublisherAdapter>},
-    {14, make<KeywordsAdapter>}, {17, make<DateTimeAdapter>}, {7, make<PageAdapter>},   {6, make<YearAdapter>},
+    {0, make<AuthorAdapter>},
+    {9, make<AuthorAdapter>},
+    {1, make<TitleAdapter>},
+    {2, make<TitleAdapter>},
+    {3, make<TitleAdapter>},
+    {15, make<PlaceAdapter>},
+    {5, make<PublisherAdapter>},
+    {14, make<KeywordsAdapter>},
+    {17, make<DateTimeAdapter>},
+    {7, make<PageAdapter>},
+    {6, make<YearAdapter>},
 };
+// clang-format on
 
 ComPtr<IDispatch> createElement(std::int16_t whichType) {
     const auto* row = std::find_if(std::begin(kElementClasses), std::end(kElementClasses),
