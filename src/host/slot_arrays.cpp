@@ -22,6 +22,9 @@ bool fillSlotArrays(Implementor& implementor, bool isFootnote, VARIANT* items, V
     // Named after the assembly, since an array that is missing or too small is no fault of the element.
     moduleProcedure(u"OutputTemplate.ToFormattedStringImpl",
                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
+                        if (items == nullptr || formattedItems == nullptr) {
+                            throw RuntimeError(ErrorNumber::ArgumentNotOptional);
+                        }
                         std::vector<Text> texts = textsOf(*items);
                         std::vector<OutputSinkRef> fragments;
                         for (const Variant& item : elementsOf(*formattedItems)) {

@@ -1,7 +1,7 @@
 #include "host/com/arrays.h"
 
 #include <algorithm>
-#include <string>
+#include <cstdint>
 
 #include "core/run_time_error.h"
 #include "host/com/automation_error.h"
@@ -32,10 +32,23 @@ IDispatch* objectOf(const VARIANT& value) {
     return value.vt == (VT_BYREF | VT_DISPATCH) ? *value.ppdispVal : nullptr;
 }
 
+bool isMissing(const VARIANT& value) {
+    if (value.vt == VT_EMPTY || value.vt == VT_NULL || value.vt == VT_ERROR || isNullReference(value)) {
+        return true;
+    }
+    return (value.vt & ~VT_BYREF) == VT_DISPATCH && objectOf(value) == nullptr;
+}
+
 /// An element of a safe array in a variant and back.
 class ElementType {
 public:
-    explicit ElementType(SAFEARRAY* array) : mArray(array) { check(SafeArrayGetVartype(array, &mType)); }
+    explicit ElementType(SAFEARRAY* array) : mArray(array) {
+        check(SafeArrayGetVartype(array, &mType));
+        // Records and decimals do not fit where the simple values of a variant stand.
+        if (mType != VT_VARIANT && SafeArrayGetElemsize(array) > sizeof(VARIANT::llVal)) {
+            throw RuntimeError(ErrorNumber::TypeMismatch);
+        }
+    }
 
     Variant get(LONG index) const {
         Variant value;
@@ -118,15 +131,19 @@ Variant arrayOfTexts(const std::vector<Text>& values) {
 std::vector<Variant> elementsOf(const VARIANT& array) {
     const VARIANT& direct = dereferenced(array);
     std::vector<Variant> elements;
-    if (direct.vt == VT_EMPTY || direct.vt == VT_NULL || direct.vt == VT_ERROR) {
+    if (isMissing(direct)) {
         return elements;
     }
     if (IDispatch* script = objectOf(direct)) {
         const LateBoundObject object(script);
         Variant length;
         check(convert(object.get(L"length"), VT_I4, length));
+        // The length is what the object says it is, and its elements have 16-bit indexes everywhere.
+        if (length.lVal > INT16_MAX) {
+            throw RuntimeError(ErrorNumber::Overflow);
+        }
         for (LONG i = 0; i < length.lVal; ++i) {
-            elements.push_back(object.get(std::to_wstring(i).c_str()));
+            elements.push_back(object.element(i));
         }
         return elements;
     }
@@ -142,13 +159,16 @@ std::vector<Variant> elementsOf(const VARIANT& array) {
 }
 
 void assignElements(VARIANT& array, const std::vector<Variant>& values) {
+    if (values.empty()) {
+        return;
+    }
     auto& direct = const_cast<VARIANT&>(dereferenced(array));
     if (IDispatch* script = objectOf(direct)) {
         const LateBoundObject object(script);
         for (std::size_t i = 0; i < values.size(); ++i) {
             Variant copy;
             check(VariantCopy(&copy, const_cast<Variant*>(&values[i])));
-            object.put(std::to_wstring(i).c_str(), std::move(copy));
+            object.putElement(static_cast<std::int32_t>(i), std::move(copy));
         }
         return;
     }

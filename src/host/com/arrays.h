@@ -16,7 +16,8 @@ Variant arrayOfTexts(const std::vector<Text>& values);
 Variant arrayOfVariants(std::vector<Variant> values);
 
 /// The elements of an array that a caller passed: of any type, with any lower bound, by value or by
-/// reference, or a script's array object. Nothing for a missing argument; error 13 for what is no array.
+/// reference, or a script's array object. None for a missing argument, Null or Nothing; error 13 for what is
+/// no array.
 std::vector<Variant> elementsOf(const VARIANT& array);
 
 /// Gives a caller's array, passed by reference, new elements. Its size and element type stay; an element

@@ -144,6 +144,7 @@ public:
         assignSources(parameters);
     }
 
+    /// Whether an argument that is not optional is missing.
     bool lacksArguments() const {
         for (std::size_t i = 0; i < mValues.size(); ++i) {
             if (mSources[i] == nullptr && !mMember.parameters[i].isOptional) {
@@ -152,6 +153,8 @@ public:
         }
         return false;
     }
+    /// Whether an argument was left over that no parameter takes.
+    bool hasSurplus() const { return mHasSurplus; }
 
     HRESULT bringArguments() {
         for (std::size_t i = 0; i < mValues.size(); ++i) {
@@ -188,6 +191,7 @@ public:
             pointers[i] = &arguments[i];
         };
         for (std::size_t i = 0; i < mValues.size(); ++i) {
+            mBrought.push_back(mValues[i]);
             pass(i, mValues[i], mMember.parameters[i].type, mMember.parameters[i].isByReference);
         }
         if (hasResult) {
@@ -203,10 +207,10 @@ public:
         return FAILED(outcome) ? outcome : returned.scode;
     }
 
-    /// Gives the caller's variables what the member left in its arguments.
+    /// Gives the caller's variables what the member changed. The others keep their value and their type.
     void writeBack() {
-        for (std::size_t i = 0; i < mValues.size(); ++i) {
-            if (mMember.parameters[i].isByReference && mSources[i] != nullptr) {
+        for (std::size_t i = 0; i < mBrought.size(); ++i) {
+            if (mMember.parameters[i].isByReference && mSources[i] != nullptr && isChanged(i)) {
                 writeBack(*mSources[i], mMember.parameters[i].type, mValues[i]);
             }
         }
@@ -214,24 +218,35 @@ public:
 
 private:
     void assignSources(const DISPPARAMS& parameters) {
-        // Named arguments stand first; the others follow from the last to the first.
+        // Named arguments stand first; the others follow from the last to the first. A property's new value
+        // is named too.
         for (UINT i = 0; i < parameters.cNamedArgs && i < parameters.cArgs; ++i) {
             const DISPID position = parameters.rgdispidNamedArgs[i];
             const auto last = static_cast<DISPID>(mSources.size()) - 1;
-            const DISPID target = position == DISPID_PROPERTYPUT ? last : position;
-            if (target >= 0 && target <= last) {
-                mSources[static_cast<std::size_t>(target)] = &parameters.rgvarg[i];
-            }
+            assignSource(position == DISPID_PROPERTYPUT ? last : position, parameters.rgvarg[i]);
         }
-        std::size_t next = 0;
-        for (UINT i = parameters.cArgs; i-- > parameters.cNamedArgs && next < mSources.size();) {
-            mSources[next++] = &parameters.rgvarg[i];
+        DISPID next = 0;
+        for (UINT i = parameters.cArgs; i-- > parameters.cNamedArgs;) {
+            assignSource(next++, parameters.rgvarg[i]);
         }
-        for (VARIANTARG*& source : mSources) {
-            if (source != nullptr && isMissing(dereferenced(*source))) {
-                source = nullptr;
-            }
+    }
+
+    void assignSource(DISPID position, VARIANTARG& argument) {
+        const bool isTaken = position < 0 || static_cast<std::size_t>(position) >= mSources.size() ||
+                             mSources[static_cast<std::size_t>(position)] != nullptr;
+        mHasSurplus = mHasSurplus || isTaken;
+        // A reference to nothing counts as missing.
+        const VARIANT& direct = dereferenced(argument);
+        if (!isTaken && !isNullReference(direct) && !isMissing(direct)) {
+            mSources[static_cast<std::size_t>(position)] = &argument;
         }
+    }
+
+    bool isChanged(std::size_t i) const {
+        const VARIANT& before = mBrought[i];
+        const VARIANT& after = mValues[i];
+        // An array is changed where it is.
+        return before.vt != after.vt || before.llVal != after.llVal || (after.vt & VT_ARRAY) != 0;
     }
 
     static void writeBack(VARIANTARG& argument, VARTYPE type, Variant& value) {
@@ -276,6 +291,9 @@ private:
     const Member& mMember;
     std::vector<VARIANTARG*> mSources;
     std::vector<Variant> mValues;
+    // The values as the member got them, without owning them.
+    std::vector<VARIANT> mBrought;
+    bool mHasSurplus = false;
 };
 
 DispatchTable::DispatchTable(ComPtr<ITypeInfo> dispatchInfo) : mDispatchInfo(std::move(dispatchInfo)) {}
@@ -359,7 +377,9 @@ const DispatchTable::Member* DispatchTable::find(DISPID id, WORD flags) const {
 HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DISPPARAMS& parameters,
                               VARIANT* result) const {
     const Member* member = find(id, flags);
-    if (member == nullptr) {
+    const bool isHollow = (parameters.cArgs > 0 && parameters.rgvarg == nullptr) ||
+                          (parameters.cNamedArgs > 0 && parameters.rgdispidNamedArgs == nullptr);
+    if (member == nullptr || isHollow) {
         return DISP_E_MEMBERNOTFOUND;
     }
     Variant value;
@@ -369,10 +389,10 @@ HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DI
     const auto fail = [&](ErrorNumber number) {
         moduleProcedure(Name(member->procedure), kNoParameters, [&] { throw RuntimeError(number); });
     };
-    if (parameters.cArgs > member->parameters.size()) {
+    Call call(*member, parameters);
+    if (call.hasSurplus()) {
         fail(ErrorNumber::WrongNumberOfArguments);
     }
-    Call call(*member, parameters);
     if (call.lacksArguments()) {
         fail(ErrorNumber::ArgumentNotOptional);
     }

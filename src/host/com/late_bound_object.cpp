@@ -1,6 +1,7 @@
 #include "host/com/late_bound_object.h"
 
 #include <algorithm>
+#include <string>
 
 #include "host/com/automation_error.h"
 
@@ -30,8 +31,12 @@ Variant LateBoundObject::get(const wchar_t* member) const {
     return invoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, nullptr, 0);
 }
 
-void LateBoundObject::put(const wchar_t* member, Variant value) const {
-    invoke(member, DISPATCH_PROPERTYPUT, &value, 1);
+Variant LateBoundObject::element(std::int32_t index) const {
+    return invoke(lookUp(std::to_wstring(index).c_str()), DISPATCH_PROPERTYGET, nullptr, 0);
+}
+
+void LateBoundObject::putElement(std::int32_t index, Variant value) const {
+    invoke(lookUp(std::to_wstring(index).c_str()), DISPATCH_PROPERTYPUT, &value, 1);
 }
 
 DISPID LateBoundObject::idOf(const wchar_t* member) const {
@@ -40,6 +45,12 @@ DISPID LateBoundObject::idOf(const wchar_t* member) const {
     if (known != mIds.end()) {
         return known->second;
     }
+    const DISPID id = lookUp(member);
+    mIds.emplace_back(name, id);
+    return id;
+}
+
+DISPID LateBoundObject::lookUp(const wchar_t* member) const {
     if (!mObject) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
     }
@@ -47,7 +58,7 @@ DISPID LateBoundObject::idOf(const wchar_t* member) const {
     DISPID id = DISPID_UNKNOWN;
     HRESULT outcome = E_NOTIMPL;
     if (mObjectEx) {
-        const BSTR text = newBstr(TextView(reinterpret_cast<const char16_t*>(name.data()), name.size()));
+        const BSTR text = newBstr(reinterpret_cast<const char16_t*>(member));
         outcome = mObjectEx->GetDispID(text, fdexNameCaseSensitive, &id);
         SysFreeString(text);
     }
@@ -59,12 +70,14 @@ DISPID LateBoundObject::idOf(const wchar_t* member) const {
         EXCEPINFO none = {};
         throw automationError(outcome, none, mObject.get());
     }
-    mIds.emplace_back(name, id);
     return id;
 }
 
 Variant LateBoundObject::invoke(const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const {
-    const DISPID id = idOf(member);
+    return invoke(idOf(member), flags, arguments, count);
+}
+
+Variant LateBoundObject::invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const {
     const ComPtr<IDispatch> keepAlive = mObject;
     std::array<VARIANTARG, kMostArguments> reversed;
     // Copied without taking over: the callee may change an argument only through a reference.

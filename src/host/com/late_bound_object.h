@@ -34,13 +34,17 @@ public:
     /// Reads a property without arguments.
     Variant get(const wchar_t* member) const;
 
-    /// Writes a property without arguments.
-    void put(const wchar_t* member, Variant value) const;
+    /// An element of a script's array.
+    Variant element(std::int32_t index) const;
+    void putElement(std::int32_t index, Variant value) const;
 
 private:
+    /// The id of a member whose name is a literal; it is looked up once.
     DISPID idOf(const wchar_t* member) const;
+    DISPID lookUp(const wchar_t* member) const;
     /// `arguments` in the order of the declaration.
     Variant invoke(const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const;
+    Variant invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const;
 
     ComPtr<IDispatch> mObject;
     // Scripting engines answer the exact letter case through this interface only.

@@ -188,6 +188,10 @@ HRESULT unregisterClasses(RegistrationScope scope) {
     }
     unregisterTypeLibrary(scope, library.attributes);
     removeIfEmpty(scope, L"TypeLib\\" + wide(library.attributes.guid));
+    // A user may have had no classes of his own before.
+    for (const wchar_t* folder : {L"CLSID", L"Interface", L"TypeLib"}) {
+        removeIfEmpty(scope, folder);
+    }
     return S_OK;
 }
 

@@ -34,6 +34,9 @@ const VARIANT& dereferenced(const VARIANT& value) {
 }
 
 HRESULT convert(const VARIANT& value, VARTYPE type, Variant& result) {
+    if (isNullReference(dereferenced(value))) {
+        return DISP_E_TYPEMISMATCH;
+    }
     Variant direct;
     HRESULT outcome = VariantCopyInd(&direct, const_cast<VARIANT*>(&dereferenced(value)));
     if (SUCCEEDED(outcome) && direct.vt != type) {

@@ -86,6 +86,11 @@ public:
 /// The variant behind all references to variants.
 const VARIANT& dereferenced(const VARIANT& value);
 
+/// Whether a value is said to be elsewhere, and nobody says where.
+inline bool isNullReference(const VARIANT& value) {
+    return (value.vt & VT_BYREF) != 0 && value.byref == nullptr;
+}
+
 /// A value in another variant type, as US English reads and writes it whatever the user's settings: a
 /// boolean is "True" or "False".
 /// @return S_OK, or why the value does not convert; then `result` stays empty.

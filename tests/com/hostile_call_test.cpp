@@ -1,0 +1,140 @@
+#include <limits>
+
+#include "library.h"
+
+namespace comtests {
+namespace {
+
+using HostileCall = LibraryTest;
+
+/// An object still does what it is for.
+void expectWorking(const LateBoundObject& object) {
+    if (idOf(object.dispatch(), L"build") != DISPID_UNKNOWN) {
+        EXPECT_TRUE(objectOf(object.call(L"build", {kYear, static_cast<IDispatch*>(nullptr)})));
+    } else {
+        EXPECT_EQ(textOf(object.call(L"formatStr", {L"Spring"})), L"Spring");
+    }
+}
+
+/// Arguments that no declaration asks for, with what they refer to: made anew for each call.
+class OddArguments {
+public:
+    OddArguments() {
+        SAFEARRAYBOUND square[] = {{2, 0}, {2, 0}};
+        mArray.get().vt = VT_ARRAY | VT_VARIANT;
+        mArray.get().parray = SafeArrayCreate(VT_VARIANT, 2, square);
+        mForeign.get().vt = VT_UNKNOWN;
+        CreateBindCtx(0, reinterpret_cast<IBindCtx**>(&mForeign.get().punkVal));
+        mSelf.get() = referenceTo(VT_VARIANT, &mSelf.get()).release();
+        mOuter.get() = referenceTo(VT_BSTR, &mText.get().bstrVal).release();
+        constexpr int kNumbers[] = {VT_I1,   VT_I2, VT_I4,   VT_I8, VT_UI1,  VT_UI8,
+                                    VT_BOOL, VT_CY, VT_DATE, VT_R8, VT_ERROR};
+        for (const int type : kNumbers) {
+            add(type, -1);
+            add(type, std::numeric_limits<std::int64_t>::max());
+            add(VT_BYREF | type, reinterpret_cast<std::int64_t>(&mNumber));
+        }
+        // With nothing in them, or referring to nothing; some of these types there are not.
+        constexpr int kHollow[] = {
+            VT_EMPTY,           VT_NULL,   VT_BSTR, VT_DISPATCH, VT_UNKNOWN,           VT_DECIMAL,
+            VT_ARRAY | VT_BSTR, VT_RECORD, VT_PTR,  VT_CLSID,    VT_ARRAY | VT_RECORD, VT_VARIANT,
+            VT_VECTOR | VT_I2,  0x0FFF,    77,      VT_I2,       VT_ARRAY | VT_VARIANT};
+        for (const int type : kHollow) {
+            add(type, 0);
+            add(VT_BYREF | type, 0);
+        }
+        add(VT_ERROR, DISP_E_PARAMNOTFOUND);
+        for (Variant* variable : {&mText, &mObject, &mForeign, &mArray, &mSelf, &mOuter}) {
+            mAll.push_back(variable->get());
+            mAll.push_back(referenceTo(VT_VARIANT, &variable->get()).get());
+            if ((variable->get().vt & VT_BYREF) == 0) {
+                mAll.push_back(referenceTo(variable->get().vt, &variable->get().byref).get());
+            }
+        }
+    }
+
+    const std::vector<VARIANT>& all() const { return mAll; }
+
+private:
+    void add(int type, std::int64_t content) {
+        mAll.emplace_back().vt = static_cast<VARTYPE>(type);
+        mAll.back().llVal = content;
+    }
+
+    std::int64_t mNumber = -1;
+    Variant mText = std::wstring(L"te\0xt", 5);
+    Variant mObject{makeObject<DispatchObject>().get()};
+    Variant mForeign;
+    Variant mArray;
+    Variant mSelf;
+    Variant mOuter;
+    // Owned by the variables above.
+    std::vector<VARIANT> mAll;
+};
+
+TEST_F(HostileCall, NoArgumentMakesAMemberFail) {
+    const std::size_t oddCount = OddArguments().all().size();
+    for (const CreatableClass& creatable : kClasses) {
+        const LateBoundObject object = library.create(creatable);
+        for (const Member& member : membersOf(object)) {
+            for (std::size_t position = 0; position < member.parameters; ++position) {
+                for (std::size_t odd = 0; odd < oddCount; ++odd) {
+                    const OddArguments arguments;
+                    std::vector<VARIANT> passed(member.parameters);
+                    passed[position] = arguments.all()[odd];
+                    Variant result;
+                    ASSERT_EQ(invoke(object.dispatch(), member.id, member.kinds, passed, &result.get()), S_OK)
+                        << testing::PrintToString(creatable.name + (L"." + member.name)) << " argument " << position
+                        << " odd " << odd;
+                }
+            }
+            expectWorking(object);
+        }
+    }
+}
+
+TEST_F(HostileCall, TheVtableTakesNullPointersAndZeros) {
+    for (const CreatableClass& creatable : kClasses) {
+        const LateBoundObject object = library.create(creatable);
+        ComPointer<ITypeInfo> dispatch;
+        ComPointer<ITypeInfo> vtable;
+        HREFTYPE reference = 0;
+        ASSERT_EQ(object.dispatch()->GetTypeInfo(0, LOCALE_NEUTRAL, dispatch.put()), S_OK);
+        ASSERT_EQ(dispatch->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference), S_OK);
+        ASSERT_EQ(dispatch->GetRefTypeInfo(reference, vtable.put()), S_OK);
+        FUNCDESC* function = nullptr;
+        for (UINT i = 0; SUCCEEDED(vtable->GetFuncDesc(i, &function)); ++i) {
+            // Every parameter is a number or a pointer: all of them travel alike.
+            const auto count = static_cast<std::size_t>(function->cParams);
+            std::vector<VARTYPE> types(count, VT_I8);
+            VARIANT zero = {};
+            std::vector<VARIANT*> arguments(count, &zero);
+            Variant returned;
+            const bool isOfTheBase = function->memid >= 0x60000000;
+            EXPECT_EQ(isOfTheBase ? S_OK
+                                  : DispCallFunc(object.dispatch(), static_cast<ULONG_PTR>(function->oVft), CC_STDCALL,
+                                                 VT_ERROR, static_cast<UINT>(count), types.data(), arguments.data(),
+                                                 &returned.get()),
+                      S_OK);
+            EXPECT_EQ(isOfTheBase ? S_OK : returned.get().scode, S_OK) << creatable.name << " member " << i;
+            vtable->ReleaseFuncDesc(function);
+        }
+        expectWorking(object);
+    }
+}
+
+TEST_F(HostileCall, ANewObjectWithoutInitializeWorksAsFarAsItGoes) {
+    for (const CreatableClass& creatable : kClasses) {
+        const LateBoundObject object = library.create(creatable.clsid);
+        for (const Member& member : membersOf(object)) {
+            if (member.name == L"Initialize") continue;
+            Variant result;
+            EXPECT_EQ(invoke(object.dispatch(), member.id, member.kinds, std::vector<VARIANT>(member.parameters),
+                             &result.get()),
+                      S_OK);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace comtests

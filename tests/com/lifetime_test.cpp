@@ -1,0 +1,99 @@
+#include "library.h"
+
+namespace comtests {
+namespace {
+
+using Lifetime = LibraryTest;
+
+TEST_F(Lifetime, EveryInterfaceOfAnObjectLeadsToEveryOther) {
+    for (const CreatableClass& creatable : kClasses) {
+        SCOPED_TRACE(testing::Message() << creatable.name);
+        const LateBoundObject object = library.create(creatable.clsid);
+        const IID interfaces[] = {IID_IUnknown, IID_IDispatch, creatable.iid};
+        ComPointer<IUnknown> identity;
+        ASSERT_EQ(object.dispatch()->QueryInterface(IID_IUnknown, identity.putVoid()), S_OK);
+        for (const IID& from : interfaces) {
+            ComPointer<IUnknown> first;
+            ASSERT_EQ(identity->QueryInterface(from, first.putVoid()), S_OK);
+            for (const IID& to : interfaces) {
+                ComPointer<IUnknown> second;
+                EXPECT_EQ(first->QueryInterface(to, second.putVoid()), S_OK);
+            }
+            ComPointer<IUnknown> again;
+            EXPECT_EQ(first->QueryInterface(IID_IUnknown, again.putVoid()), S_OK);
+            EXPECT_EQ(again.get(), identity.get());
+            void* none = &none;
+            EXPECT_EQ(first->QueryInterface(IID_IClassFactory, &none), E_NOINTERFACE);
+            EXPECT_EQ(none, nullptr);
+            EXPECT_EQ(first->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
+        }
+        for (const CreatableClass& other : kClasses) {
+            ComPointer<IUnknown> foreign;
+            const HRESULT expected = other.iid == creatable.iid ? S_OK : E_NOINTERFACE;
+            EXPECT_EQ(identity->QueryInterface(other.iid, foreign.putVoid()), expected);
+        }
+        EXPECT_EQ(identity->AddRef(), 3u);
+        EXPECT_EQ(identity->Release(), 2u);
+    }
+}
+
+TEST_F(Lifetime, ClassFactories) {
+    void* none = &none;
+    EXPECT_EQ(library.getClassObject(__uuidof(_Main2), IID_IClassFactory, &none), CLASS_E_CLASSNOTAVAILABLE);
+    EXPECT_EQ(none, nullptr);
+    EXPECT_EQ(library.getClassObject(__uuidof(::Main2), IID_IClassFactory, nullptr), E_POINTER);
+    EXPECT_EQ(library.getClassObject(__uuidof(::Main2), IID_IDispatch, &none), E_NOINTERFACE);
+    EXPECT_EQ(none, nullptr);
+    for (const CreatableClass& creatable : kClasses) {
+        SCOPED_TRACE(testing::Message() << creatable.name);
+        ComPointer<IClassFactory> factory;
+        ASSERT_EQ(library.getClassObject(creatable.clsid, IID_IClassFactory, factory.putVoid()), S_OK);
+        EXPECT_EQ(library.canUnloadNow(), S_FALSE);
+        ComPointer<IUnknown> object;
+        EXPECT_EQ(factory->CreateInstance(nullptr, creatable.iid, object.putVoid()), S_OK);
+        none = &none;
+        EXPECT_EQ(factory->CreateInstance(object.get(), IID_IUnknown, &none), CLASS_E_NOAGGREGATION);
+        EXPECT_EQ(none, nullptr);
+        EXPECT_EQ(factory->CreateInstance(nullptr, IID_IClassFactory, &none), E_NOINTERFACE);
+        EXPECT_EQ(factory->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
+        EXPECT_EQ(factory->QueryInterface(creatable.iid, &none), E_NOINTERFACE);
+        factory.reset();
+        EXPECT_EQ(library.canUnloadNow(), S_FALSE);
+        object.reset();
+        EXPECT_EQ(library.canUnloadNow(), S_OK);
+        ASSERT_EQ(library.getClassObject(creatable.clsid, IID_IClassFactory, factory.putVoid()), S_OK);
+        EXPECT_EQ(factory->LockServer(TRUE), S_OK);
+        IClassFactory* const locked = factory.get();
+        locked->AddRef();
+        factory.reset();
+        EXPECT_EQ(locked->LockServer(FALSE), S_OK);
+        EXPECT_EQ(library.canUnloadNow(), S_FALSE);
+        EXPECT_EQ(locked->Release(), 0u);
+        EXPECT_EQ(library.canUnloadNow(), S_OK);
+    }
+}
+
+TEST_F(Lifetime, ALockAloneKeepsTheLibraryLoaded) {
+    for (const BOOL lock : {TRUE, FALSE}) {
+        ComPointer<IClassFactory> factory;
+        ASSERT_EQ(library.getClassObject(__uuidof(::Main2), IID_IClassFactory, factory.putVoid()), S_OK);
+        factory->LockServer(lock);
+        factory.reset();
+        EXPECT_EQ(library.canUnloadNow(), lock != FALSE ? S_FALSE : S_OK);
+    }
+}
+
+TEST_F(Lifetime, ElementsOutliveTheirFactoryAndClonesTheirOriginal) {
+    for (const CreatableClass& creatable : kClasses) {
+        if (creatable.codes.empty()) continue;
+        LateBoundObject element = library.create(creatable);
+        element = LateBoundObject(objectOf(element.call(L"Clone")));
+        const auto sink = makeObject<FormattedText>();
+        EXPECT_EQ(textOf(element.call(L"formatStr", {L"Spring"})), L"Spring");
+        element.call(L"ToFormattedString", {sink.get()});
+        EXPECT_EQ(sink->toString(), L"Spring");
+    }
+}
+
+}  // namespace
+}  // namespace comtests

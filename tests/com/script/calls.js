@@ -1,0 +1,65 @@
+// How JScript calls: leaving arguments out, null and undefined, members in any letter case, arrays, sinks
+// that throw or call back.
+var main = new ActiveXObject("QuorvelTemplate.Main2");
+
+function check(what, actual, expected) {
+    if (actual !== expected) WScript.Echo("FAILED " + what + ": " + escape(actual) + ", not " + escape(expected));
+}
+
+var sink = { text: "", Add: function (text) { this.text += text; } };
+var year = main.build("6", sink);
+year.RESET(true, "False", -1, "c.", 1, null, undefined);
+check("letter case and conversion", year.FORMATSTR("[1990?]"), "[1990?]");
+check("null is an empty text", year.formatStr("n.d."), "");
+year.Reset(true);
+check("arguments left out", year.formatStr("[c.1990]"), "[ 1990]");
+check("a number for a text", year.formatStr(1990), "1990");
+check("null", year.formatStr(null), "");
+check("undefined", year.formatStr(undefined), "");
+check("an object for a text is its default value", year.formatStr(sink), "[object Object]");
+check("too many", year.formatStr("1991", 2, 3, 4), "1991");
+check("a property that is a method", year.Year(), "1991");
+year.Year = 1992;
+check("a number for a property", year.Year, "1992");
+year.yearType = "2";
+check("a text for a number", year.yearType, 2);
+year.yearType = "two";
+check("no number", year.yearType, 2);
+year.ToFormattedString(sink);
+check("sink", sink.text, "[1992?]");
+
+var codes = [-1, 18, 19, 20, 70000, "year", null, 5.4];
+for (var i = 0; i < codes.length; ++i) check("build " + codes[i], main.build(codes[i], sink), null);
+check("buildModelTemplate", main.buildModelTemplate(), null);
+try {
+    year.noSuchMember();
+    WScript.Echo("FAILED a member that is not there was called");
+} catch (error) {
+    check("no such member", error.number & 0xFFFF, 438);
+}
+
+// Arrays come as those of Visual Basic.
+var states = new VBArray(main.build(15, null).States);
+check("States", states.lbound() + " " + states.ubound() + " " + states.getItem(7), "0 55 Colorodo");
+
+// Whatever a sink does, the call comes back.
+function callWith(add) {
+    year.Parse("1990");
+    year.ToFormattedString({ Add: add });
+    return year.toString();
+}
+check("a sink that throws", callWith(function () { throw new Error(5, "mine"); }), "1990");
+check("a sink with an error of its own", callWith(function () { return nothing.at.all; }), "1990");
+check("a sink that parses", callWith(function () { year.Parse("[1991]"); }), "[1991]");
+check("a sink that is a number", callWith(5), "1990");
+var depth = 0;
+check("a sink that writes again", callWith(function () {
+    if (++depth < 20) year.ToFormattedString(this);
+}), "1990");
+check("depth", depth, 20);
+year.ToFormattedString(null);
+year.ToFormattedString({});
+year.ToFormattedString("text");
+check("after all that", year.formatStr("1993"), "1993");
+
+WScript.Echo("done");

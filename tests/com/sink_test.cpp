@@ -1,0 +1,234 @@
+#include <memory>
+
+#include "recording_service.h"
+
+namespace comtests {
+namespace {
+
+/// What a sink does besides what it is asked for.
+struct Trouble {
+    /// Which of its calls, and those of its clones, fails; counted from 1.
+    int failAt = 0;
+    HRESULT failure = E_FAIL;
+    /// Whether it raises the failure as an error of its own, or only returns it.
+    bool isRaised = false;
+    int calls = 0;
+    /// What it held when it failed.
+    std::wstring before;
+    /// Runs at the next `Add`, once.
+    std::function<void()> atAdd;
+};
+
+/// A formatted text of the sample host behind members that make trouble.
+ComPointer<DispatchObject> troubled(ComPointer<FormattedText> text, std::shared_ptr<Trouble> trouble) {
+    auto sink = makeObject<DispatchObject>();
+    for (const std::wstring member : {L"Add", L"Clone", L"BuildNewFormattedString", L"Reset", L"IsEmpty", L"toString",
+                                      L"toRTFString", L"addFormattedString", L"removeQuoteFromLastPhrase"}) {
+        sink->addMethod(member, [text, trouble, member](const Arguments& arguments, VARIANT& result) {
+            if (++trouble->calls == trouble->failAt) {
+                trouble->before = text->toString();
+                if (trouble->isRaised) throw ComError{trouble->failure, L"mine"};
+                return trouble->failure;
+            }
+            if (member == L"Add" && trouble->atAdd) std::exchange(trouble->atAdd, nullptr)();
+            std::vector<Variant> passed;
+            for (std::size_t i = 0; i < arguments.size(); ++i) passed.push_back(Variant::copyOf(arguments[i]));
+            Variant answer = LateBoundObject(text.get()).call(member, passed);
+            const bool isObject = answer.get().vt == VT_DISPATCH;
+            if (auto* made =
+                    dynamic_cast<FormattedText*>(DispatchObject::behind(isObject ? answer.get().pdispVal : nullptr))) {
+                answer = troubled(ComPointer<FormattedText>(made), trouble).get();
+            }
+            result = answer.release();
+            return S_OK;
+        });
+    }
+    return sink;
+}
+
+class Sink : public ServiceTest {
+protected:
+    ComPointer<FormattedText> text = makeObject<FormattedText>();
+    std::shared_ptr<Trouble> trouble = std::make_shared<Trouble>();
+    ComPointer<DispatchObject> sink = troubled(text, trouble);
+};
+
+constexpr const wchar_t* kInput = L"May 5, 2011, 9:15 a.m. PDT";
+
+TEST_F(Sink, TakesTheOutputOfEveryElement) {
+    struct Case {
+        std::int32_t code;
+        const wchar_t* input;
+        const wchar_t* output;
+    };
+    constexpr Case kCases[] = {
+        {kYear, L"[1990?]", L"[1990?]"},
+        {kPlace, L"Paris", L"Paris"},
+        {kDateTime, kInput, kInput},
+        {kDateTime, L"", L""},
+    };
+    for (const Case& c : kCases) {
+        const LateBoundObject element = library.build(c.code, sink.get());
+        element.call(L"Parse", {c.input});
+        element.call(L"ToFormattedString", {sink.get(), true, true});
+        EXPECT_EQ(text->toString(), c.output);
+        EXPECT_EQ(text->lastPhraseFont(), 0);
+        text->reset();
+    }
+    const LateBoundObject dateTime = library.build(kDateTime, sink.get());
+    dateTime.call(L"Parse", {kInput});
+    EXPECT_NE(textOf(dateTime.call(L"toString", {false, false, true})).find(L"{\\rtf1"), std::wstring::npos);
+    EXPECT_EQ(text->toString(), L"") << "toString has a sink of its own";
+    EXPECT_EQ(service.takenErrors(), L"");
+}
+
+TEST_F(Sink, WhateverCallOfItFailsIsReportedAndTheRestIsWritten) {
+    struct Case {
+        HRESULT failure;
+        bool isRaised;
+        std::wstring number;
+    };
+    const Case cases[] = {
+        {E_FAIL, false, L"440"},
+        {E_FAIL, true, L"440"},
+        {DISP_E_MEMBERNOTFOUND, false, L"438"},
+        {DISP_E_TYPEMISMATCH, false, L"13"},
+        {E_OUTOFMEMORY, false, L"7"},
+        {RPC_E_DISCONNECTED, false, L"462"},
+        {MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 424), true, L"424"},
+    };
+    // A clone; seven pieces to the sink itself; the clone reset, seven pieces and its text.
+    constexpr int kCalls = 1 + 7 + 9;
+    for (const Case& c : cases) {
+        for (int failAt = 0; failAt <= kCalls; ++failAt) {
+            SCOPED_TRACE(testing::Message() << std::hex << c.failure << " at call " << std::dec << failAt);
+            *trouble = Trouble{failAt, c.failure, c.isRaised, 0, L"", nullptr};
+            text->reset();
+            const LateBoundObject dateTime = library.build(kDateTime, sink.get());
+            dateTime.call(L"Parse", {kInput});
+            dateTime.call(L"ToFormattedString", {sink.get()});
+            const std::wstring written = text->toString();
+            const std::wstring plain = textOf(dateTime.call(L"toString"));
+            const std::wstring errors = service.takenErrors();
+            if (failAt == 0) {
+                EXPECT_EQ(trouble->calls, kCalls);
+                EXPECT_EQ(written + plain + errors, std::wstring(kInput) + kInput);
+            } else if (failAt == 1) {
+                // Without a clone toString has nothing to write to.
+                EXPECT_EQ(errors, c.number + L" OutputTemplate.Initialize; 91 OutputTemplate.toString");
+                EXPECT_EQ(written + plain, kInput);
+            } else {
+                // One failure is one report, and what came before is there.
+                EXPECT_TRUE(errors.starts_with(c.number + L" OutputTemplate.")) << testing::PrintToString(errors);
+                EXPECT_EQ(errors.find(L';'), std::wstring::npos);
+                const bool isPlain = failAt > 8;
+                EXPECT_EQ(isPlain ? written : plain, kInput);
+                const std::wstring& rest = isPlain ? plain : written;
+                const bool isReset = failAt == 9;
+                const bool isLast = failAt == kCalls;
+                EXPECT_TRUE(rest.starts_with(trouble->before) || isLast) << testing::PrintToString(rest);
+                EXPECT_EQ(rest.ends_with(L"PDT"), !isReset && !isLast && failAt != 7 && failAt != 15);
+            }
+        }
+    }
+}
+
+TEST_F(Sink, WithoutWhatItShouldHave) {
+    struct Case {
+        const wchar_t* what;
+        std::function<HRESULT(const Arguments&, VARIANT&)> clone;
+        const wchar_t* errors;
+    };
+    const auto answers = [](Variant value) {
+        return [value](const Arguments&, VARIANT& result) {
+            result = Variant(value).release();
+            return S_OK;
+        };
+    };
+    const Case cases[] = {
+        {L"no Clone", nullptr, L"438 OutputTemplate.Initialize"},
+        {L"Nothing", answers(static_cast<IDispatch*>(nullptr)), L""},
+        {L"no answer", answers(Variant()), L""},
+        {L"a text", answers(L"text"), L"13 OutputTemplate.Initialize"},
+        {L"a number", answers(5), L"13 OutputTemplate.Initialize"},
+        {L"an object without members", answers(makeObject<DispatchObject>().get()), L""},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(c.what)));
+        const auto poor = makeObject<DispatchObject>();
+        if (c.clone) poor->addMethod(L"Clone", c.clone);
+        const LateBoundObject dateTime = library.build(kDateTime, poor.get());
+        EXPECT_EQ(service.takenErrors(), c.errors);
+        dateTime.call(L"Parse", {L"June 2010"});
+        EXPECT_EQ(textOf(dateTime.call(L"toString")), L"");
+        EXPECT_NE(service.takenErrors(), L"");
+        // Nothing is lost for a sink that works, nor written to one that does not.
+        dateTime.call(L"ToFormattedString", {poor.get()});
+        EXPECT_NE(service.takenErrors(), L"");
+        dateTime.call(L"ToFormattedString", {text.get()});
+        EXPECT_EQ(text->toString(), L"June 2010");
+        EXPECT_EQ(service.takenErrors(), L"");
+        text->reset();
+    }
+    for (const std::int32_t code : {kYear, kPlace, kDateTime}) {
+        const LateBoundObject element = library.build(code);
+        EXPECT_EQ(service.takenErrors(), code == kDateTime ? L"91 OutputTemplate.Initialize" : L"");
+        element.call(L"Parse", {L"1990"});
+        element.call(L"ToFormattedString", {static_cast<IDispatch*>(nullptr)});
+        const std::wstring errors = service.takenErrors();
+        EXPECT_TRUE(errors.starts_with(L"91 OutputTemplate")) << testing::PrintToString(errors);
+        element.call(L"ToFormattedString", {text.get()});
+        EXPECT_EQ(text->toString(), L"1990");
+        text->reset();
+    }
+}
+
+TEST_F(Sink, MayLetGoOfTheElementThatWritesToIt) {
+    for (const std::int32_t code : {kYear, kPlace, kDateTime}) {
+        text->reset();
+        LateBoundObject held = library.build(code, sink.get());
+        IDispatch* const element = held.dispatch();
+        held.call(L"Parse", {code == kDateTime ? kInput : L"1990"});
+        const DISPID id = idOf(element, L"ToFormattedString");
+        trouble->atAdd = [&] { held = LateBoundObject(); };
+        EXPECT_EQ(invoke(element, id, DISPATCH_METHOD, {Variant(sink.get()).get()}, nullptr), S_OK);
+        EXPECT_FALSE(held);
+        EXPECT_EQ(text->toString(), code == kDateTime ? kInput : L"1990");
+    }
+    EXPECT_EQ(service.takenErrors(), L"");
+}
+
+TEST_F(Sink, MayCallTheElementThatWritesToIt) {
+    const LateBoundObject dateTime = library.build(kDateTime, sink.get());
+    struct Case {
+        const wchar_t* what;
+        std::function<void()> meanwhile;
+        /// A slot that is being written is finished in its own layout.
+        const wchar_t* output;
+    };
+    const Case cases[] = {
+        {L"another layout",
+         [&] {
+             dateTime.call(L"Reset", {L"yyyy", true});
+         },
+         L"May 5, 2011, 9:15 a.m. PDT)"},
+        {L"another text", [&] { dateTime.call(L"Parse", {L"1 May 2012"}); }, kInput},
+        {L"the same output", [&] { dateTime.call(L"ToFormattedString", {text.get()}); }, nullptr},
+        {L"a plain text", [&] { EXPECT_EQ(textOf(dateTime.call(L"toString")), kInput); }, kInput},
+        {L"a clone", [&] { dateTime.call(L"Clone"); }, kInput},
+        {L"a new beginning", [&] { dateTime.call(L"Initialize", {static_cast<IDispatch*>(nullptr)}); }, kInput},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(c.what)));
+        text->reset();
+        dateTime.call(L"Initialize", {sink.get()});
+        dateTime.call(L"Parse", {kInput});
+        trouble->atAdd = c.meanwhile;
+        dateTime.call(L"ToFormattedString", {sink.get()});
+        EXPECT_FALSE(trouble->atAdd);
+        EXPECT_EQ(text->toString(), c.output != nullptr ? c.output : std::wstring(kInput) + kInput);
+    }
+}
+
+}  // namespace
+}  // namespace comtests
