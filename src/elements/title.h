@@ -141,7 +141,7 @@ private:
 
     Text wholeTitle(bool shortenedVersion) const;
     bool isPart() const;
-    void addTitle(const OutputSinkRef& formattedStr, bool isPart, bool shortenedVersion) const;
+    void addTitle(const OutputSinkRef& formattedStr, TextView text, bool isPart) const;
     void addTitleImpl(const OutputSinkRef& formattedStr, TextView text, bool isPart) const;
     void UnItalicizeSpeciesAndNamesOfShips(Text& text, std::vector<titlecase::Range>& roman) const;
     void UnItalicizeSpecies(Text& text, std::vector<titlecase::Range>& roman) const;
@@ -168,7 +168,7 @@ private:
     Text mPunctuation;
     std::vector<Text> mPrematterTypes;
     std::shared_ptr<OutputTemplateAuthor> mAuthorTemplate;
-    // Set while a clone is made: `Initialize` and the clones of other parts need the host's sink.
+    // A clone of the host's sink, from which clones of the element are initialised.
     OutputSinkRef mFormattedStr;
 };
 

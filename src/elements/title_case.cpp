@@ -12,17 +12,30 @@ namespace {
 constexpr char16_t kEmDash = u'\u2014';
 constexpr char16_t kApostrophe = u'\u2019';
 
+// Most letters of titles are ASCII, which needs no look at the platform.
+bool isAsciiCapital(char16_t unit) {
+    return unit >= u'A' && unit <= u'Z';
+}
+bool isAsciiSmall(char16_t unit) {
+    return unit >= u'a' && unit <= u'z';
+}
 char16_t upper(char16_t unit) {
+    if (unit < 0x80) {
+        return isAsciiSmall(unit) ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
+    }
     return toUpper(TextView(&unit, 1)).front();
 }
 char16_t lower(char16_t unit) {
+    if (unit < 0x80) {
+        return isAsciiCapital(unit) ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
+    }
     return toLower(TextView(&unit, 1)).front();
 }
 
 /// Letters of scripts without case count, too: everything beyond Latin-1's signs that is no dash or mark.
 bool isWordUnit(char16_t unit) {
     if (unit < 0x80) {
-        return isDigit(unit) || (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
+        return isDigit(unit) || isAsciiSmall(unit) || isAsciiCapital(unit);
     }
     if (unit < 0xC0) {
         return false;
@@ -278,10 +291,18 @@ std::vector<Range> partsOf(TextView text, Range word) {
 }
 
 bool standsInHeadingCase(TextView title) {
+    return standsInHeadingCase(title, wordsOf(title));
+}
+
+bool standsInHeadingCase(TextView title, const std::vector<Word>& words) {
     int capitals = 0;
     int smalls = 0;
-    for (const Word& word : wordsOf(title)) {
-        const TextView first = slice(title, partsOf(title, word.core).front());
+    for (const Word& word : words) {
+        std::size_t end = word.core.begin;
+        while (end < word.core.end && !isPartBreak(title[end])) {
+            ++end;
+        }
+        const TextView first = slice(title, {word.core.begin, end});
         if (word.isFirst || first.size() < 2 || hasOwnCase(first) || titlewords::isFunctionWord(toLower(first))) {
             continue;
         }
@@ -336,7 +357,7 @@ CasedTitle casedTitle(TextView title, const Rules& rules) {
     CasedTitle result;
     result.text = title;
     const std::vector<Word> words = wordsOf(title);
-    if (rules.isHeading || standsInHeadingCase(title)) {
+    if (rules.isHeading || standsInHeadingCase(title, words)) {
         for (const std::span<const Word> piece : pieces(words)) {
             applyPiece(result.text, piece, capitalizesFirstWord(piece.front(), rules), rules);
         }

@@ -64,6 +64,9 @@ std::vector<Range> piecesOf(TextView title);
 /// The words of all pieces.
 std::vector<Word> wordsOf(TextView title);
 
+/// The same for a title whose words are known.
+bool standsInHeadingCase(TextView title, const std::vector<Word>& words);
+
 /// The parts of a word between hyphens, dashes and slashes.
 std::vector<Range> partsOf(TextView text, Range word);
 

@@ -54,49 +54,40 @@ constexpr TextView kAfterArticleInEnglish[] = {u"angeles", u"vegas",    u"niño"
 
 template <std::size_t N>
 bool isOneOf(TextView word, const TextView (&words)[N]) {
+    // No list holds a longer word.
+    constexpr std::size_t kLongest = 9;
+    if (word.size() > kLongest) {
+        return false;
+    }
     return std::find(std::begin(words), std::end(words), word) != std::end(words);
 }
 
-}  // namespace
-
-bool hasForeignSpelling(TextView title) {
-    const Text lowered = toLower(title);
+bool hasForeignSpellingIn(TextView lowered) {
     return std::any_of(std::begin(kForeignSpellings), std::end(kForeignSpellings),
                        [&](TextView spelling) { return contains(lowered, spelling); });
 }
 
-bool isOld(TextView title) {
-    if (hasForeignSpelling(title)) {
-        return true;
-    }
-    const Text lowered = toLower(title);
-    const std::vector<titlecase::Word> words = titlecase::wordsOf(lowered);
+bool hasOldWord(TextView lowered, const std::vector<titlecase::Word>& words) {
     return std::any_of(words.begin(), words.end(), [&](const titlecase::Word& word) {
-        return isOneOf(TextView(lowered).substr(word.core.begin, word.core.end - word.core.begin), kOldWords);
+        return isOneOf(lowered.substr(word.core.begin, word.core.end - word.core.begin), kOldWords);
     });
 }
 
-bool isEnglish(TextView title) {
-    if (hasForeignSpelling(title)) {
-        return false;
-    }
-    const Text lowered = toLower(title);
-    const std::vector<titlecase::Word> words = titlecase::wordsOf(lowered);
+bool readsAsEnglish(TextView title, TextView lowered, const std::vector<titlecase::Word>& words) {
     int english = 0;
     int foreign = 0;
     int particles = 0;
-    const bool hasAccents = std::any_of(title.begin(), title.end(),
-                                        [](char16_t unit) { return unit >= 0xC0 && unit < 0x250; });
+    const bool hasAccents =
+        std::any_of(title.begin(), title.end(), [](char16_t unit) { return unit >= 0xC0 && unit < 0x250; });
     for (std::size_t i = 0; i < words.size(); ++i) {
         const titlecase::Range core = words[i].core;
-        const TextView word = TextView(lowered).substr(core.begin, core.end - core.begin);
+        const TextView word = lowered.substr(core.begin, core.end - core.begin);
         const bool isTyped = title.substr(core.begin, core.end - core.begin) == word;
         if (isOneOf(word, kEnglishWords) || titlecase::isPossessive(word)) {
             ++english;
         } else if (i == 0 && words.size() > 1 && isOneOf(word, kFirstArticles)) {
             const titlecase::Range next = words[1].core;
-            foreign +=
-                isOneOf(TextView(lowered).substr(next.begin, next.end - next.begin), kAfterArticleInEnglish) ? 0 : 1;
+            foreign += isOneOf(lowered.substr(next.begin, next.end - next.begin), kAfterArticleInEnglish) ? 0 : 1;
         } else if (isOneOf(word, kNameParticles)) {
             particles += isTyped || i == 0 ? 1 : 0;
         } else if (isOneOf(word, kForeignWords) && isTyped) {
@@ -107,6 +98,28 @@ bool isEnglish(TextView title) {
         return foreign <= english;
     }
     return foreign == 0 && particles < 2 && (particles == 0 || !hasAccents);
+}
+
+}  // namespace
+
+bool hasForeignSpelling(TextView title) {
+    return hasForeignSpellingIn(toLower(title));
+}
+
+bool isOld(TextView title) {
+    const Text lowered = toLower(title);
+    return hasForeignSpellingIn(lowered) || hasOldWord(lowered, titlecase::wordsOf(title));
+}
+
+bool isEnglish(TextView title) {
+    const Text lowered = toLower(title);
+    return !hasForeignSpellingIn(lowered) && readsAsEnglish(title, lowered, titlecase::wordsOf(title));
+}
+
+bool isRecased(TextView title, const std::vector<titlecase::Word>& words) {
+    const Text lowered = toLower(title);
+    return !isPreformatted(title) && !hasForeignSpellingIn(lowered) && !hasOldWord(lowered, words) &&
+           readsAsEnglish(title, lowered, words);
 }
 
 bool isPreformatted(TextView title) {

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <vector>
+
 #include "core/text.h"
+#include "elements/title_case.h"
 
 /// In which language and spelling a title stands: English capitalisation is for English titles alone.
 namespace quorvel::titlelanguage {
@@ -14,5 +17,8 @@ bool isOld(TextView title);
 bool isEnglish(TextView title);
 /// Its letters stay as typed: an address, or no small letter at all ("JAMA").
 bool isPreformatted(TextView title);
+
+/// Whether a title may be recased at all: English, in no old spelling, and not preformatted.
+bool isRecased(TextView title, const std::vector<titlecase::Word>& words);
 
 }  // namespace quorvel::titlelanguage

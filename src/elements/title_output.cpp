@@ -96,12 +96,13 @@ Text OutputTemplateTitle::CapitalizationRule() const {
 Text OutputTemplateTitle::formatRule(TextView text) const {
     return procedure(*this, u"OutputTemplateTitle.formatRule", {{u"text", text}}, [&] {
         Text result(text);
-        if (isPreformattedTitle(text) || !isEnglishTitle(text) || isOldTitle(text) ||
-            (mSentenceCapitalization && !titlecase::standsInHeadingCase(text))) {
-            return result;
-        }
         const titlecase::Rules inForce = rules();
         const std::vector<Word> words = titlecase::wordsOf(text);
+        const bool isChanged =
+            titlelanguage::isRecased(text, words) && (inForce.isHeading || titlecase::standsInHeadingCase(text, words));
+        if (!isChanged) {
+            return result;
+        }
         for (const std::span<const Word> piece : titlecase::pieces(words)) {
             formatRuleImpl(result, piece, titlecase::capitalizesFirstWord(piece.front(), inForce), inForce.isHeading);
         }
@@ -230,7 +231,7 @@ bool OutputTemplateTitle::ToFormattedStringImpl(bool isFootnote, std::vector<Tex
             }
             // A copy: the host may ask for a new layout while it is written to.
             const OutputSinkRef fragment = formattedItems.at(kTitleSlot);
-            addTitle(fragment, isPart(), shortenedVersion);
+            addTitle(fragment, title, isPart());
             return false;
         });
 }
@@ -248,10 +249,10 @@ void OutputTemplateTitle::movePunctuation(std::vector<Text>& items, TextView tit
     });
 }
 
-void OutputTemplateTitle::addTitle(const OutputSinkRef& formattedStr, bool isPart, bool shortenedVersion) const {
+void OutputTemplateTitle::addTitle(const OutputSinkRef& formattedStr, TextView text, bool isPart) const {
     procedure(*this, u"OutputTemplateTitle.addTitle",
-              {{u"formattedStr", formattedStr}, {u"isPart", isPart}, {u"shortenedVersion", shortenedVersion}},
-              [&] { addTitleImpl(formattedStr, wholeTitle(shortenedVersion), isPart); });
+              {{u"formattedStr", formattedStr}, {u"text", text}, {u"isPart", isPart}},
+              [&] { addTitleImpl(formattedStr, text, isPart); });
 }
 
 void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, TextView text, bool isPart) const {

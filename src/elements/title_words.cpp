@@ -130,13 +130,15 @@ public:
         while (!words.empty()) {
             const std::size_t end = std::min(words.find(u' '), words.size());
             mWords.insert(words.substr(0, end));
+            mLongest = std::max(mLongest, end);
             words.remove_prefix(std::min(end + 1, words.size()));
         }
     }
-    bool holds(TextView word) const { return mWords.contains(word); }
+    bool holds(TextView word) const { return word.size() <= mLongest && mWords.contains(word); }
 
 private:
     std::unordered_set<TextView> mWords;
+    std::size_t mLongest = 0;
 };
 
 WordSet setOf(const titlenames::WordList* lists, std::size_t count) {

@@ -31,6 +31,7 @@ struct CreatableClass {
 
 // Every coclass of the type library.
 // clang-format off: one row a line
+// clang-format off: one class a line
 const CreatableClass kCreatableClasses[] = {
     {CLSID_Main2, make<quorvel::host::Main2>},
     {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
@@ -41,6 +42,9 @@ const CreatableClass kCreatableClasses[] = {
     {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
     {CLSID_OutputTemplatePage, make<PageAdapter>},
     {CLSID_OutputTemplateKeywords, make<KeywordsAdapter>},
+    {CLSID_OutputTemplateYear, make<YearAdapter>},
+    {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
+    {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
 };
 // clang-format on
 

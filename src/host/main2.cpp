@@ -27,6 +27,7 @@ struct ElementClass {
 
 // The element type codes and their classes. A code without a row makes nothing.
 // clang-format off: one row a line
+// clang-format off: one code a line
 constexpr ElementClass kElementClasses[] = {
     {0, make<AuthorAdapter>},
     {9, make<AuthorAdapter>},
@@ -38,6 +39,7 @@ constexpr ElementClass kElementClasses[] = {
     {14, make<KeywordsAdapter>},
     {17, make<DateTimeAdapter>},
     {7, make<PageAdapter>},
+    {17, make<DateTimeAdapter>},
     {6, make<YearAdapter>},
 };
 // clang-format on
