@@ -79,7 +79,7 @@ Variant LateBoundObject::invoke(const wchar_t* member, WORD flags, const Variant
 
 Variant LateBoundObject::invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const {
     const ComPtr<IDispatch> keepAlive = mObject;
-    std::array<VARIANTARG, kMostArguments> reversed;
+    std::array<VARIANTARG, kMostArguments> reversed{};
     // Copied without taking over: the callee may change an argument only through a reference.
     std::reverse_copy(arguments, arguments + count, reversed.begin());
     DISPPARAMS parameters = {reversed.data(), nullptr, static_cast<UINT>(count), 0};
