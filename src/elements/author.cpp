@@ -45,6 +45,7 @@ void OutputTemplateAuthor::Initialize(const OutputSinkRef& formattedStr) {
         mChapterTypes = texts({u"Afterword.", u"Foreword.", u"Introduction.", u"Preface."});
         mOutputTemplate = std::make_shared<outputTemplate>();
         mLaidOut.clear();
+        layOut();
         mYearTemplate = std::make_shared<OutputTemplateYear>();
         mYearTemplate->Initialize(nullptr);
         ClearAuthors();

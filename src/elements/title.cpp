@@ -25,9 +25,9 @@ void OutputTemplateTitle::Initialize(const OutputSinkRef& formattedStr) {
     procedure(*this, u"OutputTemplateTitle.Initialize", {{u"formattedStr", formattedStr}}, [&] {
         mPrematterTypes = titletypes::prematterTypes();
         mOutputTemplate = std::make_shared<outputTemplate>();
+        layOut();
         mFormattedStr = object(formattedStr).Clone();
         mOutputTemplate->Initialize(formattedStr);
-        layOut();
     });
 }
 

@@ -42,9 +42,6 @@ const CreatableClass kCreatableClasses[] = {
     {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
     {CLSID_OutputTemplatePage, make<PageAdapter>},
     {CLSID_OutputTemplateKeywords, make<KeywordsAdapter>},
-    {CLSID_OutputTemplateYear, make<YearAdapter>},
-    {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
-    {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
 };
 // clang-format on
 

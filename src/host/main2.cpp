@@ -39,7 +39,6 @@ constexpr ElementClass kElementClasses[] = {
     {14, make<KeywordsAdapter>},
     {17, make<DateTimeAdapter>},
     {7, make<PageAdapter>},
-    {17, make<DateTimeAdapter>},
     {6, make<YearAdapter>},
 };
 // clang-format on

@@ -58,7 +58,6 @@ TEST_F(Factory, BuildTakesItsCodeInAnyForm) {
     const Variant sinks[] = {sink.get(),
                              static_cast<IDispatch*>(nullptr),
                              Variant(),
-                             Variant::missing(),
                              referenceTo(VT_DISPATCH, &object.get().pdispVal),
                              referenceTo(VT_VARIANT, &object.get()),
                              referenceTo(VT_VARIANT, &nothing.get())};

@@ -16,7 +16,12 @@ Function entryPoint(HMODULE module, const char* name) {
 
 const std::vector<CreatableClass> kClasses = {
     {L"Main2", __uuidof(::Main2), __uuidof(_Main2), {}},
+    {L"OutputTemplateAuthor", __uuidof(::OutputTemplateAuthor), __uuidof(_OutputTemplateAuthor), {0, 9}},
+    {L"OutputTemplateTitle", __uuidof(::OutputTemplateTitle), __uuidof(_OutputTemplateTitle), {1, 2, 3}},
+    {L"OutputTemplatePublisher", __uuidof(::OutputTemplatePublisher), __uuidof(_OutputTemplatePublisher), {5}},
     {L"OutputTemplateYear", __uuidof(::OutputTemplateYear), __uuidof(_OutputTemplateYear), {kYear}},
+    {L"OutputTemplatePage", __uuidof(::OutputTemplatePage), __uuidof(_OutputTemplatePage), {7}},
+    {L"OutputTemplateKeywords", __uuidof(::OutputTemplateKeywords), __uuidof(_OutputTemplateKeywords), {14}},
     {L"OutputTemplatePlace", __uuidof(::OutputTemplatePlace), __uuidof(_OutputTemplatePlace), {kPlace}},
     {L"OutputTemplateDateTime", __uuidof(::OutputTemplateDateTime), __uuidof(_OutputTemplateDateTime), {kDateTime}},
 };
