@@ -82,7 +82,8 @@ std::optional<LocatorWord> locatorWord(TextView text) {
         return std::nullopt;
     }
     const std::size_t end = text.find_first_of(kEndsOfWord);
-    if (end == TextView::npos || end > kLongestWord + 1) {
+    // Also when there is no end.
+    if (end > kLongestWord + 1) {
         return std::nullopt;
     }
     TextView word = text.substr(0, end);

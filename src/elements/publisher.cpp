@@ -153,6 +153,7 @@ Text OutputTemplatePublisher::toString(bool isFootnote, bool shortenedVersion) {
 bool OutputTemplatePublisher::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
                                                     std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
     std::vector<TraceValue::Object> fragments;
+    fragments.reserve(formattedItems.size());
     for (const OutputSinkRef& item : formattedItems) {
         fragments.push_back(item.get());
     }
