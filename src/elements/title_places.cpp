@@ -131,6 +131,37 @@ const WordList kPlaces[] = {
      u"Sikhism Sufi Sufism Sunni Talmud Talmudic Tantra Tantric Tao Taoism Taoist Theravada Torah Upanishads Vedanta "
      u"Vedas "
      u"Vedic Vishnu Krishna Vulgate Wahhabi Wicca Yahweh Yom Zen Zionism Zionist Zionists Zoroastrianism Vodou Voodoo"},
+    // More cities, regions and waters.
+    {u"Abidjan Addis Acapulco Adelaide Alaskan Albany Albuquerque Anchorage Appalachicola Arles Asunción Astana Baku "
+     u"Bamako "
+     u"Bangalore Bengaluru Bilbao Bordeaux Brasília Brazzaville Bruges Burgos Cádiz Calais Camelot Cannes "
+     u"Canton Cardiff Cartagena Catskills Ceylon Charleston Charlottesville Chesapeake Chittagong Christchurch "
+     u"Columbus Colombo Conakry Cumberland Cumberlands Cusco Cuzco Dakar Dayton Delaware Delft Derry Dijon Dnieper "
+     u"Dordogne Dortmund Duluth Düsseldorf Elba Erie Estremadura Everglades Exeter Fallujah Ferguson Fez "
+     u"Freetown Galway Gaul Ghent Gibraltar Giza Goa Göttingen Grasmere Grenoble Guadalajara Guangdong Guangzhou "
+     u"Hainan "
+     u"Halifax Harare Hastings Hawaiian Hebrides Henan Hindustan Honolulu Hubei Huddersfield Ibiza Ithaca Jakarta "
+     u"Jaffa "
+     u"Jutland Kampala Kandahar Karelia Khartoum Kigali Kingston Kinshasa Kolkata Korean Kosovar Kraków Krakow Lapland "
+     u"Leeds "
+     u"Leicester Lhasa Limerick Lodz Lublin Lucerne Luanda Lviv Macau Macao Maputo Maracaibo Medellín Meuse Monrovia "
+     u"Monterrey Montevideo Mosul Mysore Nantes Nantucket Nevis Newark Niagara Nicosia Norfolk Northumberland Novgorod "
+     u"Oahu "
+     u"Odessa Okavango Olduvai Omaha Orkney Orléans Osaka Oudh Oxfordshire Palestinian Pampas Papua Peking Perth "
+     u"Piraeus "
+     u"Pitcairn Pondicherry Portsmouth Potomac Potsdam Poznan Punjabis Pyongyang Quito Rajasthan Rangoon Reims Riga "
+     u"Riyadh Roanoke Rochester Rhône Runnymede Ruhr Salvador Sana'a Sapporo Savannah Savoy Scythia Serengeti "
+     u"Sevastopol "
+     u"Shenzhen Shetland Sichuan Siena Skopje Somerset Somme Strathclyde Staffordshire Swansea Tabriz Tahiti Tallinn "
+     u"Tashkent Tbilisi Tenochtitlan Thebes Thessaly Thrace Tianjin Tigray Tijuana Tirana Toulon Trenton Tucson Tulsa "
+     u"Tunis "
+     u"Tyrol Umbria Uppsala Ur Valencia Valparaíso Veracruz Vladivostok Walden Warwick Wessex Westphalia Wuhan Yangon "
+     u"Ypres "
+     u"Yucatán Yucatan Yunnan Zanzibari Bohemian Silesian Kazakh Kyrgyz Turkmen Tajik Romanies Rohingya Tibetan Yemeni "
+     u"Cossack Cossacks Huron Delawares Mohegan Pequot Powhatan Sioux Cree Chickasaw Osage Pawnee Blackfoot Ute "
+     u"Negro Negroes Afrocentric Eurocentric Eurocentrism Eurozone Swazi Sotho Tonga Igbos Hittite Hittites Phoenician "
+     u"Phoenicians Minoan Minoans Mycenaean Philistine Canaanite Canaan Sumerian Amorite Visigoth Visigoths Goth Goths "
+     u"Lombard Lombards Hun Huns Pict Picts Galician"},
 };
 const std::size_t kPlacesCount = std::size(kPlaces);
 

@@ -70,6 +70,12 @@ bool hasSurnameEnding(TextView lowered) {
         u"risky",      u"frisky",   u"whisky",     u"salesperson", u"spokesperson", u"chairperson", u"layperson",
         u"mason",      u"jettison", u"unworth",    u"noteworth",   u"oxbow",        u"caisson",     u"alumni",
         u"mini",       u"bison",    u"trustworth", u"sartorius",   u"fettucini"};
+    // "Kolkata" cannot be told from "data", but "Palermo", "Nagasaki" and "Honolulu" look foreign.
+    const char16_t last = lowered.empty() ? u' ' : lowered.back();
+    if (lowered.size() >= 4 && (last == u'o' || last == u'i' || last == u'u') &&
+        !titlewords::isCommonInVowel(lowered)) {
+        return true;
+    }
     if (lowered.size() < 6 || std::find(std::begin(kCommon), std::end(kCommon), lowered) != std::end(kCommon)) {
         return false;
     }
@@ -107,6 +113,7 @@ public:
 
     void run() {
         findPhrases();
+        findOrganizations();
         for (std::size_t i = 0; i < mWords.size(); ++i) {
             mKept[i] = mKept[i] || isName(i);
         }
@@ -172,6 +179,23 @@ private:
             mIsPhrase[i + k] = mIsPhrase[i + k] || capitals[k];
         }
         return true;
+    }
+
+    /// "American Heart Association", back from its last word.
+    void findOrganizations() {
+        constexpr std::size_t kLongest = 5;
+        for (std::size_t i = 1; i < mWords.size(); ++i) {
+            if (!titlewords::isOrganizationTail(word(i))) {
+                continue;
+            }
+            for (std::size_t k = i; k > 0 && i - k < kLongest && !neighbourBefore(k).empty(); --k) {
+                if (titlewords::isOrganizationLead(word(k - 1))) {
+                    std::fill(mKept.begin() + static_cast<std::ptrdiff_t>(k) - 1,
+                              mKept.begin() + static_cast<std::ptrdiff_t>(i) + 1, true);
+                    break;
+                }
+            }
+        }
     }
 
     bool isName(std::size_t i) const {
@@ -257,7 +281,8 @@ private:
     }
 
     static bool isPossessiveOfName(TextView lowered) {
-        const bool isAgent = endsWithAny(lowered, {u"er", u"or", u"ist", u"ian", u"ing", u"ess", u"tion"});
+        const bool isAgent =
+            endsWithAny(lowered, {u"er", u"or", u"ist", u"ian", u"ing", u"ess", u"tion", u"ent", u"ant"});
         return !isAgent && !titlewords::isCommonPossessor(lowered);
     }
 

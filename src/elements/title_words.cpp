@@ -72,6 +72,38 @@ constexpr TextView kLetterTakers =
     u"schedule "
     u"section vitamins cyclosporin haemophilia hemophilia immunoglobulin";
 
+constexpr TextView kOrganizationLeads =
+    u"American National International Royal European British Canadian World Australian U.S";
+constexpr TextView kOrganizationTails =
+    u"Association Society Institute Academy Council Agency Organization Federation Union League Commission Bureau "
+    u"Congress";
+
+constexpr TextView kCommonInVowel =
+    u"placebo studio radio video audio photo ratio portfolio scenario embryo libido casino vitro vivo novo ego zero "
+    u"hero echo "
+    u"memo motto potato tomato tempo piano cello alibi alkali fungi stimuli foci nuclei alumni bacilli taxi menu tofu "
+    u"emu guru "
+    u"haiku auto banjo bamboo bravo buffalo calico cargo cello combo commando concerto condo credo crescendo curio "
+    u"demo dildo "
+    u"disco ditto domino dynamo embargo espresso euro fiasco folio ghetto gigolo gringo gusto halo hello inferno info "
+    u"jumbo "
+    u"kangaroo kilo lasso libretto limbo lingo logo macro maestro mango manifesto memento micro mosquito mulatto nano "
+    u"neo "
+    u"nitro octavo oratorio paparazzi peso pianissimo pinto polio pomo porno presto pro proviso pseudo pueblo ratio "
+    u"rodeo "
+    u"rhino shampoo solo soprano stereo stiletto stucco taboo tattoo tango tornado torpedo torso trio turbo tuxedo two "
+    u"typo "
+    u"undergo veto vertigo virago virtuoso volcano volvo voodoo who whoso yo-yo ago also do go no so to too into onto "
+    u"cuckoo "
+    u"hi ski quasi semi anti multi bi tri cacti loci radii syllabi termini hippocampi gyri sulci moduli magi literati "
+    u"glitterati graffiti confetti spaghetti broccoli salami tsunami safari sushi kiwi chili yeti corgi okapi octopi "
+    u"wasabi "
+    u"thou you flu ecu tutu impromptu parvenu milieu adieu bayou caribou tiramisu desperado avocado bravado aficionado "
+    u"stucco "
+    u"lumbago indigo archipelago ego amigo allegro intaglio seraglio imbroglio pistachio braggadocio staccato vibrato "
+    u"legato "
+    u"castrato moderato esperanto pimento quarto sexto duo cameo mikado tobacco fresco alto contralto falsetto";
+
 constexpr TextView kCommonInNameSuffix =
     u"academician aesthetician agrarian alien amphibian antiquarian apian arcadian artesian authoritarian avian "
     u"barbarian "
@@ -103,7 +135,8 @@ constexpr TextView kCommonPossessors =
     u"life "
     u"lion listener liver lover magician maker maiden maid man manager marketer master matter men midsummer midwife "
     u"mind mistress moment monkey month moon morning mother mouse musician nation nature navigator neighbor neighbour "
-    u"night nobody novel novelist nurse observer ocean one organization other outsider owner painter parent patient "
+    u"night nobody novel novelist nurse observer ocean omnivore carnivore one organization other outsider owner "
+    u"painter parent patient "
     u"people "
     u"person philosopher physician pilgrim pilot player poet politician practitioner president prince prisoner "
     u"professor "
@@ -223,6 +256,21 @@ bool isInstitutionTail(TextView word) {
 
 bool isOfLead(TextView word) {
     static const WordSet set(kOfLeads);
+    return set.holds(word);
+}
+
+bool isOrganizationLead(TextView word) {
+    static const WordSet set(kOrganizationLeads);
+    return set.holds(word);
+}
+
+bool isOrganizationTail(TextView word) {
+    static const WordSet set(kOrganizationTails);
+    return set.holds(word);
+}
+
+bool isCommonInVowel(TextView word) {
+    static const WordSet set(kCommonInVowel);
     return set.holds(word);
 }
 

@@ -32,6 +32,11 @@ bool isTitleOfPerson(TextView word);
 bool isInstitutionTail(TextView word);
 /// First parts of names with "of": "Battle of Hastings".
 bool isOfLead(TextView word);
+/// First and last words of the names of organisations: "American Heart Association".
+bool isOrganizationLead(TextView word);
+bool isOrganizationTail(TextView word);
+/// Common words in -o, -i and -u, which most words with such an ending are not.
+bool isCommonInVowel(TextView word);
 /// "North", "Eastern", "Central".
 bool isDirection(TextView word);
 /// What carries a letter as a grade or kind, so that "A" behind it is no article: "vitamin".
