@@ -30,7 +30,7 @@ struct CreatableClass {
 };
 
 // Every coclass of the type library.
-// clang-format off: one row a line
+// clang-format off
 // clang-format off: one class a line
 const CreatableClass kCreatableClasses[] = {
     {CLSID_Main2, make<quorvel::host::Main2>},

@@ -26,7 +26,7 @@ struct ElementClass {
 };
 
 // The element type codes and their classes. A code without a row makes nothing.
-// clang-format off: one row a line
+// clang-format off
 // clang-format off: one code a line
 constexpr ElementClass kElementClasses[] = {
     {0, make<AuthorAdapter>},
