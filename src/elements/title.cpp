@@ -11,9 +11,6 @@
 
 namespace quorvel {
 
-using titlecase::Range;
-using titlecase::Word;
-
 namespace {
 
 constexpr TextView kSubtitleSeparator = u": ";

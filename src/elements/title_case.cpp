@@ -146,11 +146,10 @@ void applyHeading(Text& text, std::span<const Word> words, std::size_t index, bo
     if (!hasOwnCase(first) && !isGreek) {
         // One test is on the word as it stands, deliberately: a capital "A" is no article.
         const bool isSmall = titlewords::isSmallWord(lowered) && first != u"A" && (!isCompound || isSlash);
-        if (isSmall && !isEnd) {
-            lowerAt(text, parts.front().begin);
-        } else if (isFirst || !(isLetter || staysInHeading(text, words, index))) {
+        const bool isLowered = isSmall && !isEnd;
+        if (!isLowered && (isFirst || !(isLetter || staysInHeading(text, words, index)))) {
             capitalizeAt(text, parts.front().begin);
-        } else if (titlewords::isSpeciesEpithet(lowered)) {
+        } else if (isLowered || titlewords::isSpeciesEpithet(lowered)) {
             lowerAt(text, parts.front().begin);
         }
     }

@@ -84,7 +84,8 @@ bool hasSurnameEnding(TextView lowered) {
 }
 
 /// Known by itself, as a plural, or as what its ending was put to: "Kantianism", "Darwinists".
-bool isProperName(TextView word) {
+/// @param lowered the word in lower case
+bool isProperName(TextView word, TextView lowered) {
     if (isKnown(word)) {
         return true;
     }
@@ -98,7 +99,7 @@ bool isProperName(TextView word) {
             }
         }
     }
-    return hasNameSuffix(toLower(stem)) || hasSurnameEnding(toLower(word));
+    return hasNameSuffix(lowered.substr(0, stem.size())) || hasSurnameEnding(lowered);
 }
 
 class SentenceCase {
@@ -109,7 +110,12 @@ public:
           mCapitalizeFirstWord(capitalizeFirstWord),
           mRules(rules),
           mKept(words.size(), false),
-          mIsPhrase(words.size(), false) {}
+          mIsPhrase(words.size(), false) {
+        mLowered.reserve(words.size());
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            mLowered.push_back(toLower(wholeName(i)));
+        }
+    }
 
     void run() {
         findPhrases();
@@ -143,11 +149,11 @@ private:
     bool hasStopBehind(std::size_t i) const {
         return mWords[i].core.end < mText.size() && mText[mWords[i].core.end] == u'.';
     }
-    bool isFunction(std::size_t i) const { return titlewords::isFunctionWord(toLower(word(i))); }
+    bool isFunction(std::size_t i) const { return titlewords::isFunctionWord(mLowered[i]); }
 
     void findPhrases() {
         for (std::size_t i = 0; i < mWords.size(); ++i) {
-            for (const titlewords::Phrase& phrase : titlewords::phrasesFrom(toLower(wholeName(i)))) {
+            for (const titlewords::Phrase& phrase : titlewords::phrasesFrom(mLowered[i])) {
                 if (i + phrase.words <= mWords.size() && standsAt(phrase, i)) {
                     break;
                 }
@@ -200,12 +206,12 @@ private:
 
     bool isName(std::size_t i) const {
         const TextView whole = wholeName(i);
-        const Text lowered = toLower(whole);
+        const Text& lowered = mLowered[i];
         const TextView previous = neighbourBefore(i);
         if (whole.size() == 1) {
             return isSingleLetterKept(i, whole, previous);
         }
-        if (isProperName(whole)) {
+        if (isProperName(whole, lowered)) {
             return true;
         }
         if (isMonth(i, whole, previous)) {
@@ -231,7 +237,7 @@ private:
             if (titlewords::isNameLead(previous) && isCapital(previous[0])) {
                 return true;
             }
-            const bool isAfterName = mKept[i - 1] || (mWords[i - 1].isFirst && isProperName(previous));
+            const bool isAfterName = mKept[i - 1] || (mWords[i - 1].isFirst && isProperName(previous, toLower(previous)));
             if (isAfterName && titlewords::isNameTail(whole)) {
                 return true;
             }
@@ -341,14 +347,17 @@ private:
     /// A part of a hyphenated word: by itself it has no neighbours.
     static bool isPartKept(TextView part, bool isPhrase) {
         const TextView whole = withoutPossessive(part);
-        return isPhrase || (whole.size() == 1 && whole != u"A") || (whole.size() > 1 && isProperName(whole)) ||
-               hasForeignLetter(toLower(whole));
+        const Text lowered = toLower(whole);
+        return isPhrase || (whole.size() == 1 && whole != u"A") || (whole.size() > 1 && isProperName(whole, lowered)) ||
+               hasForeignLetter(lowered);
     }
 
     Text& mText;
     std::span<const Word> mWords;
     bool mCapitalizeFirstWord;
     const Rules& mRules;
+    // The words without their possessive.
+    std::vector<Text> mLowered;
     std::vector<bool> mKept;
     // Part of a known name of several words, hyphens and all.
     std::vector<bool> mIsPhrase;
