@@ -237,7 +237,8 @@ private:
             if (titlewords::isNameLead(previous) && isCapital(previous[0])) {
                 return true;
             }
-            const bool isAfterName = mKept[i - 1] || (mWords[i - 1].isFirst && isProperName(previous, toLower(previous)));
+            const bool isAfterName =
+                mKept[i - 1] || (mWords[i - 1].isFirst && isProperName(previous, toLower(previous)));
             if (isAfterName && titlewords::isNameTail(whole)) {
                 return true;
             }
