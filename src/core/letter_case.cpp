@@ -39,6 +39,10 @@ bool equalsIgnoringCase(TextView left, TextView right) {
                       [](char16_t a, char16_t b) { return a == b || lowerOf(a) == lowerOf(b); });
 }
 
+bool startsWithIgnoringCase(TextView text, TextView prefix) {
+    return equalsIgnoringCase(text.substr(0, prefix.size()), prefix);
+}
+
 bool isCasedLetter(char16_t unit) {
     return upperOf(unit) != unit || lowerOf(unit) != unit;
 }

@@ -25,6 +25,7 @@ Text toUpper(TextView text);
 Text toLower(TextView text);
 /// Equal but for letter case.
 bool equalsIgnoringCase(TextView left, TextView right);
+bool startsWithIgnoringCase(TextView text, TextView prefix);
 /// True for a letter that has an upper and a lower case form and for no other character.
 bool isCasedLetter(char16_t unit);
 

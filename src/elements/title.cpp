@@ -173,7 +173,7 @@ void OutputTemplateTitle::parseAndRemovePrematter(Text& text, TextView secondary
                   }
                   Text type;
                   for (const Text& name : mPrematterTypes) {
-                      type = startsWith(toLower(text), toLower(name)) ? name : type;
+                      type = startsWithIgnoringCase(text, name) ? name : type;
                   }
                   bool isFound = titletypes::isPrematter(secondaryStr);
                   if (!type.empty()) {

@@ -4,6 +4,7 @@
 
 #include "core/letter_case.h"
 #include "elements/title_case.h"
+#include "elements/word_set.h"
 
 namespace quorvel::titlelanguage {
 
@@ -52,14 +53,34 @@ constexpr TextView kAfterArticleInEnglish[] = {u"angeles", u"vegas",    u"niño"
                                                u"jolla",   u"salvador", u"paso",     u"mancha", u"alamos",
                                                u"guin",    u"carré",    u"corbusier"};
 
-template <std::size_t N>
-bool isOneOf(TextView word, const TextView (&words)[N]) {
-    // No list holds a longer word.
-    constexpr std::size_t kLongest = 9;
-    if (word.size() > kLongest) {
-        return false;
-    }
-    return std::find(std::begin(words), std::end(words), word) != std::end(words);
+bool isAfterArticleInEnglish(TextView word) {
+    static const WordSet set(kAfterArticleInEnglish);
+    return set.holds(word);
+}
+
+bool isEnglishWord(TextView word) {
+    static const WordSet set(kEnglishWords);
+    return set.holds(word);
+}
+
+bool isFirstArticle(TextView word) {
+    static const WordSet set(kFirstArticles);
+    return set.holds(word);
+}
+
+bool isForeignWord(TextView word) {
+    static const WordSet set(kForeignWords);
+    return set.holds(word);
+}
+
+bool isNameParticle(TextView word) {
+    static const WordSet set(kNameParticles);
+    return set.holds(word);
+}
+
+bool isOldWord(TextView word) {
+    static const WordSet set(kOldWords);
+    return set.holds(word);
 }
 
 bool hasForeignSpellingIn(TextView lowered) {
@@ -69,7 +90,7 @@ bool hasForeignSpellingIn(TextView lowered) {
 
 bool hasOldWord(TextView lowered, const std::vector<titlecase::Word>& words) {
     return std::any_of(words.begin(), words.end(), [&](const titlecase::Word& word) {
-        return isOneOf(lowered.substr(word.core.begin, word.core.end - word.core.begin), kOldWords);
+        return isOldWord(lowered.substr(word.core.begin, word.core.end - word.core.begin));
     });
 }
 
@@ -83,14 +104,14 @@ bool readsAsEnglish(TextView title, TextView lowered, const std::vector<titlecas
         const titlecase::Range core = words[i].core;
         const TextView word = lowered.substr(core.begin, core.end - core.begin);
         const bool isTyped = title.substr(core.begin, core.end - core.begin) == word;
-        if (isOneOf(word, kEnglishWords) || titlecase::isPossessive(word)) {
+        if (isEnglishWord(word) || titlecase::isPossessive(word)) {
             ++english;
-        } else if (i == 0 && words.size() > 1 && isOneOf(word, kFirstArticles)) {
+        } else if (i == 0 && words.size() > 1 && isFirstArticle(word)) {
             const titlecase::Range next = words[1].core;
-            foreign += isOneOf(lowered.substr(next.begin, next.end - next.begin), kAfterArticleInEnglish) ? 0 : 1;
-        } else if (isOneOf(word, kNameParticles)) {
+            foreign += isAfterArticleInEnglish(lowered.substr(next.begin, next.end - next.begin)) ? 0 : 1;
+        } else if (isNameParticle(word)) {
             particles += isTyped || i == 0 ? 1 : 0;
-        } else if (isOneOf(word, kForeignWords) && isTyped) {
+        } else if (isForeignWord(word) && isTyped) {
             ++foreign;
         }
     }
@@ -123,9 +144,8 @@ bool isRecased(TextView title, const std::vector<titlecase::Word>& words) {
 }
 
 bool isPreformatted(TextView title) {
-    const Text lowered = toLower(title);
     const bool isAddress = std::any_of(std::begin(kAddressStarts), std::end(kAddressStarts),
-                                       [&](TextView start) { return startsWith(lowered, start); });
+                                       [&](TextView start) { return startsWithIgnoringCase(title, start); });
     return isAddress || std::none_of(title.begin(), title.end(), titlecase::isSmallLetter);
 }
 

@@ -308,8 +308,8 @@ void OutputTemplateTitle::UnItalicizeSpecies(Text& text, std::vector<Range>& rom
             const TextView genus = slice(text, words[i - 1].core);
             const std::size_t gap = words[i].core.begin - words[i - 1].core.end;
             const bool isInitial = genus.size() == 1 && gap == 2 && text[words[i - 1].core.end] == u'.';
-            if (titlewords::isSpeciesEpithet(toLower(slice(text, words[i].core))) &&
-                (isInitial || (gap == 1 && titlewords::isName(genus)))) {
+            if ((isInitial || (gap == 1 && titlewords::isName(genus))) &&
+                titlewords::isSpeciesEpithet(toLower(slice(text, words[i].core)))) {
                 // A heading had made it "E. Coli".
                 titlecase::lowerAt(text, words[i].core.begin);
                 roman.push_back({words[i - 1].core.begin, words[i].core.end});

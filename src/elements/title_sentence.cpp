@@ -6,6 +6,7 @@
 #include "core/letter_case.h"
 #include "elements/title_case.h"
 #include "elements/title_words.h"
+#include "elements/word_set.h"
 
 namespace quorvel::titlecase {
 
@@ -76,11 +77,12 @@ bool hasSurnameEnding(TextView lowered) {
         !titlewords::isCommonInVowel(lowered)) {
         return true;
     }
-    if (lowered.size() < 6 || std::find(std::begin(kCommon), std::end(kCommon), lowered) != std::end(kCommon)) {
-        return false;
-    }
-    return std::any_of(std::begin(kEndings), std::end(kEndings),
-                       [&](TextView ending) { return endsWith(lowered, ending); });
+    // Few words have such an ending: the list of those that are no names is not asked for the others.
+    static const WordSet common(kCommon);
+    return lowered.size() >= 6 &&
+           std::any_of(std::begin(kEndings), std::end(kEndings),
+                       [&](TextView ending) { return lowered.back() == ending.back() && endsWith(lowered, ending); }) &&
+           !common.holds(lowered);
 }
 
 /// Known by itself, as a plural, or as what its ending was put to: "Kantianism", "Darwinists".

@@ -1,16 +1,14 @@
 #include "elements/title_words.h"
 
 #include <algorithm>
-#include <bitset>
-#include <cstdint>
 #include <functional>
 #include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 #include "core/letter_case.h"
 #include "elements/title_names.h"
+#include "elements/word_set.h"
 
 namespace quorvel::titlewords {
 
@@ -155,48 +153,6 @@ constexpr TextView kCommonPossessors =
     u"immigrant infantry inventor journalist knight linguist mathematician merchant miller modeler naturalist newcomer "
     u"novice officer orphan peasant pirate planner plant practitioner priest prophet pupil sculptor seafarer singer "
     u"skeptic sorcerer squire state statistician storyteller survivor tailor tenant tiger trader turtle vampire";
-
-/// The library's own hash of a text is made for long ones; a word is a handful of units.
-struct WordHash {
-    using is_transparent = void;
-    std::size_t operator()(TextView word) const {
-        std::uint64_t hash = word.size();
-        for (const char16_t unit : word) {
-            hash = (hash ^ unit) * 0x9E3779B97F4A7C15U;
-        }
-        return static_cast<std::size_t>(hash ^ (hash >> 29U));
-    }
-};
-
-/// The words of blank-separated lists.
-class WordSet {
-public:
-    WordSet() = default;
-    explicit WordSet(TextView words) { add(words); }
-
-    void add(TextView words) {
-        while (!words.empty()) {
-            const std::size_t end = std::min(words.find(u' '), words.size());
-            if (end > 0) {
-                mWords.insert(words.substr(0, end));
-                mShapes.set(shapeOf(words.substr(0, end)));
-            }
-            words.remove_prefix(std::min(end + 1, words.size()));
-        }
-    }
-    bool holds(TextView word) const { return !word.empty() && mShapes[shapeOf(word)] && mWords.contains(word); }
-
-private:
-    // Most words that are asked for are in no list: their length, first and last letter tell it without a
-    // look-up.
-    static constexpr std::size_t kShapes = 16 * 32 * 32;
-    static std::size_t shapeOf(TextView word) {
-        return ((word.size() % 16) * 32 + word.front() % 32U) * 32 + word.back() % 32U;
-    }
-
-    std::unordered_set<TextView, WordHash> mWords;
-    std::bitset<kShapes> mShapes;
-};
 
 WordSet setOf(const titlenames::WordList* lists, std::size_t count) {
     WordSet set;
