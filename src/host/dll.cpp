@@ -29,9 +29,8 @@ struct CreatableClass {
     ClassFactory::Create create;
 };
 
-// Every coclass of the type library.
+// Every coclass of the type library, one a line.
 // clang-format off
-// clang-format off: one class a line
 const CreatableClass kCreatableClasses[] = {
     {CLSID_Main2, make<quorvel::host::Main2>},
     {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},

@@ -25,9 +25,8 @@ struct ElementClass {
     Create create;
 };
 
-// The element type codes and their classes. A code without a row makes nothing.
+// The element type codes and their classes, one code a line. A code without a row makes nothing.
 // clang-format off
-// clang-format off: one code a line
 constexpr ElementClass kElementClasses[] = {
     {0, make<AuthorAdapter>},
     {9, make<AuthorAdapter>},

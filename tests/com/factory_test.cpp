@@ -77,6 +77,8 @@ TEST_F(Factory, BuildTakesItsCodeInAnyForm) {
         EXPECT_FALSE(objectOf(main.call(L"build", {code, sink.get()})));
     }
     EXPECT_EQ(service.takenErrors(), L"6 Main2.build; 13 Main2.build; 13 Main2.build");
+    EXPECT_TRUE(objectOf(main.call(L"build", {+kYear})));
+    EXPECT_EQ(service.takenErrors(), L"449 Main2.build");
 }
 
 TEST_F(Factory, WhatIsNotThereYetIsAnEmptyReferenceToo) {

@@ -36,10 +36,7 @@ public:
         CreateBindCtx(0, reinterpret_cast<IBindCtx**>(&mForeign.get().punkVal));
         mSelf.get() = referenceTo(VT_VARIANT, &mSelf.get()).release();
         mOuter.get() = referenceTo(VT_BSTR, &mText.get().bstrVal).release();
-        constexpr int kNumbers[] = {VT_I1,   VT_I2, VT_I4,   VT_I8, VT_UI1,  VT_UI8,
-                                    VT_BOOL, VT_CY, VT_DATE, VT_R8, VT_ERROR};
-        for (const int type : kNumbers) {
-            add(type, -1);
+        for (const int type : {VT_I2, VT_I4, VT_UI8, VT_BOOL, VT_DATE, VT_R8, VT_ERROR}) {
             add(type, std::numeric_limits<std::int64_t>::max());
             add(VT_BYREF | type, reinterpret_cast<std::int64_t>(&mNumber));
         }
