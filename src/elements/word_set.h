@@ -48,7 +48,7 @@ public:
 private:
     // Most words that are asked for are in no list: their length, first and last letter tell it without a
     // look-up.
-    static constexpr std::size_t kShapes = 16 * 32 * 32;
+    static constexpr std::size_t kShapes = std::size_t{16} * 32 * 32;
     static std::size_t shapeOf(TextView word) {
         return ((word.size() % 16) * 32 + word.front() % 32U) * 32 + word.back() % 32U;
     }
