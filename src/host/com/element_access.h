@@ -20,19 +20,24 @@ public:
     /// @param owner the adapter, which the answer keeps alive
     template <class Element>
     static ComPtr<IUnknown> to(IUnknown* owner, std::shared_ptr<Element> element) {
-        return ComPtr<IUnknown>(new ElementAccess(owner, std::move(element), typeid(Element)));
+        const ComPtr<IUnknown> access(new ElementAccess(owner, std::move(element), typeid(Element)));
+        handedOut() = access.get();
+        return access;
     }
 
     /// The element behind an object that the host passed; empty when the object is none of ours, or has an
     /// element of another type.
     template <class Element>
     static std::shared_ptr<Element> elementOf(IDispatch* object) {
+        handedOut() = nullptr;
         const ComPtr<IUnknown> found = queryFor<IUnknown>(object, kElementAccess);
-        const auto* access = static_cast<const ElementAccess*>(found.get());
-        if (access == nullptr || access->mType != typeid(Element)) {
+        // An object of the host may answer to any interface: only what came from here is what it says.
+        if (!found || found.get() != handedOut()) {
             return nullptr;
         }
-        return std::static_pointer_cast<Element>(access->mElement);
+        const auto* access =
+            static_cast<const ElementAccess*>(found.get());  // NOLINT(*-static-cast-downcast): known by the line above
+        return access->mType == typeid(Element) ? std::static_pointer_cast<Element>(access->mElement) : nullptr;
     }
 
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override { return mOwner->QueryInterface(iid, object); }
@@ -48,6 +53,12 @@ public:
 private:
     ElementAccess(IUnknown* owner, std::shared_ptr<void> element, const std::type_info& type)
         : mOwner(owner), mElement(std::move(element)), mType(type) {}
+    /// The latest answer of this thread.
+    static const IUnknown*& handedOut() {
+        static thread_local const IUnknown* latest = nullptr;
+        return latest;
+    }
+
     // Through Release alone.
     ~ElementAccess() = default;
 
