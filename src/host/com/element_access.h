@@ -20,7 +20,7 @@ public:
     /// @param owner the adapter, which the answer keeps alive
     template <class Element>
     static ComPtr<IUnknown> to(IUnknown* owner, std::shared_ptr<Element> element) {
-        const ComPtr<IUnknown> access(new ElementAccess(owner, std::move(element), typeid(Element)));
+        ComPtr<IUnknown> access(new ElementAccess(owner, std::move(element), typeid(Element)));
         handedOut() = access.get();
         return access;
     }
