@@ -15,14 +15,29 @@ struct WordList {
 /// beside one of them belongs to its name.
 extern const WordList kPlaces[];
 extern const std::size_t kPlacesCount;
+/// More of them, by continent (title_regions.cpp).
+extern const WordList kRegions[];
+extern const std::size_t kRegionsCount;
 /// Last names, eponyms, gods, periods, makes and other names of one word.
 extern const WordList kNames[];
 extern const std::size_t kNamesCount;
 /// Given names: the word behind one is a last name.
 extern const WordList kGivenNames[];
 extern const std::size_t kGivenNamesCount;
+extern const WordList kMoreGivenNames[];
+extern const std::size_t kMoreGivenNamesCount;
+/// More names of one word: eponyms, genera, authors (title_eponyms.cpp).
+extern const WordList kEponyms[];
+extern const std::size_t kEponymsCount;
 /// Names of several words, as they are written.
 extern const WordList kPhrases[];
 extern const std::size_t kPhrasesCount;
+/// More of them: organisations, laws, tests, events (title_phrases.cpp).
+extern const WordList kCommonWordNames[];
+extern const std::size_t kCommonWordNamesCount;
+/// Works that titles of other works speak of (title_works.cpp); no names at the start of a title, where the
+/// work itself is meant.
+extern const WordList kWorks[];
+extern const std::size_t kWorksCount;
 
 }  // namespace quorvel::titlenames

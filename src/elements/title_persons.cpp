@@ -230,7 +230,9 @@ const WordList kPhrases[] = {
     // Periods, wars and events.
     {u"Age of Enlightenment|First Nations|Semantic Web|U.S. Constitution|U.S. Congress|U.S. Senate|American "
      u"Dream|American Revolution|Arab Spring|Axis of Evil|Bay of Pigs|Black Death|"
-     u"Black Panther|Black Panthers|Bronze Age|Iron Age|Stone Age|Ice Age|Boer War|Cold War|Civil War|Civil Rights Act|"
+     u"Black Panther|Black Panthers|Bronze Age|Iron Age|Stone Age|Ice Age|Boer War|Cold War|the Civil War|American "
+     u"Civil War|Civil War era|Civil War America|Lebanese Civil War|Syrian Civil War|Irish Civil War|Russian Civil "
+     u"War|Chinese Civil War|Civil Rights Act|"
      u"Civil Rights Movement|Crimean War|Cuban Missile Crisis|Cultural Revolution|Dark Ages|Dust Bowl|English Civil "
      u"War|"
      u"English Reformation|Falklands War|First World War|Second World War|Third World War|French Revolution|Gilded Age|"

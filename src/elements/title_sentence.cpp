@@ -156,7 +156,8 @@ private:
     void findPhrases() {
         for (std::size_t i = 0; i < mWords.size(); ++i) {
             for (const titlewords::Phrase& phrase : titlewords::phrasesFrom(mLowered[i])) {
-                if (i + phrase.words <= mWords.size() && standsAt(phrase, i)) {
+                const bool isWorkItself = phrase.isWork && (i == 0 || (i == 1 && isFunction(0)));
+                if (!isWorkItself && i + phrase.words <= mWords.size() && standsAt(phrase, i)) {
                     break;
                 }
             }
@@ -193,15 +194,37 @@ private:
     void findOrganizations() {
         constexpr std::size_t kLongest = 5;
         for (std::size_t i = 1; i < mWords.size(); ++i) {
-            if (!titlewords::isOrganizationTail(word(i))) {
+            const bool isInstrument = titlewords::isInstrumentTail(word(i));
+            if (titlewords::isTailBehindArticle(word(i))) {
+                findBehindArticle(i);
+            }
+            if (!isInstrument && !titlewords::isOrganizationTail(word(i))) {
                 continue;
             }
             for (std::size_t k = i; k > 0 && i - k < kLongest && !neighbourBefore(k).empty(); --k) {
-                if (titlewords::isOrganizationLead(word(k - 1))) {
-                    std::fill(mKept.begin() + static_cast<std::ptrdiff_t>(k) - 1,
-                              mKept.begin() + static_cast<std::ptrdiff_t>(i) + 1, true);
+                if (isInstrument ? titlewords::isName(word(k - 1)) : titlewords::isOrganizationLead(word(k - 1))) {
+                    keep(k - 1, i);
                     break;
                 }
+            }
+        }
+    }
+
+    void keep(std::size_t first, std::size_t last) {
+        for (std::size_t k = first; k <= last; ++k) {
+            mKept[k] = mKept[k] || !isFunction(k);
+        }
+    }
+
+    /// "the Clean Air Act", but not "the speech act".
+    void findBehindArticle(std::size_t i) {
+        constexpr std::size_t kLongest = 6;
+        for (std::size_t k = i; k > 0 && i - k < kLongest && !neighbourBefore(k).empty(); --k) {
+            if (equalsIgnoringCase(word(k - 1), u"the")) {
+                if (i - k >= 2) {
+                    keep(k, i);
+                }
+                return;
             }
         }
     }
@@ -249,7 +272,7 @@ private:
                 return true;
             }
         }
-        if (isBehindOf(i)) {
+        if (isBehindOf(i) || isTownBefore(i, previous)) {
             return true;
         }
         return isPossessive(word(i)) && isPossessiveOfName(lowered);
@@ -259,6 +282,12 @@ private:
     bool isBehindOf(std::size_t i) const {
         return i >= 2 && equalsIgnoringCase(neighbourBefore(i), u"of") && !neighbourBefore(i - 1).empty() &&
                titlewords::isOfLead(word(i - 2)) && !hasCommonEnding(word(i)) && !mWords[i - 2].isLast;
+    }
+
+    /// "in Flint, Michigan".
+    bool isTownBefore(std::size_t i, TextView previous) const {
+        return i + 1 < mWords.size() && mWords[i].piece == mWords[i + 1].piece && equalsIgnoringCase(previous, u"in") &&
+               mText[mWords[i].core.end] == u',' && (titlewords::isPlace(word(i + 1)) || mIsPhrase[i + 1]);
     }
 
     static bool isSingleLetterKept(std::size_t i, TextView letter, TextView previous) {

@@ -58,7 +58,7 @@ constexpr TextView kNameTails =
     u"Gorge Glacier Plateau Archipelago Creek Isles Channel County Prize Doctrine Accords Territory Hemisphere";
 constexpr TextView kInstitutionTails =
     u"University College Institute Street Avenue Square Park Palace Castle Museum Harbor Harbour "
-    u"Foundation Company Corporation Hall Medal Manifesto Bridge House";
+    u"Foundation Company Corporation Hall Medal Manifesto Constitution Observatory Bridge House";
 
 constexpr TextView kOfLeads =
     u"Battle Treaty Siege University Gulf Strait Straits Isle Cape Archbishop Bishop Duke Duchess Earl Countess "
@@ -78,6 +78,11 @@ constexpr TextView kOrganizationLeads =
 constexpr TextView kOrganizationTails =
     u"Association Society Institute Academy Council Agency Organization Federation Union League Commission Bureau "
     u"Congress";
+
+// "the Clean Air Act", "the Wellcome Trust Case Control Consortium".
+constexpr TextView kTailsBehindArticle = u"Act Collaboration Consortium Commission Committee Convention";
+
+constexpr TextView kInstrumentTails = u"Inventory Scale Scales Questionnaire Checklist Battery Index Matrices Survey";
 
 constexpr TextView kCommonInVowel =
     u"placebo studio radio video audio photo ratio portfolio scenario embryo libido casino vitro vivo novo ego zero "
@@ -154,28 +159,42 @@ constexpr TextView kCommonPossessors =
     u"novice officer orphan peasant pirate planner plant practitioner priest prophet pupil sculptor seafarer singer "
     u"skeptic sorcerer squire state statistician storyteller survivor tailor tenant tiger trader turtle vampire";
 
-WordSet setOf(const titlenames::WordList* lists, std::size_t count) {
+using WordLists = std::span<const titlenames::WordList>;
+
+WordSet setOf(WordLists lists, WordLists more = {}) {
     WordSet set;
-    for (std::size_t i = 0; i < count; ++i) {
-        set.add(lists[i].words);
+    for (const WordLists& part : {lists, more}) {
+        for (const titlenames::WordList& list : part) {
+            set.add(list.words);
+        }
     }
     return set;
 }
 
 using Phrases = std::unordered_map<Text, std::vector<Phrase>, WordHash, std::equal_to<>>;
 
-Phrases allPhrases() {
-    Phrases phrases;
-    for (std::size_t i = 0; i < titlenames::kPhrasesCount; ++i) {
-        TextView rest = titlenames::kPhrases[i].words;
+void addPhrases(Phrases& phrases, WordLists lists, bool isWork) {
+    for (const titlenames::WordList& list : lists) {
+        TextView rest = list.words;
         while (!rest.empty()) {
             const std::size_t end = std::min(rest.find(u'|'), rest.size());
             const TextView text = rest.substr(0, end);
             rest.remove_prefix(std::min(end + 1, rest.size()));
             const auto blanks = std::count(text.begin(), text.end(), u' ');
-            phrases[toLower(before(text, u" "))].push_back({text, static_cast<std::size_t>(blanks) + 1});
+            TextView first = before(text, u" ");
+            if (endsWith(first, u"'s")) {
+                first.remove_suffix(2);
+            }
+            phrases[toLower(first)].push_back({text, static_cast<std::size_t>(blanks) + 1, isWork});
         }
     }
+}
+
+Phrases allPhrases() {
+    Phrases phrases;
+    addPhrases(phrases, {titlenames::kPhrases, titlenames::kPhrasesCount}, false);
+    addPhrases(phrases, {titlenames::kCommonWordNames, titlenames::kCommonWordNamesCount}, false);
+    addPhrases(phrases, {titlenames::kWorks, titlenames::kWorksCount}, true);
     for (auto& [first, list] : phrases) {
         std::sort(list.begin(), list.end(), [](const Phrase& a, const Phrase& b) { return a.words > b.words; });
     }
@@ -249,6 +268,16 @@ bool isOrganizationTail(TextView word) {
     return set.holds(word);
 }
 
+bool isTailBehindArticle(TextView word) {
+    static const WordSet set(kTailsBehindArticle);
+    return set.holds(word);
+}
+
+bool isInstrumentTail(TextView word) {
+    static const WordSet set(kInstrumentTails);
+    return set.holds(word);
+}
+
 bool isCommonInVowel(TextView word) {
     static const WordSet set(kCommonInVowel);
     return set.holds(word);
@@ -275,17 +304,20 @@ bool isCommonPossessor(TextView word) {
 }
 
 bool isPlace(TextView word) {
-    static const WordSet set = setOf(titlenames::kPlaces, titlenames::kPlacesCount);
+    static const WordSet set =
+        setOf({titlenames::kPlaces, titlenames::kPlacesCount}, {titlenames::kRegions, titlenames::kRegionsCount});
     return set.holds(word);
 }
 
 bool isName(TextView word) {
-    static const WordSet set = setOf(titlenames::kNames, titlenames::kNamesCount);
+    static const WordSet set =
+        setOf({titlenames::kNames, titlenames::kNamesCount}, {titlenames::kEponyms, titlenames::kEponymsCount});
     return set.holds(word);
 }
 
 bool isGivenName(TextView word) {
-    static const WordSet set = setOf(titlenames::kGivenNames, titlenames::kGivenNamesCount);
+    static const WordSet set = setOf({titlenames::kGivenNames, titlenames::kGivenNamesCount},
+                                     {titlenames::kMoreGivenNames, titlenames::kMoreGivenNamesCount});
     return set.holds(word);
 }
 

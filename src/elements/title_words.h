@@ -35,6 +35,10 @@ bool isOfLead(TextView word);
 /// First and last words of the names of organisations: "American Heart Association".
 bool isOrganizationLead(TextView word);
 bool isOrganizationTail(TextView word);
+/// Last words of names of two words and more behind "the": "the Clean Air Act".
+bool isTailBehindArticle(TextView word);
+/// Last words of the names of tests and scales behind a person's name: "Beck Depression Inventory".
+bool isInstrumentTail(TextView word);
 /// Common words in -o, -i and -u, which most words with such an ending are not.
 bool isCommonInVowel(TextView word);
 /// "North", "Eastern", "Central".
@@ -54,6 +58,8 @@ bool isGivenName(TextView word);
 struct Phrase {
     TextView text;
     std::size_t words = 0;
+    /// A title of a work: no name at the start of a title, which is then the work itself.
+    bool isWork = false;
 };
 /// The known names of several words that begin with this one in lower case, the longest first.
 std::span<const Phrase> phrasesFrom(TextView firstWord);

@@ -20,8 +20,8 @@ TEST(TitleCases, RealTitles) {
         exact[rule] += test::casedFor(title) == title.to ? 1 : 0;
     }
     for (const int rule : {0, 1}) {
-        ASSERT_GE(all[rule], 300);
-        EXPECT_GE(exact[rule] * 100, all[rule] * 95);
+        ASSERT_GE(all[rule], 650);
+        EXPECT_GE(exact[rule] * 100, all[rule] * 96);
     }
 }
 
