@@ -1,6 +1,7 @@
 // Sentence case: what keeps its capital in a title that stood in heading case.
 
 #include <algorithm>
+#include <bitset>
 #include <initializer_list>
 
 #include "core/letter_case.h"
@@ -167,7 +168,11 @@ private:
     /// Keeps the capitals of a phrase that stands here.
     bool standsAt(const titlewords::Phrase& phrase, std::size_t i) {
         TextView rest = phrase.text;
-        std::vector<bool> capitals;
+        constexpr std::size_t kMostWords = 16;
+        std::bitset<kMostWords> capitals;
+        if (phrase.words > kMostWords) {
+            return false;
+        }
         for (std::size_t k = 0; k < phrase.words; ++k) {
             const TextView part = before(rest, u" ");
             rest.remove_prefix(std::min(part.size() + 1, rest.size()));
@@ -181,7 +186,7 @@ private:
             if (!isSame || mWords[i + k].piece != mWords[i].piece) {
                 return false;
             }
-            capitals.push_back(isCapital(part[0]));
+            capitals[k] = isCapital(part[0]);
         }
         for (std::size_t k = 0; k < phrase.words; ++k) {
             mKept[i + k] = mKept[i + k] || capitals[k];
