@@ -215,16 +215,17 @@ TEST_F(Service, OfAnyKindDoesNoHarm) {
     }
 }
 
+DWORD WINAPI useYearInAnotherApartment(void* loaded) {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    useYear(static_cast<Library*>(loaded)->main2());
+    CoUninitialize();
+    return 0;
+}
+
 TEST_F(Service, EachThreadLooksForItsOwn) {
     const LateBoundObject main = library.main2();
     main.call(L"build", {18, Variant()});
     EXPECT_EQ(service.takenErrors(), L"91 Main2.build");
-    const auto useYearInAnotherApartment = [](void* loaded) -> DWORD {
-        CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-        useYear(static_cast<Library*>(loaded)->main2());
-        CoUninitialize();
-        return 0;
-    };
     HANDLE thread = CreateThread(nullptr, 0, useYearInAnotherApartment, &library, 0, nullptr);
     DWORD index = 0;
     // Its reports come through this apartment, which has to listen.
