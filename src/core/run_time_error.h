@@ -59,4 +59,12 @@ T& object(const std::shared_ptr<T>& reference) {
     return *reference;
 }
 
+/// The same for a member variable, which the host may replace in the middle of the call that is made to its
+/// object: `held(mOutputTemplate)->Reset(9)` keeps the object until that call ends.
+template <class T>
+std::shared_ptr<T> held(const std::shared_ptr<T>& reference) {
+    object(reference);
+    return reference;
+}
+
 }  // namespace quorvel

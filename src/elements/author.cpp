@@ -47,10 +47,10 @@ void OutputTemplateAuthor::Initialize(const OutputSinkRef& formattedStr) {
         mLaidOut.clear();
         layOut();
         mYearTemplate = std::make_shared<OutputTemplateYear>();
-        mYearTemplate->Initialize(nullptr);
+        held(mYearTemplate)->Initialize(nullptr);
         ClearAuthors();
         mFormattedStr = object(formattedStr).Clone();
-        mOutputTemplate->Initialize(formattedStr);
+        held(mOutputTemplate)->Initialize(formattedStr);
     });
 }
 
@@ -91,12 +91,13 @@ void OutputTemplateAuthor::Reset(bool SupportAnonAndPseudoAuthors, bool SquareBr
               [&] {
                   mSupportAnonAndPseudoAuthors = SupportAnonAndPseudoAuthors;
                   mSquareBracketIsForFirstName = SquareBracketIsForFirstName;
-                  mEditorTagsSingular = split(editorTags, kComma);
-                  mEditorTagsPlural.clear();
-                  for (std::size_t role = 0; role < mEditorTagsSingular.size(); ++role) {
-                      const Text& tag = mEditorTagsSingular[role];
-                      mEditorTagsPlural.push_back(role == kTranslator ? tag : generateTag(tag, true));
+                  const std::vector<Text> singular = split(editorTags, kComma);
+                  std::vector<Text> plural;
+                  for (std::size_t role = 0; role < singular.size(); ++role) {
+                      plural.push_back(role == kTranslator ? singular[role] : generateTag(singular[role], true));
                   }
+                  mEditorTagsSingular = singular;
+                  mEditorTagsPlural = plural;
                   mAndSeparator = padded(andSeparator);
                   mTwoAuthorsIsOnlyCaseHaveNoComma = twoAuthorsIsOnlyCaseHaveNoComma;
                   mReverseFirstOnFootnote = ReverseFirstOnFootnote;
@@ -144,7 +145,7 @@ void OutputTemplateAuthor::layOut() {
         return;
     }
     mLaidOut.assign(std::begin(wanted), std::end(wanted));
-    object(mOutputTemplate).Reset(authorlayout::kEditor);
+    held(mOutputTemplate)->Reset(authorlayout::kEditor);
     for (std::int16_t slot = 0; slot <= authorlayout::kEditor; ++slot) {
         Add(slot, authorlayout::separatorsAfter(slot, separators));
     }
@@ -168,7 +169,7 @@ std::shared_ptr<OutputTemplateAuthor> OutputTemplateAuthor::Clone() const {
 
 void OutputTemplateAuthor::CloneImpl(OutputTemplateAuthor& clone) const {
     procedure(*this, u"OutputTemplateAuthor.CloneImpl", kNoParameters, [&] {
-        clone.Initialize(mFormattedStr);
+        clone.Initialize(OutputSinkRef(mFormattedStr));
         clone.Pseudoname = Pseudoname;
         clone.AuthorType = AuthorType;
         clone.HasEtAl = HasEtAl;
@@ -186,7 +187,7 @@ void OutputTemplateAuthor::CloneImpl(OutputTemplateAuthor& clone) const {
 std::shared_ptr<OutputTemplateAuthor> OutputTemplateAuthor::CloneForEditors() const {
     return procedure(*this, u"OutputTemplateAuthor.CloneForEditors", kNoParameters, [&] {
         auto clone = std::make_shared<OutputTemplateAuthor>();
-        clone->Initialize(mFormattedStr);
+        clone->Initialize(OutputSinkRef(mFormattedStr));
         Options settings = options();
         settings.editorTags = getEditorTags();
         clone->Reset(settings);

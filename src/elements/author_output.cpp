@@ -149,7 +149,7 @@ void OutputTemplateAuthor::ToFormattedString(const OutputSinkRef& formattedStr, 
                       assembly->ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote);
                       return;
                   }
-                  const OutputSinkRef assembled = object(mFormattedStr).BuildNewFormattedString();
+                  const OutputSinkRef assembled = held(mFormattedStr)->BuildNewFormattedString();
                   object(assembled).Reset();
                   assembly->ToFormattedString(assembled, *this, shortenedVersion, isFootnote);
                   object(formattedStr).Add(convertCommaToSemicolon(assembled->toString()), OutputSink::kPlain);

@@ -411,7 +411,7 @@ bool OutputTemplatePage::isPageImpl(TextView text) {
         const bool hasMark = isNoPage(tested) || pagewords::locatorWord(tested).has_value() ||
                              (mSupportsDOI && pagewords::isDoi(tested));
         normalise(tested);
-        mIsPage = hasMark || (isNumbers(tested) && !(mayBeYear(tested) && object(mYearTemplate).isYear(tested)));
+        mIsPage = hasMark || (isNumbers(tested) && !(mayBeYear(tested) && held(mYearTemplate)->isYear(tested)));
         return mIsPage;
     });
 }

@@ -24,7 +24,7 @@ void OutputTemplateTitle::Initialize(const OutputSinkRef& formattedStr) {
         mOutputTemplate = std::make_shared<outputTemplate>();
         layOut();
         mFormattedStr = object(formattedStr).Clone();
-        mOutputTemplate->Initialize(formattedStr);
+        held(mOutputTemplate)->Initialize(formattedStr);
     });
 }
 
@@ -53,11 +53,12 @@ void OutputTemplateTitle::Reset(std::int16_t format, const std::shared_ptr<Outpu
                   setTitleTypes(titleTypes);
                   layOut();
                   // A copy with the new settings and the persons that were read: the host goes on using its own.
-                  const std::vector<Text> persons = mAuthorTemplate ? mAuthorTemplate->authors() : std::vector<Text>();
+                  const std::vector<Text> persons =
+                      mAuthorTemplate ? held(mAuthorTemplate)->authors() : std::vector<Text>();
                   mAuthorTemplate = authorTemplate ? authorTemplate->Clone() : nullptr;
                   if (mAuthorTemplate) {
-                      mAuthorTemplate->ClearAuthors();
-                      mAuthorTemplate->authors(persons);
+                      held(mAuthorTemplate)->ClearAuthors();
+                      held(mAuthorTemplate)->authors(persons);
                   }
               });
 }
@@ -98,9 +99,9 @@ void OutputTemplateTitle::CloneImpl(OutputTemplateTitle& clone) const {
         clone.mTitleSubtypes = mTitleSubtypes;
         clone.mPunctuation = mPunctuation;
         if (mFormattedStr) {
-            clone.Initialize(mFormattedStr);
+            clone.Initialize(OutputSinkRef(mFormattedStr));
         }
-        clone.mAuthorTemplate = mAuthorTemplate ? mAuthorTemplate->Clone() : nullptr;
+        clone.mAuthorTemplate = mAuthorTemplate ? held(mAuthorTemplate)->Clone() : nullptr;
     });
 }
 
@@ -113,7 +114,7 @@ void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
         mValues.assign(mValues.size(), Text());
         mPunctuation.clear();
         if (mAuthorTemplate) {
-            mAuthorTemplate->ClearAuthors();
+            held(mAuthorTemplate)->ClearAuthors();
         }
         parseAndRemovePrematter(text, secondaryStr);
         parseAndRemoveTranslation(text);
@@ -204,7 +205,7 @@ void OutputTemplateTitle::parseAndRemovePrematter(Text& text, TextView secondary
                   Text author = text.substr(by + kByTexts[0].size());
                   removeSuffix(author, u".");
                   text.erase(by);
-                  mAuthorTemplate->Parse(author, {});
+                  held(mAuthorTemplate)->Parse(author, {});
               });
 }
 

@@ -64,7 +64,7 @@ Text withSingleQuotationMarks(TextView text) {
 
 void OutputTemplateTitle::layOut() {
     const Text comma = titletypes::usesBrackets(mFormat) ? u" " : u", ";
-    object(mOutputTemplate).Reset(kLastSlot);
+    held(mOutputTemplate)->Reset(kLastSlot);
     Add(kLeadInSlot, false, {u"", u"", u"", u"", u"", u""});
     Add(kTitleSlot, true, {u"", u" ", comma, u" ", u""});
     Add(kTranslationSlot, false, {u"", comma, u" ", u""});
@@ -75,7 +75,7 @@ void OutputTemplateTitle::layOut() {
 void OutputTemplateTitle::Add(std::int16_t Index, bool isFormatted, const std::vector<Text>& separators) {
     procedure(*this, u"OutputTemplateTitle.Add",
               {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"separators", separators}},
-              [&] { mOutputTemplate->Add(Index, isFormatted, false, separators); });
+              [&] { held(mOutputTemplate)->Add(Index, isFormatted, false, separators); });
 }
 
 // Capitalisation.

@@ -45,6 +45,19 @@ TEST_F(LateBinding, ParseGivesTheCallersVariableWhatItLeft) {
     }
 }
 
+TEST_F(LateBinding, AMemberFillsEmptyVariables) {
+    const LateBoundObject author = library.build(0, makeObject<FormattedText>().get());
+    author.call(L"Parse", {L"Smith, John & Lee, Ann"});
+    Variant form1;
+    Variant form2;
+    BSTR typed = nullptr;
+    author.call(L"toCitationFormat", {referenceTo(VT_VARIANT, &form1.get()), referenceTo(VT_BSTR, &typed)});
+    form2.get().vt = VT_BSTR;
+    form2.get().bstrVal = typed;
+    EXPECT_NE(textOf(form1).find(L"Smith"), std::wstring::npos);
+    EXPECT_EQ(textOf(form2), textOf(author.call(L"toString", {false, true})));
+}
+
 TEST_F(LateBinding, ArgumentsByNameMissingAndInSurplus) {
     const LateBoundObject place = library.build(kPlace);
     const LateBoundObject year = library.build(kYear);

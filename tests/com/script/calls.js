@@ -42,6 +42,14 @@ try {
 var states = new VBArray(main.build(15, null).States);
 check("States", states.lbound() + " " + states.ubound() + " " + states.getItem(7), "0 55 Colorodo");
 
+var author = main.build(9, sink);
+author.authors = ["Smith, John", "Lee, Ann"];
+check("authors", new VBArray(author.authors).toArray().join("|"), "Smith, John|Lee, Ann");
+author.Anthologies(1) = true;
+check("roles", new VBArray(author.Anthologies).toArray().join() + author.Anthologies(1), "false,true,falsetrue");
+author.authors = [];
+check("no authors", author.isEmptyArrayAuthor(), true);
+
 // Whatever a sink does, the call comes back.
 function callWith(add) {
     year.Parse("1990");

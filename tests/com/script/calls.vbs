@@ -93,4 +93,17 @@ Check "a dynamic array", dynamic(0) & "|" & dynamic(1) & "|" & dynamic(2), "May 
 dateTime.ToFormattedStringImpl False, text, number, False
 Check "no array", VarType(text) & "," & number, vbNull & ",1992"
 
+' A list as an array, a property with and without an index.
+Dim author, list
+Set author = main.build(0, formatted)
+author.authors = Array("Smith, John", "Lee, Ann, Jr.")
+list = author.authors
+Check "authors", UBound(list) & "|" & list(0) & "|" & list(1), "1|Smith, John|Lee, Ann, Jr."
+author.Anthologies = Array(True, False, False)
+author.Anthologies(2) = True
+list = author.Anthologies
+Check "roles", list(0) & list(1) & list(2) & author.Anthologies(2), "TrueFalseTrueTrue"
+author.authors = 5
+Check "no list", UBound(author.authors) & "", "1"
+
 WScript.Echo "done"
