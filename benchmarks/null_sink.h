@@ -17,6 +17,7 @@ public:
     Text toRTFString() const override { return {}; }
     bool IsEmpty() const override { return mLength == 0; }
     std::int16_t removeQuoteFromLastPhrase() override { return 0; }
+    void PageIndex(std::int32_t /*value*/) override {}
 
     std::size_t length() const { return mLength; }
 

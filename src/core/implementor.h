@@ -1,7 +1,9 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
+#include "core/host_object.h"
 #include "core/output_sink.h"
 #include "core/text.h"
 
@@ -21,6 +23,15 @@ public:
     /// @return True when there is nothing to assemble.
     virtual bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
                                        std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) = 0;
+
+    /// Asked by a model template that has callback conditions: sets the entry of each slot whose checking
+    /// separators hold. The entries come with what the other conditions gave; elements have none to add.
+    virtual void initChecking(std::vector<bool>& /*checkingArray*/, bool /*isFootnote*/) {}
+
+    /// The host's object behind this one, for a report; null for an element of the library.
+    virtual const HostObject* hostObject() const { return nullptr; }
 };
+
+using ImplementorRef = std::shared_ptr<Implementor>;
 
 }  // namespace quorvel

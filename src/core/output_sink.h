@@ -31,6 +31,8 @@ public:
     virtual bool IsEmpty() const = 0;
     /// Takes the closing quotation mark off the last phrase and returns that phrase's font.
     virtual std::int16_t removeQuoteFromLastPhrase() = 0;
+    /// Leaves a number for the host, which knows what it means.
+    virtual void PageIndex(std::int32_t value) = 0;
 };
 
 }  // namespace quorvel

@@ -140,7 +140,7 @@ void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implem
                                        bool shortenedVersion, bool isFootnote, const std::vector<bool>& checkingArray) {
     procedure(*this, u"OutputTemplate.ToFormattedString",
               {{u"formattedStr", formattedStr},
-               {u"implementor", HostObjectRef()},
+               {u"implementor", implementor.hostObject()},
                {u"shortenedVersion", shortenedVersion},
                {u"isFootnote", isFootnote},
                {u"checkingArray", checkingArray}},
@@ -171,7 +171,7 @@ void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implem
 
 Text outputTemplate::toString(Implementor& implementor, bool shortenedVersion, bool isFootnote, bool isRTF) {
     return procedure(*this, u"OutputTemplate.toString",
-                     {{u"implementor", HostObjectRef()},
+                     {{u"implementor", implementor.hostObject()},
                       {u"shortenedVersion", shortenedVersion},
                       {u"isFootnote", isFootnote},
                       {u"isRTF", isRTF}},

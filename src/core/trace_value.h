@@ -32,6 +32,7 @@ public:
     TraceValue(const std::vector<Text>& value) : mStorage(&value) {}
     template <class T>
     TraceValue(const std::shared_ptr<T>& value) : mStorage(hostObject(value.get())) {}
+    TraceValue(Object value) : mStorage(value) {}
     TraceValue(const std::vector<Object>& value) : mStorage(&value) {}
     TraceValue(const void*) = delete;
 

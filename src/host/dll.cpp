@@ -7,6 +7,7 @@
 #include "host/adapters/author_adapter.h"
 #include "host/adapters/date_time_adapter.h"
 #include "host/adapters/keywords_adapter.h"
+#include "host/adapters/model_adapter.h"
 #include "host/adapters/page_adapter.h"
 #include "host/adapters/place_adapter.h"
 #include "host/adapters/publisher_adapter.h"
@@ -33,6 +34,7 @@ struct CreatableClass {
 // clang-format off
 const CreatableClass kCreatableClasses[] = {
     {CLSID_Main2, make<quorvel::host::Main2>},
+    {CLSID_OutputTemplateModel, make<ModelAdapter>},
     {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
     {CLSID_OutputTemplateTitle, make<TitleAdapter>},
     {CLSID_OutputTemplatePublisher, make<PublisherAdapter>},

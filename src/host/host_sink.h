@@ -24,6 +24,7 @@ public:
     Text toRTFString() const override;
     bool IsEmpty() const override;
     std::int16_t removeQuoteFromLastPhrase() override;
+    void PageIndex(std::int32_t value) override;
 
     IDispatch* dispatch() const override { return mObject.dispatch(); }
 

@@ -7,6 +7,7 @@
 #include "host/adapters/author_adapter.h"
 #include "host/adapters/date_time_adapter.h"
 #include "host/adapters/keywords_adapter.h"
+#include "host/adapters/model_adapter.h"
 #include "host/adapters/page_adapter.h"
 #include "host/adapters/place_adapter.h"
 #include "host/adapters/publisher_adapter.h"
@@ -72,7 +73,8 @@ STDMETHODIMP Main2::buildSubformProxy(IDispatch** result) {
 }
 
 STDMETHODIMP Main2::buildModelTemplate(IDispatch** result) {
-    return call(result, [&] { return procedure(*this, u"Main2.buildModelTemplate", kNoParameters, cannotCreate); });
+    return call(result,
+                [&] { return procedure(*this, u"Main2.buildModelTemplate", kNoParameters, make<ModelAdapter>); });
 }
 
 STDMETHODIMP Main2::buildCitationTemplate(IDispatch** result) {

@@ -16,6 +16,11 @@ std::wstring lowerCase(std::wstring text) {
 void expectWorking(const LateBoundObject& object, const std::wstring& after) {
     if (idOf(object.dispatch(), L"build") != DISPID_UNKNOWN) {
         EXPECT_TRUE(objectOf(object.call(L"build", {kYear, static_cast<IDispatch*>(nullptr)})));
+    } else if (idOf(object.dispatch(), L"Parse") == DISPID_UNKNOWN) {
+        const auto sink = makeObject<FormattedText>();
+        object.call(L"Initialize", {sink.get(), static_cast<IDispatch*>(nullptr)});
+        object.call(L"Reset", {0});
+        object.call(L"Add", {0, false, L"", Variant::array({L"", L""})});
     } else {
         const auto sink = makeObject<FormattedText>();
         object.call(L"Initialize", {sink.get()});

@@ -139,7 +139,12 @@ TEST_F(TypeLibrary, IsTheOneThatClientsWereBuiltWith) {
     std::ifstream file(COM_TEST_DATA "/interfaces.txt");
     std::stringstream expected;
     expected << file.rdbuf();
-    EXPECT_EQ(toUtf8(joined(mLines, L"\n")) + "\n", expected.str());
+    const std::string lines = toUtf8(joined(mLines, L"\n")) + "\n";
+    EXPECT_EQ(lines, expected.str()) << "what there is now is in bin/interfaces.txt";
+    if (lines != expected.str()) {
+        std::ofstream(std::filesystem::path(Library::path()).parent_path() / "interfaces.txt", std::ios::binary)
+            << lines;
+    }
 }
 
 TEST_F(TypeLibrary, ManifestAndVersionResourceSayTheSame) {

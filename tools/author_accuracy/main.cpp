@@ -40,6 +40,7 @@ public:
     Text toRTFString() const override { return mText; }
     bool IsEmpty() const override { return mText.empty(); }
     std::int16_t removeQuoteFromLastPhrase() override { return 0; }
+    void PageIndex(std::int32_t /*value*/) override {}
 
     const Text& text() const { return mText; }
 

@@ -94,21 +94,42 @@ Bounds boundsOf(SAFEARRAY* array) {
     return bounds;
 }
 
+template <class Element, class Detach>
+Variant arrayOf(VARTYPE type, std::vector<Variant>& values, Detach detach) {
+    Variant result;
+    result.parray = SafeArrayCreateVector(type, 0, static_cast<ULONG>(values.size()));
+    if (result.parray == nullptr) {
+        throw std::bad_alloc();
+    }
+    result.vt = static_cast<VARTYPE>(VT_ARRAY | type);
+    Element* elements = nullptr;
+    check(SafeArrayAccessData(result.parray, reinterpret_cast<void**>(&elements)));
+    std::transform(values.begin(), values.end(), elements, detach);
+    check(SafeArrayUnaccessData(result.parray));
+    return result;
+}
+
 }  // namespace
 
 Variant arrayOfVariants(std::vector<Variant> values) {
-    SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(values.size()));
-    if (array == nullptr) {
-        throw std::bad_alloc();
+    return arrayOf<VARIANT>(VT_VARIANT, values, [](Variant& value) { return value.detach(); });
+}
+
+Variant typedArrayOf(VARTYPE type, std::vector<Variant> values) {
+    switch (type) {
+        case VT_BSTR: return arrayOf<BSTR>(type, values, [](Variant& value) { return value.detach().bstrVal; });
+        case VT_DISPATCH:
+            return arrayOf<IDispatch*>(type, values, [](Variant& value) { return value.detach().pdispVal; });
+        case VT_BOOL: return arrayOf<VARIANT_BOOL>(type, values, [](Variant& value) { return value.boolVal; });
+        default: throw RuntimeError(ErrorNumber::TypeMismatch);
     }
-    Variant result;
-    result.vt = VT_ARRAY | VT_VARIANT;
-    result.parray = array;
-    VARIANT* elements = nullptr;
-    check(SafeArrayAccessData(array, reinterpret_cast<void**>(&elements)));
-    std::transform(values.begin(), values.end(), elements, [](Variant& value) { return value.detach(); });
-    check(SafeArrayUnaccessData(array));
-    return result;
+}
+
+Variant referenceToArray(Variant& array) {
+    Variant reference;
+    reference.vt = static_cast<VARTYPE>(VT_BYREF | array.vt);
+    reference.pparray = &array.parray;
+    return reference;
 }
 
 Variant arrayOfFlags(const std::vector<bool>& values) {
@@ -152,8 +173,11 @@ std::vector<Variant> elementsOf(const VARIANT& array) {
         throw RuntimeError(ErrorNumber::TypeMismatch);
     }
     const Bounds bounds = boundsOf(values);
-    for (LONG i = bounds.lower; i <= bounds.upper; ++i) {
-        elements.push_back(ElementType(values).get(i));
+    if (bounds.lower <= bounds.upper) {
+        const ElementType type(values);
+        for (LONG i = bounds.lower; i <= bounds.upper; ++i) {
+            elements.push_back(type.get(i));
+        }
     }
     return elements;
 }
@@ -177,8 +201,9 @@ void assignElements(VARIANT& array, const std::vector<Variant>& values) {
         throw RuntimeError((direct.vt & VT_ARRAY) != 0 ? ErrorNumber::SubscriptOutOfRange : ErrorNumber::TypeMismatch);
     }
     const LONG lower = boundsOf(target).lower;
+    const ElementType type(target);
     for (std::size_t i = 0; i < values.size(); ++i) {
-        ElementType(target).put(lower + static_cast<LONG>(i), values[i]);
+        type.put(lower + static_cast<LONG>(i), values[i]);
     }
 }
 

@@ -15,6 +15,14 @@ Variant arrayOfFlags(const std::vector<bool>& values);
 Variant arrayOfTexts(const std::vector<Text>& values);
 Variant arrayOfVariants(std::vector<Variant> values);
 
+/// An array of one type, texts, objects or flags, as a host's class declares it. The values are of that
+/// type; an empty value is an empty text or Nothing.
+Variant typedArrayOf(VARTYPE type, std::vector<Variant> values);
+
+/// An argument that passes an array of one type by reference. The array is the caller's; the callee may fill
+/// it or put another one in its place.
+Variant referenceToArray(Variant& array);
+
 /// The elements of an array that a caller passed: of any type, with any lower bound, by value or by
 /// reference, or a script's array object. None for a missing argument, Null or Nothing; error 13 for what is
 /// no array.

@@ -34,6 +34,13 @@ public:
     /// Reads a property without arguments.
     Variant get(const wchar_t* member) const;
 
+    /// Gives a property, with its indexes before the value if it has any, a new value.
+    template <class... Arguments>
+    void put(const wchar_t* member, Arguments&&... arguments) const {
+        std::array<Variant, sizeof...(Arguments)> values = {Variant(std::forward<Arguments>(arguments))...};
+        invoke(member, DISPATCH_PROPERTYPUT, values.data(), values.size());
+    }
+
     /// An element of a script's array.
     Variant element(std::int32_t index) const;
     void putElement(std::int32_t index, Variant value) const;

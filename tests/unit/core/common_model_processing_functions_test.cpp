@@ -1,7 +1,6 @@
 #include "core/common_model_processing_functions.h"
 
-#include <map>
-
+#include "support/recording_model.h"
 #include "support/recording_service.h"
 #include "support/shown.h"
 
@@ -10,23 +9,11 @@ namespace {
 
 using namespace CommonModelProcessingFunctions;
 
-/// A reference with a few fields, which remembers what was read.
-class FewFields final : public ReferenceModel {
-public:
-    mutable std::vector<std::int16_t> read;
-
-    Text value(std::int16_t index) const override {
-        read.push_back(index);
-        const auto found = mFields.find(index);
-        if (found == mFields.end()) {
-            throw RuntimeError(ErrorNumber::NoSuchMember);
-        }
-        return found->second;
-    }
-
-private:
-    std::map<std::int16_t, Text> mFields = {{-1, u"x"}, {5, u"Book"}, {7, u"True"}, {32767, u""}};
-};
+/// A reference with a few fields.
+std::shared_ptr<RecordingModel> fewFields() {
+    return std::make_shared<RecordingModel>(
+        std::map<std::int16_t, Text>{{-1, u"x"}, {5, u"Book"}, {7, u"True"}, {32767, u""}});
+}
 
 class KeyInstructions : public ReportingTest {};
 
@@ -62,7 +49,7 @@ TEST_F(KeyInstructions, AreTriggeredByAFieldOrTheOutputType) {
         {u"6=x||5=Book", kNotTriggered, kUntouched, {6}, u"438: Object doesn't support this property or method"},
     };
     for (const Case& c : kCases) {
-        const auto model = std::make_shared<FewFields>();
+        const auto model = fewFields();
         std::int16_t reason = kUntouched;
         service().forget();
         EXPECT_EQ(KeyInstructionsIsTriggered(c.instructions, model, u"Note", reason), c.result)

@@ -111,6 +111,12 @@ public:
         }
         return static_cast<std::int16_t>(last.font);
     }
+    void PageIndex(std::int32_t value) override {
+        called();
+        mPageIndex = value;
+    }
+    /// What was left there; -1 when nothing was.
+    std::int32_t pageIndex() const { return mPageIndex; }
 
 private:
     void called() const {
@@ -129,6 +135,7 @@ private:
     }
 
     std::vector<Phrase> mPhrases;
+    std::int32_t mPageIndex = -1;
     std::shared_ptr<Family> mFamily;
 };
 

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "core/reference_model.h"
+#include "host/com/host_reference.h"
+#include "host/com/late_bound_object.h"
+
+namespace quorvel::host {
+
+/// The host's reference model behind the port.
+class HostModel final : public ReferenceModel, public HasDispatch {
+public:
+    /// An empty reference for a host that passed none.
+    static ReferenceModelRef of(IDispatch* model);
+
+    explicit HostModel(IDispatch* model) : mObject(model) {}
+
+    Text value(std::int16_t index) const override;
+    void value(std::int16_t index, TextView text) override;
+
+    IDispatch* dispatch() const override { return mObject.dispatch(); }
+
+private:
+    LateBoundObject mObject;
+};
+
+/// The host's dictionary of field names behind the port.
+class HostKeyToInternalIndex final : public KeyToInternalIndex, public HasDispatch {
+public:
+    static KeyToInternalIndexRef of(IDispatch* dictionary);
+
+    explicit HostKeyToInternalIndex(IDispatch* dictionary) : mObject(dictionary) {}
+
+    std::int16_t item(TextView key) const override;
+
+    IDispatch* dispatch() const override { return mObject.dispatch(); }
+
+private:
+    LateBoundObject mObject;
+};
+
+}  // namespace quorvel::host
