@@ -24,6 +24,8 @@ class KeyToInternalIndex : public HostObject {
 public:
     /// The index of the field with this name; 0, the dictionary's empty item, when there is none.
     virtual std::int16_t item(TextView key) const = 0;
+    /// Whether there is a field with this name.
+    virtual bool has(TextView key) const = 0;
 };
 
 using KeyToInternalIndexRef = std::shared_ptr<const KeyToInternalIndex>;

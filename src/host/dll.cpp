@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "host/adapters/author_adapter.h"
+#include "host/adapters/citation_adapter.h"
 #include "host/adapters/date_time_adapter.h"
 #include "host/adapters/keywords_adapter.h"
 #include "host/adapters/model_adapter.h"
@@ -35,6 +36,7 @@ struct CreatableClass {
 const CreatableClass kCreatableClasses[] = {
     {CLSID_Main2, make<quorvel::host::Main2>},
     {CLSID_OutputTemplateModel, make<ModelAdapter>},
+    {CLSID_OutputTemplateCitation, make<CitationAdapter>},
     {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
     {CLSID_OutputTemplateTitle, make<TitleAdapter>},
     {CLSID_OutputTemplatePublisher, make<PublisherAdapter>},

@@ -1,5 +1,6 @@
 #include "host/host_model.h"
 
+#include "core/run_time_error.h"
 #include "host/com/answers.h"
 
 namespace quorvel::host {
@@ -22,6 +23,17 @@ KeyToInternalIndexRef HostKeyToInternalIndex::of(IDispatch* dictionary) {
 
 std::int16_t HostKeyToInternalIndex::item(TextView key) const {
     return numberAnswer(mObject.call(L"Item", key));
+}
+
+bool HostKeyToInternalIndex::has(TextView key) const {
+    try {
+        return flagAnswer(mObject.call(L"Exists", key));
+    } catch (const RuntimeError& error) {
+        if (error.number() != static_cast<std::int32_t>(ErrorNumber::NoSuchMember)) {
+            throw;
+        }
+    }
+    return true;
 }
 
 }  // namespace quorvel::host

@@ -31,6 +31,8 @@ public:
     explicit HostKeyToInternalIndex(IDispatch* dictionary) : mObject(dictionary) {}
 
     std::int16_t item(TextView key) const override;
+    /// By the dictionary's `Exists`; a host's own class without that member has every key it is asked for.
+    bool has(TextView key) const override;
 
     IDispatch* dispatch() const override { return mObject.dispatch(); }
 

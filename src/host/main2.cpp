@@ -5,6 +5,7 @@
 
 #include "core/procedure.h"
 #include "host/adapters/author_adapter.h"
+#include "host/adapters/citation_adapter.h"
 #include "host/adapters/date_time_adapter.h"
 #include "host/adapters/keywords_adapter.h"
 #include "host/adapters/model_adapter.h"
@@ -78,7 +79,8 @@ STDMETHODIMP Main2::buildModelTemplate(IDispatch** result) {
 }
 
 STDMETHODIMP Main2::buildCitationTemplate(IDispatch** result) {
-    return call(result, [&] { return procedure(*this, u"Main2.buildCitationTemplate", kNoParameters, cannotCreate); });
+    return call(result,
+                [&] { return procedure(*this, u"Main2.buildCitationTemplate", kNoParameters, make<CitationAdapter>); });
 }
 
 STDMETHODIMP Main2::build(short* whichType, IDispatch** formattedString, IDispatch** result) {

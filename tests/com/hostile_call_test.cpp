@@ -16,6 +16,15 @@ std::wstring lowerCase(std::wstring text) {
 void expectWorking(const LateBoundObject& object, const std::wstring& after) {
     if (idOf(object.dispatch(), L"build") != DISPID_UNKNOWN) {
         EXPECT_TRUE(objectOf(object.call(L"build", {kYear, static_cast<IDispatch*>(nullptr)})));
+    } else if (idOf(object.dispatch(), L"MergeFieldsWithModel") != DISPID_UNKNOWN) {
+        const auto sink = makeObject<FormattedText>();
+        const auto none = static_cast<IDispatch*>(nullptr);
+        object.call(L"Initialize", {sink.get(), false, none, none, none, none});
+        object.call(L"Reset", {L", ", true, L"", false, false, false, true, false, false, true, false, false, L" ",
+                               L", ", L": "});
+        object.call(L"Parse", {L"spring, 1990"});
+        object.call(L"ToFormattedString", {sink.get(), none, 0, false, false});
+        EXPECT_EQ(sink->toString(), L"(spring, 1990)") << after;
     } else if (idOf(object.dispatch(), L"Parse") == DISPID_UNKNOWN) {
         const auto sink = makeObject<FormattedText>();
         object.call(L"Initialize", {sink.get(), static_cast<IDispatch*>(nullptr)});

@@ -17,6 +17,7 @@ Function entryPoint(HMODULE module, const char* name) {
 const std::vector<CreatableClass> kClasses = {
     {L"Main2", __uuidof(::Main2), __uuidof(_Main2), {}},
     {L"OutputTemplateModel", __uuidof(::OutputTemplateModel), __uuidof(_OutputTemplateModel), {}},
+    {L"OutputTemplateCitation", __uuidof(::OutputTemplateCitation), __uuidof(_OutputTemplateCitation), {}},
     {L"OutputTemplateAuthor", __uuidof(::OutputTemplateAuthor), __uuidof(_OutputTemplateAuthor), {0, 9}},
     {L"OutputTemplateTitle", __uuidof(::OutputTemplateTitle), __uuidof(_OutputTemplateTitle), {1, 2, 3}},
     {L"OutputTemplatePublisher", __uuidof(::OutputTemplatePublisher), __uuidof(_OutputTemplatePublisher), {5}},

@@ -4,6 +4,7 @@
 
 #include "elements/title.h"
 #include "host/com/com_object.h"
+#include "host/com/element_access.h"
 #include "host/host_sink.h"
 #include "host/interfaces.h"
 #include "host/slot_arrays.h"
@@ -146,6 +147,9 @@ public:
     STDMETHODIMP isOldTitle(BSTR text, VARIANT_BOOL* result) override {
         return call(result, [&] { return mTitle->isOldTitle(view(text)); });
     }
+
+protected:
+    ComPtr<IUnknown> elementAccess() override { return ElementAccess::to(this, mTitle); }
 
 private:
     std::shared_ptr<OutputTemplateTitle> mTitle;

@@ -47,6 +47,7 @@ public:
         }
         return 0;
     }
+    bool has(TextView key) const override { return item(key) != 0; }
 
 private:
     std::vector<Text> mKeys;

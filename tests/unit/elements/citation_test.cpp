@@ -1,0 +1,442 @@
+#include "elements/citation.h"
+
+#include "support/author_reading.h"
+#include "support/recording_model.h"
+#include "support/recording_service.h"
+#include "support/recording_sink.h"
+#include "support/shown.h"
+#include "support/style_presets.h"
+
+namespace quorvel {
+namespace {
+
+using Fields = std::vector<std::pair<TextView, TextView>>;
+
+struct Style {
+    TextView name;
+    OutputTemplateAuthor::Options authors;
+    std::int16_t format;
+    OutputTemplateCitation::Options options;
+};
+
+/// MLA 7 6.3-6.4: author and page.
+Style mla() {
+    OutputTemplateCitation::Options options;
+    options.SEPAR = u", ";
+    options.volPrefix = u"vol. ";
+    options.titleIsQuoted = true;
+    options.supportsSubwork = true;
+    options.PSEPR = u" ";
+    options.VSEPR = u": ";
+    return {u"MLA", test::mlaAuthorOptions(), 2, options};
+}
+
+/// APA 6 6.11-6.20: author and date.
+Style apa() {
+    OutputTemplateCitation::Options options;
+    options.SEPAR = u", ";
+    options.useNoDate = true;
+    options.volPrefix = u"Vol. ";
+    options.useOriginalYear = true;
+    options.titleIsQuoted = true;
+    options.supportsSubwork = true;
+    options.PSEPR = u", ";
+    options.YSEPR = u", ";
+    options.VSEPR = u", ";
+    return {u"APA", test::apaAuthorOptions(), 1, options};
+}
+
+/// Turabian 7 16.4: author, short title and page.
+Style turabian() {
+    OutputTemplateCitation::Options options;
+    options.SEPAR = u", ";
+    options.volPrefix = u"vol. ";
+    options.useAuthorOrPeriodicalTitle = true;
+    options.useTitle = true;
+    options.titleIsQuoted = true;
+    options.useEmailKey = true;
+    options.supportsSubwork = true;
+    options.PSEPR = u", ";
+    options.VSEPR = u":";
+    return {u"Turabian", test::turabianAuthorOptions(), 3, options};
+}
+
+/// AMA 10 3.3: the journal; otherwise author and date.
+Style ama() {
+    OutputTemplateCitation::Options options;
+    options.SEPAR = u", ";
+    options.volPrefix = u"vol ";
+    options.useEmailKey = true;
+    options.useDegree = true;
+    options.journalCentric = true;
+    options.PSEPR = u", ";
+    options.YSEPR = u", ";
+    options.VSEPR = u":";
+    return {u"AMA", test::amaAuthorOptions(), 0, options};
+}
+
+/// The phrases, those in italics between "_".
+Text marked(const RecordingSink& sink) {
+    Text text;
+    for (const RecordingSink::Phrase& phrase : sink.phrases()) {
+        const TextView mark = phrase.font == 1 && !phrase.text.empty() ? u"_" : u"";
+        text += concatenate({mark, phrase.text, mark});
+    }
+    return text;
+}
+
+class Citation : public ReportingTest {
+protected:
+    Citation() {
+        std::vector<Text> names;
+        for (const CitationKey& key : kCitationKeys) {
+            names.emplace_back(key.key);
+        }
+        keys = std::make_shared<NumberedKeys>(names);
+    }
+
+    void use(const Style& style) {
+        title->Initialize(std::make_shared<RecordingSink>());
+        title->Reset(style.format, nullptr, style.format < 2, true, u"", true, u"", true, u"");
+        citation.Initialize(std::make_shared<RecordingSink>(), true, keys, test::authorWith(style.authors), title,
+                            nullptr);
+        citation.Reset(style.options);
+    }
+    void setFields(const Fields& fields) {
+        model->fields.clear();
+        for (std::int16_t i = 1; i <= static_cast<std::int16_t>(std::size(kCitationKeys)); ++i) {
+            model->fields[i] = Text();
+        }
+        for (const auto& [key, value] : fields) {
+            model->fields[keys->item(key)] = Text(value);
+        }
+    }
+    Text output(std::int16_t firstNames = 0, bool hasOtherTitles = false) {
+        sink->Reset();
+        citation.ToFormattedString(sink, model, firstNames, hasOtherTitles, true);
+        return marked(*sink);
+    }
+    Text minimal(bool hasOtherTitles = false) {
+        sink->Reset();
+        citation.ToMinimalFormattedString(sink, model, 0, hasOtherTitles);
+        return marked(*sink);
+    }
+
+    std::shared_ptr<NumberedKeys> keys;
+    std::shared_ptr<OutputTemplateTitle> title = std::make_shared<OutputTemplateTitle>();
+    std::shared_ptr<RecordingModel> model = std::make_shared<RecordingModel>();
+    std::shared_ptr<RecordingSink> sink = std::make_shared<RecordingSink>();
+    OutputTemplateCitation citation;
+};
+
+TEST_F(Citation, IsWhatTheManualsAskFor) {
+    struct Case {
+        Fields fields;
+        TextView mla, apa, turabian, ama;
+    };
+    const Case kCases[] = {
+        {{{u"author", u"Kuhn, Thomas S."},
+          {u"title", u"The structure of scientific revolutions"},
+          {u"year", u"1970"},
+          {u"citedPage", u"52"}},
+         u"(Kuhn 52)",
+         u"(Kuhn, 1970, 52)",
+         u"(Kuhn, _Structure of Scientific Revolutions_, 52)",
+         u"(Kuhn, 1970, 52)"},
+        {{{u"author", u"Smith, John, and Mary Jones"},
+          {u"title", u"Images"},
+          {u"year", u"2005"},
+          {u"citedPage", u"12"}},
+         u"(Smith and Jones 12)",
+         u"(Smith & Jones, 2005, 12)",
+         u"(Smith and Jones, _Images_, 12)",
+         u"(Smith Jones, 2005, 12)"},
+        {{{u"author", u"Kernis, M. H., Cornell, D. P., Sun, C. R., Berry, A., & Harlow, T."},
+          {u"title", u"There's more"},
+          {u"year", u"1993"}},
+         u"(Kernis et al.)",
+         u"(Kernis, Cornell, Sun, Berry, & Harlow, 1993)",
+         u"(Kernis et al., _There's More_)",
+         u"(Kernis et al., 1993)"},
+        // No author: the title, in quotation marks when it is of a part; the comma goes inside them.
+        {{{u"title", u"New Child Vaccine Gets Funding Boost"}, {u"website", u"ninemsn"}, {u"year", u"n.d."}},
+         u"(“New Child Vaccine Gets”)",
+         u"(“New Child Vaccine Gets,” n.d.)",
+         u"(“New Child Vaccine Gets”)",
+         u"(New Child Vaccine Gets)"},
+        {{{u"title", u"Voice of the Shuttle"}, {u"year", u"2001"}, {u"citedPage", u"3"}},
+         u"(_Voice of the Shuttle_ 3)",
+         u"(_Voice of the Shuttle_, 2001, 3)",
+         u"(_Voice of the Shuttle_, 3)",
+         u"(_Voice of the Shuttle_, 2001, 3)"},
+        {{{u"title", u"It's Subpoena Time"}, {u"periodical", u"New York Times"}, {u"year", u"2007"}},
+         u"(“It's Subpoena Time”)",
+         u"(“It's Subpoena Time,” 2007)",
+         u"(_New York Times_, “It's Subpoena Time”)",
+         u"(_New York Times_. 2007)"},
+        {{{u"editor", u"Gilman, Sander, Helen King, and Roy Porter, eds."}, {u"title", u"Hysteria beyond Freud"}},
+         u"(Gilman, King, and Porter)",
+         u"(Gilman, King, & Porter, n.d.)",
+         u"(Gilman, King, and Porter, _Hysteria beyond Freud_)",
+         u"(Gilman et al.)"},
+        // Volumes, years of all kinds.
+        {{{u"author", u"Wellek, René"},
+          {u"title", u"A History of Modern Criticism"},
+          {u"year", u"1955"},
+          {u"citedVolume", u"2"},
+          {u"citedPage", u"1-10"}},
+         u"(Wellek 2: 1-10)",
+         u"(Wellek, 1955, Vol. 2, 1-10)",
+         u"(Wellek, _History of Modern Criticism_, 2:1-10)",
+         u"(Wellek, 1955, 2:1-10)"},
+        {{{u"author", u"Wellek, René"},
+          {u"title", u"A History"},
+          {u"year", u"[ca. 1955]"},
+          {u"citedVolume", u"Vol. 2"}},
+         u"(Wellek, vol. 2)",
+         u"(Wellek, ca. 1955, Vol. 2)",
+         u"(Wellek, _History_, vol. 2)",
+         u"(Wellek, ca. 1955, vol 2)"},
+        {{{u"author", u"Freud, Sigmund"}, {u"title", u"Dreams"}, {u"year", u"1953"}, {u"originalYear", u"1900"}},
+         u"(Freud)",
+         u"(Freud, 1900/1953)",
+         u"(Freud, _Dreams_)",
+         u"(Freud, 1953)"},
+        {{{u"author", u"Auerbach, Jane"}, {u"title", u"Wheel"}, {u"year", u"In press"}},
+         u"(Auerbach)",
+         u"(Auerbach, in press)",
+         u"(Auerbach, _Wheel_)",
+         u"(Auerbach, in press)"},
+        // A part of a work; what a journal centric style makes of an article.
+        {{{u"author", u"Keiser, G. E."},
+          {u"title", u"Middle English Prose"},
+          {u"subwork", u"St Jerome and the Brigittines"},
+          {u"year", u"1984"}},
+         u"(Keiser)",
+         u"(Keiser, 1984)",
+         u"(Keiser, “St Jerome”)",
+         u"(Keiser, 1984)"},
+        {{{u"author", u"Chiang, WW"},
+          {u"title", u"X"},
+          {u"periodical", u"JAMA"},
+          {u"year", u"2004"},
+          {u"citedVolume", u"291"},
+          {u"issue", u"20"},
+          {u"citedPage", u"2432"}},
+         u"(Chiang 291: 2432)",
+         u"(Chiang, 2004, Vol. 291, 2432)",
+         u"(Chiang, “X,” 291:2432)",
+         u"(_JAMA_. 2004;291(20):2432)"},
+        // Communications.
+        {{{u"author", u"Lutes, T. K."}, {u"degree", u"MD"}, {u"email", u"True"}, {u"date", u"April 18, 2001"}},
+         u"(Lutes)",
+         u"(T. K. Lutes, personal communication, April 18, 2001)",
+         u"(T. K. Lutes, e-mail communication, April 18, 2001)",
+         u"(TK Lutes, MD, e-mail communication, April 18, 2001)"},
+        {{}, u"", u"(n.d.)", u"", u""},
+    };
+    for (const Case& c : kCases) {
+        setFields(c.fields);
+        const TextView expected[] = {c.mla, c.apa, c.turabian, c.ama};
+        const Style styles[] = {mla(), apa(), turabian(), ama()};
+        for (std::size_t i = 0; i < std::size(styles); ++i) {
+            use(styles[i]);
+            EXPECT_EQ(output(), expected[i]) << shown(styles[i].name);
+        }
+    }
+    EXPECT_EQ(service().errors(), std::vector<Text>());
+}
+
+TEST_F(Citation, FirstNamesTitlesAndTheMinimalFormTellWorksApart) {
+    setFields({{u"author", u"Frye, Northrop, Jane Patterson, Li Wei"},
+               {u"title", u"The double vision: Language and meaning in religion"},
+               {u"year", u"1991"},
+               {u"citedPage", u"85"}});
+    use(mla());
+    EXPECT_EQ(output(1), u"(N. Frye, Patterson, and Wei 85)");
+    EXPECT_EQ(output(2), u"(Northrop Frye, Patterson, and Wei 85)");
+    EXPECT_EQ(output(0, true), u"(Frye, Patterson, and Wei, _Double Vision_ 85)");
+    EXPECT_EQ(output(3), u"(85)");
+    EXPECT_EQ(output(3, true), u"(_Double Vision_ 85)");
+    use(apa());
+    // The year tells works apart.
+    EXPECT_EQ(output(0, true), u"(Frye, Patterson, & Wei, 1991, 85)");
+    EXPECT_EQ(output(3), u"(1991, 85)");
+    EXPECT_EQ(minimal(), u"(Frye et al., 1991, 85)");
+    model->fields[keys->item(u"year")] = u"1991a";
+    EXPECT_EQ(minimal(), u"(Frye et al., 1991a, 85)");
+    model->fields[keys->item(u"year")] = u"";
+    model->fields[keys->item(u"citedPage")] = u"";
+    EXPECT_EQ(output(3), u"(n.d.)");
+    use(turabian());
+    EXPECT_EQ(minimal(), u"(Frye, Patterson, and Wei)");
+    EXPECT_EQ(minimal(true), u"(Frye, Patterson, and Wei, _Double Vision_)");
+    model->fields[keys->item(u"shortTitle")] = u"Vision";
+    EXPECT_EQ(citation.toString(model, 0, false), u"(Frye, Patterson, and Wei, Vision)");
+    EXPECT_EQ(service().errors(), std::vector<Text>());
+}
+
+TEST_F(Citation, AWebSiteStandsAloneWhereTheHostWantsIt) {
+    use(apa());
+    OutputTemplateCitation::Options options = apa().options;
+    options.useWebsiteWhenNoAuthorAndDate = true;
+    citation.Reset(options);
+    setFields({{u"title", u"Home"}, {u"website", u"http://www.apa.org"}});
+    EXPECT_EQ(output(), u"(http://www.apa.org)");
+    setFields({{u"title", u"Home"}, {u"website", u"http://www.apa.org"}, {u"year", u"2001"}});
+    EXPECT_EQ(output(), u"(“Home,” 2001)");
+}
+
+TEST_F(Citation, ReadsWhatItWrites) {
+    struct Case {
+        TextView citation;
+        Fields fields;
+        TextView previous = u"";
+    };
+    const Case kCases[] = {
+        {u"(Smith & Jones, 2005, p. 12)",
+         {{u"author", u"Smith & Jones"}, {u"year", u"2005"}, {u"citedPage", u"p. 12"}}},
+        {u"(Smith, Jones, & Li, 2005a)", {{u"author", u"Smith, Jones, & Li"}, {u"year", u"2005a"}}},
+        {u"(Wasserstein et al., n.d., para. 4)",
+         {{u"author", u"Wasserstein et al."}, {u"year", u"n.d."}, {u"citedPage", u"para. 4"}}},
+        {u"(Freud, 1900/1953)", {{u"author", u"Freud"}, {u"originalYear", u"1900"}, {u"year", u"1953"}}},
+        {u"(Smith, 2005, 1984)", {{u"author", u"Smith"}, {u"year", u"2005"}, {u"citedPage", u"1984"}}},
+        {u"(“New Child Vaccine,” n.d.)", {{u"subwork", u"New Child Vaccine"}, {u"year", u"n.d."}}},
+        {u"(2005, p. 12)", {{u"year", u"2005"}, {u"citedPage", u"p. 12"}}},
+        {u"(Smith and Jones 12)", {{u"author", u"Smith and Jones"}, {u"citedPage", u"12"}}},
+        {u"(Smith and Li)", {{u"author", u"Smith and Li"}}},
+        {u"(Wellek 2: 1-10)", {{u"author", u"Wellek"}, {u"citedVolume", u"2"}, {u"citedPage", u"1-10"}}},
+        {u"(Wellek, vol. 2)", {{u"author", u"Wellek"}, {u"citedVolume", u"2"}}},
+        {u"(Chan par. 4)", {{u"author", u"Chan"}, {u"citedPage", u"par. 4"}}},
+        {u"(Frye, Double Vision 85)", {{u"author", u"Frye"}, {u"title", u"Double Vision"}, {u"citedPage", u"85"}}},
+        {u"Kuhn, Structure of Scientific Revolutions, 52.",
+         {{u"author", u"Kuhn"}, {u"title", u"Structure of Scientific Revolutions"}, {u"citedPage", u"52"}}},
+        {u"Smith, Jones, and Brown, War and Peace, 2:12, 14–15.",
+         {{u"author", u"Smith, Jones, and Brown"},
+          {u"title", u"War and Peace"},
+          {u"citedVolume", u"2"},
+          {u"citedPage", u"12, 14–15"}}},
+        {u"King, Jr., “Letter,” 5.", {{u"author", u"King, Jr."}, {u"subwork", u"Letter"}, {u"citedPage", u"5"}}},
+        {u"Ibid., 57.",
+         {{u"author", u"Kuhn"}, {u"title", u"Structure"}, {u"citedPage", u"57"}},
+         u"Kuhn, Structure, 52."},
+        {u"Ibid.", {{u"author", u"Kuhn"}, {u"citedPage", u"52"}}, u"(Kuhn 52)"},
+        {u"(T. K. Lutes, personal communication, April 18, 2001)",
+         {{u"author", u"T. K. Lutes"}, {u"personalCommunication", u"True"}, {u"date", u"April 18, 2001"}}},
+        {u"(JAMA. 2004;291(20):2432)",
+         {{u"periodical", u"JAMA"},
+          {u"year", u"2004"},
+          {u"citedVolume", u"291"},
+          {u"issue", u"20"},
+          {u"citedPage", u"2432"}}},
+        {u"", {}},
+        {u"()", {}},
+    };
+    use(apa());
+    for (const Case& c : kCases) {
+        Text text(c.citation);
+        citation.Parse(text, c.previous);
+        EXPECT_EQ(text, u"");
+        setFields({});
+        const auto expected = std::make_shared<RecordingModel>(model->fields);
+        for (const auto& [key, value] : c.fields) {
+            expected->fields[keys->item(key)] = Text(value);
+        }
+        citation.MergeFieldsWithModel(model, 0, nullptr, nullptr);
+        EXPECT_EQ(model->fields, expected->fields) << shown(c.citation);
+    }
+    EXPECT_EQ(service().errors(), std::vector<Text>());
+}
+
+TEST_F(Citation, MergingKeepsWhatTheModelKnows) {
+    use(apa());
+    Text text = u"(Smith & Jones, 2005, p. 12)";
+    citation.Parse(text, {});
+    EXPECT_EQ(citation.Year(), u"2005");
+    setFields({{u"author", u"Smith, John, and Mary Jones"}, {u"year", u"n.d."}, {u"citedPage", u"7"}});
+    const auto authors = test::authorWith(test::apaAuthorOptions());
+    citation.MergeFieldsWithModel(model, 3, authors, nullptr);
+    EXPECT_EQ(model->fields[keys->item(u"author")], u"Smith, John, and Mary Jones");
+    EXPECT_EQ(model->fields[keys->item(u"year")], u"2005");
+    EXPECT_EQ(model->fields[keys->item(u"citedPage")], u"p. 12");
+    EXPECT_EQ(authors->numAuthors(), 0);
+    setFields({});
+    citation.MergeFieldsWithModel(model, 3, authors, nullptr);
+    EXPECT_EQ(test::personsOf(*authors), u"Smith; Jones");
+    // What was read is written without the model.
+    citation.Year(u"2006");
+    citation.ToFormattedString(sink, model, 0, false, false);
+    EXPECT_EQ(sink->plain(), u"(Smith & Jones, 2006, p. 12)");
+    EXPECT_EQ(service().errors(), std::vector<Text>());
+}
+
+TEST_F(Citation, ALayoutOfTheHostsTakesThePlaceOfTheOwn) {
+    use(turabian());
+    setFields(
+        {{u"author", u"Kuhn, Thomas"}, {u"title", u"The Structure of Scientific Revolutions"}, {u"citedPage", u"52"}});
+    citation.ResetLikeModelTemplate(4, nullptr);
+    for (std::int16_t i = 0; i <= 4; ++i) {
+        std::vector<Text> separators(static_cast<std::size_t>(6 - i), u", ");
+        separators.front() = u"";
+        separators.back() = u".";
+        citation.Add(i, i < 2, u"", separators);
+    }
+    EXPECT_EQ(output(), u"Kuhn, _Structure of Scientific Revolutions_, 52.");
+    // The host fills a layout of its own, and the style's own comes back with the next Reset.
+    class Filler final : public Implementor {
+        void ToFormattedString(const OutputSinkRef&, bool, bool) override {}
+        bool ToFormattedStringImpl(bool, std::vector<Text>& items, std::vector<OutputSinkRef>&, bool) override {
+            items.at(0) = u"Kuhn";
+            return false;
+        }
+    };
+    citation.ResetLikeModelTemplate(0, std::make_shared<Filler>());
+    citation.Add(0, false, u"", {u"See ", u"!"});
+    EXPECT_EQ(output(), u"See Kuhn!");
+    citation.Reset(mla().options);
+    EXPECT_EQ(output(), u"(Kuhn 52)");
+    EXPECT_EQ(service().errors(), std::vector<Text>());
+}
+
+TEST_F(Citation, SurvivesWhatIsMissingFailsOrActs) {
+    OutputTemplateCitation untouched;
+    untouched.Reset(apa().options);
+    untouched.ToFormattedString(sink, model, 0, false, true);
+    EXPECT_EQ(untouched.toString(model, 0, false), u"");
+    citation.Initialize(std::make_shared<RecordingSink>(), true, nullptr, nullptr, nullptr, nullptr);
+    EXPECT_EQ(service().errors().size(), 4u);
+    service().forget();
+
+    use(apa());
+    setFields({{u"author", u"Kuhn, Thomas"}, {u"title", u"Structure"}, {u"year", u"1970"}, {u"citedPage", u"p. 5"}});
+    const Text whole = output();
+    // Any call of the host's sinks may fail, and any may do as it likes with the citation.
+    for (int call = 1; call < 8; ++call) {
+        sink->Reset();
+        sink->failAt(call);
+        citation.ToFormattedString(sink, model, 0, false, true);
+        sink->failAt(0);
+        EXPECT_LT(sink->plain().size(), whole.size()) << call;
+    }
+    EXPECT_FALSE(service().errors().empty());
+    sink->onCall([&] {
+        use(mla());
+        Text text = u"Smith 5";
+        citation.Parse(text, {});
+    });
+    output();
+    sink->onCall(nullptr);
+    model->onRead = [&] { use(mla()); };
+    output();
+    model->onRead = nullptr;
+    use(apa());
+    EXPECT_EQ(output(), whole);
+    // A model without the fields.
+    model->fields.clear();
+    service().forget();
+    EXPECT_EQ(output(), u"");
+    EXPECT_EQ(service().errors().size(), 1u);
+}
+
+}  // namespace
+}  // namespace quorvel
