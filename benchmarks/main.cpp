@@ -1,4 +1,4 @@
-// Runs the benchmarks and prints one plain line for each: name, value, unit.
+// Runs the benchmarks and prints one plain line for each: name, value, unit; a counter has a line of its own.
 
 #include <benchmark/benchmark.h>
 
@@ -13,6 +13,9 @@ public:
         for (const Run& run : runs) {
             std::printf("%s %.4g %s\n", run.benchmark_name().c_str(), run.GetAdjustedCPUTime(),
                         benchmark::GetTimeUnitString(run.time_unit));
+            for (const auto& [name, counter] : run.counters) {
+                std::printf("%s/%s %.4g\n", run.benchmark_name().c_str(), name.c_str(), counter.value);
+            }
             std::fflush(stdout);
         }
     }

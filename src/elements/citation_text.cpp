@@ -101,7 +101,8 @@ void addPage(TextView page, CitationFields& fields) {
 /// "2: 1-10", "2:12": a volume with its page.
 bool readVolumeAndPage(TextView piece, CitationFields& fields) {
     const std::size_t colon = piece.find(u':');
-    if (colon == TextView::npos || !consistsOf(piece.substr(0, colon), u"0123456789IVXLC")) {
+    if (!fields.volume.empty() || colon == TextView::npos ||
+        !consistsOf(piece.substr(0, colon), u"0123456789IVXLC")) {
         return false;
     }
     const TextView page = trimmed(piece.substr(colon + 1), u" ");
@@ -115,7 +116,7 @@ bool readVolumeAndPage(TextView piece, CitationFields& fields) {
 
 /// One piece behind the author and title; False when it is no such piece.
 bool readLocatorPiece(TextView piece, CitationFields& fields) {
-    if (isVolume(piece)) {
+    if (isVolume(piece) && fields.volume.empty()) {
         fields.volume = volumeNumber(piece);
     } else if (isLocator(piece)) {
         addPage(piece, fields);

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "core/output_template_model.h"
+#include "elements/author.h"
+#include "elements/page.h"
+#include "elements/place.h"
+#include "elements/publisher.h"
+#include "elements/title.h"
+#include "elements/year.h"
+
+/// A native host: references with all their elements, and a style that writes them.
+namespace quorvel::bench {
+
+/// The elements of a reference, each a slot of its layout.
+enum Element : std::size_t { kAuthor, kTitle, kContainer, kVolume, kPlace, kPublisher, kYear, kPage, kElements };
+
+/// The texts of the elements as they stand in a finished reference; empty where it has none.
+using Reference = std::array<Text, kElements>;
+
+/// Books, articles and chapters of several authors and fields.
+std::span<const Reference> references();
+
+/// A sink that keeps what is written, with its fonts.
+class PhraseSink final : public OutputSink {
+public:
+    void Add(TextView text) override { Add(text, kPlain); }
+    void Add(TextView text, std::int32_t font) override;
+    void addFormattedString(const OutputSink& fragment) override;
+    OutputSinkRef Clone() const override;
+    void Reset() override;
+    OutputSinkRef BuildNewFormattedString() const override { return std::make_shared<PhraseSink>(); }
+    Text toString() const override { return mText; }
+    Text toRTFString() const override { return mText; }
+    bool IsEmpty() const override { return mText.empty(); }
+    std::int16_t removeQuoteFromLastPhrase() override;
+    void PageIndex(std::int32_t /*value*/) override {}
+
+    const Text& text() const { return mText; }
+
+private:
+    struct Phrase {
+        std::size_t end;
+        std::int32_t font;
+    };
+    Text mText;
+    std::vector<Phrase> mPhrases;
+};
+
+/// One style: an element of each kind and the layout of a reference.
+class Style final : public Implementor {
+public:
+    enum Name { kMla, kApa, kTurabian, kAma };
+    explicit Style(Name name);
+
+    /// Parses all elements and writes the reference.
+    void write(const Reference& reference, const OutputSinkRef& sink);
+
+    /// The elements as this style writes them.
+    Reference elementsOf(const Reference& reference);
+
+    void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
+    bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                               bool shortenedVersion) override;
+
+private:
+    void parse(const Reference& reference);
+
+    OutputTemplateAuthor mAuthor;
+    OutputTemplateTitle mTitle;
+    OutputTemplateTitle mContainer;
+    OutputTemplatePlace mPlace;
+    OutputTemplatePublisher mPublisher;
+    OutputTemplateYear mYear;
+    OutputTemplatePage mPage;
+    OutputTemplateModel mModel;
+    const Reference* mReference = nullptr;
+    // Not owned: the style is its own implementor.
+    ImplementorRef mSelf{ImplementorRef(), this};
+    ReferenceModelRef mFields;
+    Text mText;
+};
+
+}  // namespace quorvel::bench
