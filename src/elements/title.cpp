@@ -7,7 +7,6 @@
 #include "core/run_time_error.h"
 #include "elements/title_language.h"
 #include "elements/title_types.h"
-#include "elements/title_words.h"
 
 namespace quorvel {
 
@@ -166,17 +165,19 @@ void OutputTemplateTitle::parseAndRemoveTranslation(Text& text) {
 void OutputTemplateTitle::parseAndRemovePrematter(Text& text, TextView secondaryStr) {
     procedure(*this, u"OutputTemplateTitle.parseAndRemovePrematter", {{u"text", text}, {u"secondaryStr", secondaryStr}},
               [&] {
-                  constexpr TextView kByTexts[] = {u", by ", u". By "};
-                  std::size_t by = Text::npos;
-                  for (const TextView joint : kByTexts) {
-                      const std::size_t place = text.rfind(joint);
-                      by = by == Text::npos ? place : by;
-                  }
                   Text type;
                   for (const Text& name : mPrematterTypes) {
                       type = startsWithIgnoringCase(text, name) ? name : type;
                   }
                   bool isFound = titletypes::isPrematter(secondaryStr);
+                  if (type.empty() && !isFound) {
+                      return;
+                  }
+                  constexpr TextView kByTexts[] = {u", by ", u". By "};
+                  std::size_t by = Text::npos;
+                  for (const TextView joint : kByTexts) {
+                      by = by == Text::npos ? text.rfind(joint) : by;
+                  }
                   if (!type.empty()) {
                       // "Introduction to Algorithms" is a book; with an author it is the introduction of one.
                       const TextView rest = TextView(text).substr(type.size());
@@ -315,13 +316,13 @@ bool OutputTemplateTitle::shouldBeCapitalized(TextView word, bool ignoreFormatCa
                          if (lowered.size() > 1) {
                              titlecase::lowerAt(lowered, 0);
                          }
-                         return !titlewords::isSmallWord(lowered);
+                         return !titlewords::Lexicon::instance().find(word, lowered).is(titlewords::kSmallWord);
                      });
 }
 
 bool OutputTemplateTitle::isAlwaysLowercase(TextView word) const {
     return procedure(*this, u"OutputTemplateTitle.isAlwaysLowercase", {{u"word", word}},
-                     [&] { return titlewords::isParticle(word); });
+                     [&] { return titlewords::Lexicon::instance().find(word, word).is(titlewords::kParticle); });
 }
 
 bool OutputTemplateTitle::isAcronym(TextView word) const {
@@ -335,18 +336,26 @@ bool OutputTemplateTitle::wordIsPossessive(TextView word) const {
 }
 
 bool OutputTemplateTitle::isEnglishTitle(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.isEnglishTitle", {{u"text", text}},
-                     [&] { return titlelanguage::isEnglish(text); });
+    return isEnglishTitle(titlecase::readTitle(text));
+}
+
+bool OutputTemplateTitle::isEnglishTitle(const titlecase::TitleText& title) const {
+    return procedure(*this, u"OutputTemplateTitle.isEnglishTitle", {{u"text", title.text}},
+                     [&] { return titlelanguage::isEnglish(title); });
 }
 
 bool OutputTemplateTitle::isForeignTitle(TextView text) const {
     return procedure(*this, u"OutputTemplateTitle.isForeignTitle", {{u"text", text}},
-                     [&] { return titlelanguage::hasForeignSpelling(text); });
+                     [&] { return titlelanguage::hasForeignSpelling(titlecase::readTitle(text)); });
 }
 
 bool OutputTemplateTitle::isOldTitle(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.isOldTitle", {{u"text", text}},
-                     [&] { return titlelanguage::isOld(text); });
+    return isOldTitle(titlecase::readTitle(text));
+}
+
+bool OutputTemplateTitle::isOldTitle(const titlecase::TitleText& title) const {
+    return procedure(*this, u"OutputTemplateTitle.isOldTitle", {{u"text", title.text}},
+                     [&] { return titlelanguage::isOld(title); });
 }
 
 bool OutputTemplateTitle::isPreformattedTitle(TextView text) const {

@@ -133,19 +133,30 @@ private:
     void layOut();
     titlecase::Rules rules() const;
     Text headingCapitalization(TextView text) const;
-    void formatRuleImpl(Text& text, std::span<const titlecase::Word> piece, bool capitalizeFirstWord,
-                        bool isHeadingCapitalization) const;
+    // The members of these names for a title that has been read.
+    Text formatRule(titlecase::TitleText& title) const;
+    bool isEnglishTitle(const titlecase::TitleText& title) const;
+    bool isOldTitle(const titlecase::TitleText& title) const;
+    bool isRecased(const titlecase::TitleText& title) const;
+    void formatRuleImpl(Text& text, const titlecase::TitleText& title, std::span<titlecase::Word> piece,
+                        bool capitalizeFirstWord, bool isHeadingCapitalization) const;
 
     void parseAndRemoveTranslation(Text& text);
     void parseAndRemovePrematter(Text& text, TextView secondaryStr);
 
     Text wholeTitle(bool shortenedVersion) const;
     bool isPart() const;
-    void addTitle(const OutputSinkRef& formattedStr, TextView text, bool isPart) const;
-    void addTitleImpl(const OutputSinkRef& formattedStr, TextView text, bool isPart) const;
-    void UnItalicizeSpeciesAndNamesOfShips(Text& text, std::vector<titlecase::Range>& roman) const;
-    void UnItalicizeSpecies(Text& text, std::vector<titlecase::Range>& roman) const;
-    void UnItalicizeShipNames(const Text& text, std::vector<titlecase::Range>& roman) const;
+    // The words are those of the title as typed: they stand in the same places.
+    void addTitle(const OutputSinkRef& formattedStr, Text& text, std::span<const titlecase::Word> words,
+                  bool isPart) const;
+    void addTitleImpl(const OutputSinkRef& formattedStr, Text& text, std::span<const titlecase::Word> words,
+                      bool isPart) const;
+    void UnItalicizeSpeciesAndNamesOfShips(Text& text, std::span<const titlecase::Word> words,
+                                           std::vector<titlecase::Range>& roman) const;
+    void UnItalicizeSpecies(Text& text, std::span<const titlecase::Word> words,
+                            std::vector<titlecase::Range>& roman) const;
+    void UnItalicizeShipNames(TextView text, std::span<const titlecase::Word> words,
+                              std::vector<titlecase::Range>& roman) const;
     void movePunctuation(std::vector<Text>& items, TextView title);
     void ToFormattedStringPrematterImpl(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion);
 

@@ -10,11 +10,12 @@
 #include "elements/title.h"
 #include "elements/title_language.h"
 #include "elements/title_types.h"
-#include "elements/title_words.h"
 
 namespace quorvel {
 
 using titlecase::Range;
+using titlecase::slice;
+using titlecase::TitleText;
 using titlecase::Word;
 
 namespace {
@@ -38,10 +39,6 @@ constexpr TextView kShipPrefixes[] = {u"U.S.S. ", u"USS ", u"H.M.S. ", u"HMS ", 
 
 bool isQuestionOrExclamation(char16_t unit) {
     return unit == u'?' || unit == u'!';
-}
-
-TextView slice(TextView text, Range range) {
-    return text.substr(range.begin, range.end - range.begin);
 }
 
 /// The double quotation marks inside a title that gets some itself become single ones.
@@ -94,35 +91,45 @@ Text OutputTemplateTitle::CapitalizationRule() const {
 }
 
 Text OutputTemplateTitle::formatRule(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.formatRule", {{u"text", text}}, [&] {
-        Text result(text);
+    TitleText title = titlecase::readTitle(text);
+    return formatRule(title);
+}
+
+Text OutputTemplateTitle::formatRule(TitleText& title) const {
+    return procedure(*this, u"OutputTemplateTitle.formatRule", {{u"text", title.text}}, [&] {
+        Text result(title.text);
         const titlecase::Rules inForce = rules();
-        const std::vector<Word> words = titlecase::wordsOf(text);
-        const bool isChanged =
-            titlelanguage::isRecased(text, words) && (inForce.isHeading || titlecase::standsInHeadingCase(text, words));
-        if (!isChanged) {
-            return result;
-        }
-        for (const std::span<const Word> piece : titlecase::pieces(words)) {
-            formatRuleImpl(result, piece, titlecase::capitalizesFirstWord(piece.front(), inForce), inForce.isHeading);
+        if (isRecased(title) && (inForce.isHeading || titlecase::standsInHeadingCase(title))) {
+            for (std::size_t i = 0; i < title.words.size();) {
+                const std::span<Word> piece = title.pieceFrom(i);
+                formatRuleImpl(result, title, piece, titlecase::capitalizesFirstWord(piece.front(), inForce),
+                               inForce.isHeading);
+                i += piece.size();
+            }
         }
         return result;
     });
 }
 
-void OutputTemplateTitle::formatRuleImpl(Text& text, std::span<const Word> piece, bool capitalizeFirstWord,
-                                         bool isHeadingCapitalization) const {
+void OutputTemplateTitle::formatRuleImpl(Text& text, const TitleText& title, std::span<Word> piece,
+                                         bool capitalizeFirstWord, bool isHeadingCapitalization) const {
     procedure(*this, u"OutputTemplateTitle.formatRuleImpl",
               {{u"capitalizeFirstWord", capitalizeFirstWord}, {u"isHeadingCapitalization", isHeadingCapitalization}},
               [&] {
                   titlecase::Rules inForce = rules();
                   inForce.isHeading = isHeadingCapitalization;
-                  titlecase::applyPiece(text, piece, capitalizeFirstWord, inForce);
+                  titlecase::applyPiece(text, title, piece, capitalizeFirstWord, inForce);
               });
 }
 
+/// Whether a title may be recased at all: English, in no old spelling, and not preformatted.
+bool OutputTemplateTitle::isRecased(const TitleText& title) const {
+    return !isPreformattedTitle(title.text) && isEnglishTitle(title) && !isOldTitle(title);
+}
+
 std::vector<Range> OutputTemplateTitle::changedWords(TextView text) const {
-    return titlecase::changedWords(text, formatRule(text), titlecase::wordsOf(text));
+    TitleText title = titlecase::readTitle(text);
+    return titlecase::changedWords(text, formatRule(title), title.words);
 }
 
 Text OutputTemplateTitle::headingCapitalization(TextView text) const {
@@ -134,15 +141,13 @@ Text OutputTemplateTitle::headingCapitalization(TextView text) const {
 }
 
 Text OutputTemplateTitle::InHeadingCapitalization(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.InHeadingCapitalization", {{u"text", text}}, [&] {
-        const bool isLeftAlone = isPreformattedTitle(text) || !isEnglishTitle(text) || isOldTitle(text);
-        return isLeftAlone ? Text(text) : headingCapitalization(text);
-    });
+    return procedure(*this, u"OutputTemplateTitle.InHeadingCapitalization", {{u"text", text}},
+                     [&] { return isRecased(titlecase::readTitle(text)) ? headingCapitalization(text) : Text(text); });
 }
 
 bool OutputTemplateTitle::IsInHeadingCapitalization(TextView text) const {
     return procedure(*this, u"OutputTemplateTitle.IsInHeadingCapitalization", {{u"text", text}},
-                     [&] { return titlecase::standsInHeadingCase(text); });
+                     [&] { return titlecase::standsInHeadingCase(titlecase::readTitle(text)); });
 }
 
 Text OutputTemplateTitle::capitalizeAccordingToInternalRules(TextView text, bool isTitle) const {
@@ -186,9 +191,9 @@ Text OutputTemplateTitle::wholeTitle(bool shortenedVersion) const {
     const Text& title = mValues.at(kTitle);
     const Text& subtitle = mValues.at(kSubtitle);
     if (shortenedVersion || subtitle.empty() || title.empty()) {
-        return formatRule(title.empty() ? subtitle : title);
+        return title.empty() ? subtitle : title;
     }
-    return formatRule(concatenate({title, isQuestionOrExclamation(title.back()) ? u" " : u": ", subtitle}));
+    return concatenate({title, isQuestionOrExclamation(title.back()) ? u" " : u": ", subtitle});
 }
 
 bool OutputTemplateTitle::isPart() const {
@@ -223,7 +228,9 @@ bool OutputTemplateTitle::ToFormattedStringImpl(bool isFootnote, std::vector<Tex
                 return false;
             }
             const Text translation = mValues.at(kTranslation);
-            const Text title = wholeTitle(shortenedVersion);
+            const Text typed = wholeTitle(shortenedVersion);
+            TitleText read = titlecase::readTitle(typed);
+            Text title = formatRule(read);
             if (!shortenedVersion) {
                 items.at(kTranslationSlot) = translation.empty() ? Text() : concatenate({u"[", translation, u"]"});
                 items.at(kDescriptionSlot) = description;
@@ -231,7 +238,7 @@ bool OutputTemplateTitle::ToFormattedStringImpl(bool isFootnote, std::vector<Tex
             }
             // A copy: the host may ask for a new layout while it is written to.
             const OutputSinkRef fragment = formattedItems.at(kTitleSlot);
-            addTitle(fragment, title, isPart());
+            addTitle(fragment, title, read.words, isPart());
             return false;
         });
 }
@@ -249,13 +256,15 @@ void OutputTemplateTitle::movePunctuation(std::vector<Text>& items, TextView tit
     });
 }
 
-void OutputTemplateTitle::addTitle(const OutputSinkRef& formattedStr, TextView text, bool isPart) const {
+void OutputTemplateTitle::addTitle(const OutputSinkRef& formattedStr, Text& text, std::span<const Word> words,
+                                   bool isPart) const {
     procedure(*this, u"OutputTemplateTitle.addTitle",
               {{u"formattedStr", formattedStr}, {u"text", text}, {u"isPart", isPart}},
-              [&] { addTitleImpl(formattedStr, text, isPart); });
+              [&] { addTitleImpl(formattedStr, text, words, isPart); });
 }
 
-void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, TextView text, bool isPart) const {
+void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, Text& text, std::span<const Word> words,
+                                       bool isPart) const {
     procedure(*this, u"OutputTemplateTitle.addTitleImpl",
               {{u"formattedStr", formattedStr}, {u"text", text}, {u"isPart", isPart}}, [&] {
                   OutputSink& sink = object(formattedStr);
@@ -266,30 +275,30 @@ void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, TextVi
                           OutputSink::kPlain);
                       return;
                   }
-                  Text title(text);
                   std::vector<Range> roman;
-                  UnItalicizeSpeciesAndNamesOfShips(title, roman);
+                  UnItalicizeSpeciesAndNamesOfShips(text, words, roman);
                   std::size_t done = 0;
                   for (const Range range : roman) {
                       if (range.begin > done) {
-                          sink.Add(slice(title, {done, range.begin}), kItalic);
+                          sink.Add(slice(text, {done, range.begin}), kItalic);
                       }
-                      sink.Add(slice(title, range), OutputSink::kPlain);
+                      sink.Add(slice(text, range), OutputSink::kPlain);
                       done = range.end;
                   }
-                  if (done < title.size()) {
-                      sink.Add(slice(title, {done, title.size()}), kItalic);
+                  if (done < text.size()) {
+                      sink.Add(slice(text, {done, text.size()}), kItalic);
                   }
               });
 }
 
-void OutputTemplateTitle::UnItalicizeSpeciesAndNamesOfShips(Text& text, std::vector<Range>& roman) const {
+void OutputTemplateTitle::UnItalicizeSpeciesAndNamesOfShips(Text& text, std::span<const Word> words,
+                                                            std::vector<Range>& roman) const {
     procedure(*this, u"OutputTemplateTitle.UnItalicizeSpeciesAndNamesOfShips", {{u"text", text}}, [&] {
         if (!mUnItalicizeSpeciesAndNamesOfShips) {
             return;
         }
-        UnItalicizeSpecies(text, roman);
-        UnItalicizeShipNames(text, roman);
+        UnItalicizeSpecies(text, words, roman);
+        UnItalicizeShipNames(text, words, roman);
         std::sort(roman.begin(), roman.end(), [](Range a, Range b) { return a.begin < b.begin; });
         // "H.M.S. E. coli" would be both.
         std::size_t end = 0;
@@ -301,37 +310,43 @@ void OutputTemplateTitle::UnItalicizeSpeciesAndNamesOfShips(Text& text, std::vec
     });
 }
 
-void OutputTemplateTitle::UnItalicizeSpecies(Text& text, std::vector<Range>& roman) const {
+void OutputTemplateTitle::UnItalicizeSpecies(Text& text, std::span<const Word> words, std::vector<Range>& roman) const {
     procedure(*this, u"OutputTemplateTitle.UnItalicizeSpecies", {{u"text", text}}, [&] {
-        const std::vector<Word> words = titlecase::wordsOf(text);
         for (std::size_t i = 1; i < words.size(); ++i) {
-            const TextView genus = slice(text, words[i - 1].core);
-            const std::size_t gap = words[i].core.begin - words[i - 1].core.end;
-            const bool isInitial = genus.size() == 1 && gap == 2 && text[words[i - 1].core.end] == u'.';
-            if ((isInitial || (gap == 1 && titlewords::isName(genus))) &&
-                titlewords::isSpeciesEpithet(toLower(slice(text, words[i].core)))) {
+            if (!words[i].known.is(titlewords::kSpeciesEpithet)) {
+                continue;
+            }
+            const Word& before = words[i - 1];
+            const TextView genus = slice(text, before.core);
+            const std::size_t gap = words[i].core.begin - before.core.end;
+            const bool isInitial = genus.size() == 1 && gap == 2 && text[before.core.end] == u'.';
+            // As it is written now: a heading may have given it its capital.
+            const titlewords::WordClasses known = titlewords::Lexicon::instance().classesOf(before.known.entry, genus);
+            if (isInitial || (gap == 1 && (known & titlewords::kName) != 0)) {
                 // A heading had made it "E. Coli".
                 titlecase::lowerAt(text, words[i].core.begin);
-                roman.push_back({words[i - 1].core.begin, words[i].core.end});
+                roman.push_back({before.core.begin, words[i].core.end});
             }
         }
     });
 }
 
-void OutputTemplateTitle::UnItalicizeShipNames(const Text& text, std::vector<Range>& roman) const {
+void OutputTemplateTitle::UnItalicizeShipNames(TextView text, std::span<const Word> words,
+                                               std::vector<Range>& roman) const {
     procedure(*this, u"OutputTemplateTitle.UnItalicizeShipNames", {{u"text", text}}, [&] {
-        for (const TextView prefix : kShipPrefixes) {
-            for (std::size_t at = text.find(prefix); at != Text::npos; at = text.find(prefix, at + 1)) {
-                if (at > 0 && text[at - 1] != u' ') {
-                    continue;
-                }
-                // The name is one word, without the mark behind it.
-                std::size_t end = at + prefix.size();
-                while (end < text.size() && (isDigit(text[end]) || isCasedLetter(text[end]) || text[end] == u'-')) {
-                    ++end;
-                }
-                roman.push_back({at, end});
+        for (const Word& word : words) {
+            const std::size_t at = word.core.begin;
+            const auto* const prefix = std::find_if(std::begin(kShipPrefixes), std::end(kShipPrefixes),
+                                                    [&](TextView start) { return startsWith(text.substr(at), start); });
+            if (prefix == std::end(kShipPrefixes) || (at > 0 && text[at - 1] != u' ')) {
+                continue;
             }
+            // The name is one word, without the mark behind it.
+            std::size_t end = at + prefix->size();
+            while (end < text.size() && (isDigit(text[end]) || isCasedLetter(text[end]) || text[end] == u'-')) {
+                ++end;
+            }
+            roman.push_back({at, end});
         }
     });
 }
@@ -356,11 +371,13 @@ void OutputTemplateTitle::ToFormattedStringPrematterImpl(const OutputSinkRef& fo
                   const std::shared_ptr<OutputTemplateAuthor> author = mAuthorTemplate;
                   const bool writesAuthor = author && author->numAuthors() > 0 && !shortenedVersion;
                   const Text persons = writesAuthor ? author->toString(true, false) : Text();
-                  const Text title = hasTitle ? wholeTitle(shortenedVersion) : Text();
+                  const Text typed = hasTitle ? wholeTitle(shortenedVersion) : Text();
+                  TitleText read = titlecase::readTitle(typed);
+                  Text title = hasTitle ? formatRule(read) : Text();
                   OutputSink& sink = object(formattedStr);
                   sink.Add(hasTitle ? concatenate({word, joints.beforeTitle}) : word, OutputSink::kPlain);
                   if (hasTitle) {
-                      addTitleImpl(formattedStr, title, false);
+                      addTitleImpl(formattedStr, title, read.words, false);
                   }
                   if (writesAuthor) {
                       sink.Add(concatenate({joints.beforeAuthor, persons}), OutputSink::kPlain);

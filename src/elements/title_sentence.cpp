@@ -1,213 +1,161 @@
 // Sentence case: what keeps its capital in a title that stood in heading case.
 
 #include <algorithm>
-#include <bitset>
-#include <initializer_list>
 
 #include "core/letter_case.h"
 #include "elements/title_case.h"
-#include "elements/title_words.h"
-#include "elements/word_set.h"
 
 namespace quorvel::titlecase {
 
 namespace {
 
-TextView slice(TextView text, Range range) {
-    return text.substr(range.begin, range.end - range.begin);
-}
-
-// Words with accents that are English.
-constexpr TextView kLoanWords[] = {
-    u"café",    u"cafés",   u"cliché", u"clichés", u"coöperation", u"élite",   u"façade",
-    u"façades", u"fiancé",  u"naïve",  u"naïvely", u"naïveté",     u"protégé", u"régime",
-    u"résumé",  u"résumés", u"rôle",   u"rôles",   u"soufflé",
-};
+using namespace titlewords;
 
 // Endings of common words, which a name behind a given name does not have.
 constexpr TextView kCommonEndings[] = {u"ing", u"tion", u"tions", u"ment", u"ments", u"ness", u"ology", u"ity", u"ism"};
 
-bool endsWithAny(TextView text, std::initializer_list<TextView> endings) {
-    return std::any_of(endings.begin(), endings.end(), [&](TextView ending) { return endsWith(text, ending); });
+// What is put to a name.
+constexpr TextView kDerivations[] = {u"s", u"ism", u"ist", u"ization", u"ized", u"izing"};
+
+// "Victorian", "Guatemalan", "Japanese", but not "librarian".
+constexpr TextView kNameSuffixes[] = {u"ian", u"ean", u"ese"};
+constexpr TextView kCommonSuffixes[] = {u"ician", u"arian", u"cean"};
+
+// Endings of last names, which few common words have: "Lermontov", "Johnson", "Hamburg".
+constexpr TextView kSurnameEndings[] = {u"berg",  u"burg",  u"burgh", u"bury", u"elli",  u"enko", u"etti",
+                                        u"ham",   u"ini",   u"ius",   u"kov",  u"mann",  u"nov",  u"ov",
+                                        u"ski",   u"sky",   u"son",   u"stan", u"stein", u"ucci", u"vich",
+                                        u"ville", u"worth", u"shire", u"guez"};
+
+// Endings of agents and qualities, whose possessive is no name's.
+constexpr TextView kAgentEndings[] = {u"er", u"or", u"ist", u"ian", u"ing", u"ess", u"tion", u"ent", u"ant"};
+
+constexpr TextView kAdjectiveEndings[] = {u"n", u"sh", u"ch", u"ese", u"ic"};
+
+template <std::size_t N>
+bool endsWithAny(TextView text, const TextView (&endings)[N]) {
+    // Most endings are told by their last letter.
+    return !text.empty() && std::any_of(std::begin(endings), std::end(endings), [&](TextView ending) {
+        return text.back() == ending.back() && endsWith(text, ending);
+    });
 }
 
-bool isLoanWord(TextView lowered) {
-    return std::find(std::begin(kLoanWords), std::end(kLoanWords), lowered) != std::end(kLoanWords);
-}
-
-bool hasCommonEnding(TextView word) {
-    return std::any_of(std::begin(kCommonEndings), std::end(kCommonEndings),
-                       [&](TextView ending) { return endsWith(word, ending); });
-}
-
-bool isKnown(TextView word) {
-    return titlewords::isPlace(word) || titlewords::isName(word) || titlewords::isGivenName(word);
-}
-
-/// "Victorian", "Guatemalan", "Japanese", but not "librarian".
 bool hasNameSuffix(TextView lowered) {
     if (endsWith(lowered, u"s")) {
         lowered.remove_suffix(1);
     }
-    if (lowered.size() < 5 || titlewords::isCommonInNameSuffix(lowered)) {
-        return false;
-    }
-    if (endsWithAny(lowered, {u"ician", u"arian"})) {
-        return false;
-    }
-    return endsWithAny(lowered, {u"ian", u"ean", u"ese", u"esque"}) && !endsWithAny(lowered, {u"cean", u"esque"});
+    return lowered.size() >= 5 && endsWithAny(lowered, kNameSuffixes) && !endsWithAny(lowered, kCommonSuffixes) &&
+           !Lexicon::instance().find(lowered, lowered).is(kCommonInNameSuffix);
 }
 
-/// "Lermontov", "Johnson", "Hamburg": endings that few common words have.
-bool hasSurnameEnding(TextView lowered) {
-    constexpr TextView kEndings[] = {u"berg",  u"burg",  u"burgh", u"bury", u"elli",  u"enko", u"etti",
-                                     u"ham",   u"ini",   u"ius",   u"kov",  u"mann",  u"nov",  u"ov",
-                                     u"ski",   u"sky",   u"son",   u"stan", u"stein", u"ucci", u"vich",
-                                     u"ville", u"worth", u"shire", u"guez"};
-    constexpr TextView kCommon[] = {
-        u"arson",      u"person",   u"reason",     u"season",      u"lesson",       u"prison",      u"poison",
-        u"comparison", u"treason",  u"unison",     u"venison",     u"garrison",     u"crimson",     u"parson",
-        u"liaison",    u"grandson", u"stepson",    u"radius",      u"genius",       u"gingham",     u"iceberg",
-        u"vaudeville", u"bikini",   u"martini",    u"houdini",     u"panini",       u"zucchini",    u"husky",
-        u"risky",      u"frisky",   u"whisky",     u"salesperson", u"spokesperson", u"chairperson", u"layperson",
-        u"mason",      u"jettison", u"unworth",    u"noteworth",   u"oxbow",        u"caisson",     u"alumni",
-        u"mini",       u"bison",    u"trustworth", u"sartorius",   u"fettucini"};
+bool hasSurnameEnding(TextView lowered, Known known) {
     // "Kolkata" cannot be told from "data", but "Palermo", "Nagasaki" and "Honolulu" look foreign.
     const char16_t last = lowered.empty() ? u' ' : lowered.back();
-    if (lowered.size() >= 4 && (last == u'o' || last == u'i' || last == u'u') &&
-        !titlewords::isCommonInVowel(lowered)) {
-        return true;
-    }
-    // Few words have such an ending: the list of those that are no names is not asked for the others.
-    static const WordSet common(kCommon);
-    return lowered.size() >= 6 &&
-           std::any_of(std::begin(kEndings), std::end(kEndings),
-                       [&](TextView ending) { return lowered.back() == ending.back() && endsWith(lowered, ending); }) &&
-           !common.holds(lowered);
+    const bool endsInVowel = last == u'o' || last == u'i' || last == u'u';
+    return (lowered.size() >= 4 && endsInVowel && !known.is(kCommonInVowel)) ||
+           (lowered.size() >= 6 && endsWithAny(lowered, kSurnameEndings) && !known.is(kCommonInSurnameEnding));
 }
 
 /// Known by itself, as a plural, or as what its ending was put to: "Kantianism", "Darwinists".
 /// @param lowered the word in lower case
-bool isProperName(TextView word, TextView lowered) {
-    if (isKnown(word)) {
+bool isProperName(TextView word, TextView lowered, Known known) {
+    if (known.is(kAnyName)) {
         return true;
     }
     TextView stem = word;
-    for (const TextView ending : {TextView(u"s"), TextView(u"ism"), TextView(u"ist"), TextView(u"ization"),
-                                  TextView(u"ized"), TextView(u"izing")}) {
-        if (stem.size() > std::max<std::size_t>(3, 2 * ending.size()) && endsWith(stem, ending)) {
+    for (const TextView ending : kDerivations) {
+        if (stem.size() > std::max<std::size_t>(3, 2 * ending.size()) && stem.back() == ending.back() &&
+            endsWith(stem, ending)) {
             stem.remove_suffix(ending.size());
-            if (isKnown(stem)) {
+            if (Lexicon::instance().find(stem, lowered.substr(0, stem.size())).is(kAnyName)) {
                 return true;
             }
         }
     }
-    return hasNameSuffix(lowered.substr(0, stem.size())) || hasSurnameEnding(lowered);
+    return hasNameSuffix(lowered.substr(0, stem.size())) || hasSurnameEnding(lowered, known);
 }
 
+bool hasForeignLetter(TextView lowered, Known known) {
+    return std::any_of(lowered.begin(), lowered.end(),
+                       [](char16_t unit) { return unit >= 0xC0 && isCasedLetter(unit); }) &&
+           !known.is(kLoanWord);
+}
+
+/// Sets the letters of a piece as a sentence has them.
 class SentenceCase {
 public:
-    SentenceCase(Text& text, std::span<const Word> words, bool capitalizeFirstWord, const Rules& rules)
-        : mText(text),
-          mWords(words),
-          mCapitalizeFirstWord(capitalizeFirstWord),
-          mRules(rules),
-          mKept(words.size(), false),
-          mIsPhrase(words.size(), false) {
-        mLowered.reserve(words.size());
-        for (std::size_t i = 0; i < words.size(); ++i) {
-            mLowered.push_back(toLower(wholeName(i)));
-        }
-    }
+    SentenceCase(Text& text, const TitleText& title, std::span<Word> words, const Rules& rules)
+        : mText(text), mTitle(title), mWords(words), mRules(rules), mLexicon(Lexicon::instance()) {}
 
-    void run() {
+    void run(bool capitalizeFirstWord) {
         findPhrases();
         findOrganizations();
         for (std::size_t i = 0; i < mWords.size(); ++i) {
-            mKept[i] = mKept[i] || isName(i);
+            mWords[i].isKept = mWords[i].isKept || isName(i);
         }
         for (std::size_t i = mWords.size(); i-- > 0;) {
-            mKept[i] = mKept[i] || isPartOfNameBehind(i);
+            mWords[i].isKept = mWords[i].isKept || isPartOfNameBehind(i);
         }
         for (std::size_t i = 0; i < mWords.size(); ++i) {
-            write(i);
+            const bool isCapitalized = i == 0 ? capitalizeFirstWord : mWords[i].isFirst && mRules.capitalizeSubtitle;
+            write(mWords[i], isCapitalized);
         }
     }
 
 private:
-    TextView word(std::size_t i) const { return slice(mText, mWords[i].core); }
-    TextView wholeName(std::size_t i) const { return withoutPossessive(word(i)); }
+    TextView word(std::size_t i) const { return slice(mTitle.text, mWords[i].core); }
+    TextView name(std::size_t i) const { return slice(mTitle.text, mWords[i].name); }
+    TextView lower(std::size_t i) const { return mTitle.lower(mWords[i].core); }
+    TextView lowerName(std::size_t i) const { return mTitle.lower(mWords[i].name); }
 
-    /// The word before, in the same piece and with nothing but a blank between (and a full stop, behind an
-    /// initial or a title); empty otherwise.
-    TextView neighbourBefore(std::size_t i) const {
-        if (i == 0 || mWords[i].piece != mWords[i - 1].piece) {
-            return {};
-        }
-        const std::size_t end = mWords[i - 1].core.end;
-        const std::size_t gap = mWords[i].core.begin - end;
-        const bool isJoined = (gap == 1 && mText[end] == u' ') || (gap == 2 && mText[end] == u'.');
-        return isJoined ? word(i - 1) : TextView();
-    }
-    bool hasStopBehind(std::size_t i) const {
-        return mWords[i].core.end < mText.size() && mText[mWords[i].core.end] == u'.';
-    }
-    bool isFunction(std::size_t i) const { return titlewords::isFunctionWord(mLowered[i]); }
+    /// Nothing but a blank, or the full stop of an initial or title, stands between the word and the one before.
+    bool hasNeighbour(std::size_t i) const { return i > 0 && mWords[i].isJoined; }
+    bool isBehind(std::size_t i, TextView lowered) const { return hasNeighbour(i) && lower(i - 1) == lowered; }
+    bool isFunction(std::size_t i) const { return mWords[i].knownName.is(kAnyFunctionWord); }
 
     void findPhrases() {
         for (std::size_t i = 0; i < mWords.size(); ++i) {
-            for (const titlewords::Phrase& phrase : titlewords::phrasesFrom(mLowered[i])) {
+            for (const Phrase& phrase : mLexicon.phrasesFrom(mWords[i].knownName.entry)) {
                 const bool isWorkItself = phrase.isWork && (i == 0 || (i == 1 && isFunction(0)));
-                if (!isWorkItself && i + phrase.words <= mWords.size() && standsAt(phrase, i)) {
+                if (!isWorkItself && standsAt(phrase, i)) {
+                    keepCapitals(phrase, i);
                     break;
                 }
             }
         }
     }
 
-    /// Keeps the capitals of a phrase that stands here.
-    bool standsAt(const titlewords::Phrase& phrase, std::size_t i) {
-        TextView rest = phrase.text;
-        constexpr std::size_t kMostWords = 16;
-        std::bitset<kMostWords> capitals;
-        if (phrase.words > kMostWords) {
-            return false;
-        }
-        for (std::size_t k = 0; k < phrase.words; ++k) {
-            const TextView part = before(rest, u" ");
-            rest.remove_prefix(std::min(part.size() + 1, rest.size()));
-            TextView expected = part;
-            while (!expected.empty() && (expected.back() == u'.' || expected.back() == u',' ||
-                                         expected.back() == u'\'' || expected.back() == u'\u2019')) {
-                expected.remove_suffix(1);
+    bool standsAt(const Phrase& phrase, std::size_t i) const {
+        const std::span<const Word> words = mWords.subspan(i);
+        return phrase.words.size() <= words.size() &&
+               std::equal(phrase.words.begin(), phrase.words.end(), words.begin(), [](EntryId entry, const Word& word) {
+                   return entry == word.known.entry || entry == word.knownName.entry;
+               });
+    }
+
+    void keepCapitals(const Phrase& phrase, std::size_t i) {
+        for (std::size_t k = 0; k < phrase.words.size(); ++k) {
+            if ((phrase.capitals >> k & 1U) != 0) {
+                mWords[i + k].isKept = true;
+                mWords[i + k].isInPhrase = true;
             }
-            const bool isSame =
-                equalsIgnoringCase(word(i + k), expected) || equalsIgnoringCase(wholeName(i + k), expected);
-            if (!isSame || mWords[i + k].piece != mWords[i].piece) {
-                return false;
-            }
-            capitals[k] = isCapital(part[0]);
         }
-        for (std::size_t k = 0; k < phrase.words; ++k) {
-            mKept[i + k] = mKept[i + k] || capitals[k];
-            mIsPhrase[i + k] = mIsPhrase[i + k] || capitals[k];
-        }
-        return true;
     }
 
     /// "American Heart Association", back from its last word.
     void findOrganizations() {
         constexpr std::size_t kLongest = 5;
         for (std::size_t i = 1; i < mWords.size(); ++i) {
-            const bool isInstrument = titlewords::isInstrumentTail(word(i));
-            if (titlewords::isTailBehindArticle(word(i))) {
+            const Known last = mWords[i].known;
+            if (last.is(kTailBehindArticle)) {
                 findBehindArticle(i);
             }
-            if (!isInstrument && !titlewords::isOrganizationTail(word(i))) {
+            if (!last.is(kInstrumentTail | kOrganizationTail)) {
                 continue;
             }
-            for (std::size_t k = i; k > 0 && i - k < kLongest && !neighbourBefore(k).empty(); --k) {
-                if (isInstrument ? titlewords::isName(word(k - 1)) : titlewords::isOrganizationLead(word(k - 1))) {
+            const WordClass lead = last.is(kInstrumentTail) ? kName : kOrganizationLead;
+            for (std::size_t k = i; i - k < kLongest && hasNeighbour(k); --k) {
+                if (mWords[k - 1].known.is(lead)) {
                     keep(k - 1, i);
                     break;
                 }
@@ -217,15 +165,15 @@ private:
 
     void keep(std::size_t first, std::size_t last) {
         for (std::size_t k = first; k <= last; ++k) {
-            mKept[k] = mKept[k] || !isFunction(k);
+            mWords[k].isKept = mWords[k].isKept || !isFunction(k);
         }
     }
 
     /// "the Clean Air Act", but not "the speech act".
     void findBehindArticle(std::size_t i) {
         constexpr std::size_t kLongest = 6;
-        for (std::size_t k = i; k > 0 && i - k < kLongest && !neighbourBefore(k).empty(); --k) {
-            if (equalsIgnoringCase(word(k - 1), u"the")) {
+        for (std::size_t k = i; i - k < kLongest && hasNeighbour(k); --k) {
+            if (lower(k - 1) == u"the") {
                 if (i - k >= 2) {
                     keep(k, i);
                 }
@@ -235,175 +183,169 @@ private:
     }
 
     bool isName(std::size_t i) const {
-        const TextView whole = wholeName(i);
-        const Text& lowered = mLowered[i];
-        const TextView previous = neighbourBefore(i);
+        const Word& current = mWords[i];
+        const Known known = current.knownName;
+        const TextView whole = name(i);
+        const TextView lowered = lowerName(i);
         if (whole.size() == 1) {
-            return isSingleLetterKept(i, whole, previous);
+            // "A" is an article, but for the A of "vitamin A".
+            return whole != u"A" || (hasNeighbour(i) && mWords[i - 1].known.is(kLetterTaker));
         }
-        if (isProperName(whole, lowered)) {
-            return true;
-        }
-        if (isMonth(i, whole, previous)) {
+        if (isProperName(whole, lowered, known) || isMonth(i)) {
             return true;
         }
         if (isFunction(i)) {
             return false;
         }
-        if (hasForeignLetter(lowered)) {
+        if ((current.hasAccents && hasForeignLetter(lowered, known)) || whole == u"Western" || isCompass(i)) {
             return true;
         }
-        if (whole == u"Western") {
-            return true;
-        }
-        if (isCompass(i, whole)) {
-            return true;
-        }
-        if (!previous.empty()) {
-            const bool isAfterInitial = previous.size() == 1 && hasStopBehind(i - 1) && isCapital(previous[0]);
-            if ((isAfterInitial || titlewords::isGivenName(previous)) && !hasCommonEnding(lowered)) {
-                return !titlewords::isSpeciesEpithet(lowered);
+        if (hasNeighbour(i)) {
+            const Word& previous = mWords[i - 1];
+            if ((previous.known.is(kGivenName) || isInitial(i - 1)) && !endsWithAny(lowered, kCommonEndings)) {
+                return !known.is(kSpeciesEpithet);
             }
-            if (titlewords::isNameLead(previous) && isCapital(previous[0])) {
-                return true;
-            }
-            const bool isAfterName =
-                mKept[i - 1] || (mWords[i - 1].isFirst && isProperName(previous, toLower(previous)));
-            if (isAfterName && titlewords::isNameTail(whole)) {
-                return true;
-            }
-            const bool isAdjective = endsWithAny(previous, {u"n", u"sh", u"ch", u"ese", u"ic"});
-            if (isAfterName && titlewords::isInstitutionTail(whole) && !isAdjective) {
+            if (previous.known.is(kNameLead) || isTail(i)) {
                 return true;
             }
         }
-        if (isBehindOf(i) || isTownBefore(i, previous)) {
-            return true;
+        return isBehindOf(i) || isTown(i) || (current.isPossessive() && isPossessiveOfName(i));
+    }
+
+    /// "May" and "March" beside a number or behind "in".
+    bool isMonth(std::size_t i) const {
+        if (!mWords[i].knownName.is(kAmbiguousMonth)) {
+            return false;
         }
-        return isPossessive(word(i)) && isPossessiveOfName(lowered);
+        const bool isBeforeNumber = i + 1 < mWords.size() && isDigit(word(i + 1).front());
+        const bool isBehindNumber = hasNeighbour(i) && isDigit(word(i - 1).back());
+        return isBeforeNumber || isBehindNumber || (isBehind(i, u"in") && mWords[i].isLast);
+    }
+
+    /// "the Decline of the West".
+    bool isCompass(std::size_t i) const {
+        return mWords[i].knownName.is(kCompassPoint) && isBehind(i, u"the") &&
+               (i + 1 == mWords.size() || isFunction(i + 1));
+    }
+
+    /// "J." of "J. Smith".
+    bool isInitial(std::size_t i) const {
+        const Range core = mWords[i].core;
+        return core.end - core.begin == 1 && mTitle.text[core.end] == u'.' && isCapital(mTitle.text[core.begin]);
+    }
+
+    /// "River" in "Hudson River", "University" in "Columbia University".
+    bool isTail(std::size_t i) const {
+        const Known known = mWords[i].knownName;
+        if (!known.is(kNameTail | kInstitutionTail)) {
+            return false;
+        }
+        const Word& previous = mWords[i - 1];
+        const bool isAfterName =
+            previous.isKept || (previous.isFirst && isProperName(word(i - 1), lower(i - 1), previous.known));
+        return isAfterName && (known.is(kNameTail) || !endsWithAny(word(i - 1), kAdjectiveEndings));
     }
 
     /// "Battle of Hastings", "Duke of Norfolk".
     bool isBehindOf(std::size_t i) const {
-        return i >= 2 && equalsIgnoringCase(neighbourBefore(i), u"of") && !neighbourBefore(i - 1).empty() &&
-               titlewords::isOfLead(word(i - 2)) && !hasCommonEnding(word(i)) && !mWords[i - 2].isLast;
+        return isBehind(i, u"of") && hasNeighbour(i - 1) && mWords[i - 2].known.is(kOfLead) &&
+               !endsWithAny(word(i), kCommonEndings);
     }
 
     /// "in Flint, Michigan".
-    bool isTownBefore(std::size_t i, TextView previous) const {
-        return i + 1 < mWords.size() && mWords[i].piece == mWords[i + 1].piece && equalsIgnoringCase(previous, u"in") &&
-               mText[mWords[i].core.end] == u',' && (titlewords::isPlace(word(i + 1)) || mIsPhrase[i + 1]);
+    bool isTown(std::size_t i) const {
+        return i + 1 < mWords.size() && mTitle.text[mWords[i].core.end] == u',' && isBehind(i, u"in") &&
+               (mWords[i + 1].known.is(kPlace) || mWords[i + 1].isInPhrase);
     }
 
-    static bool isSingleLetterKept(std::size_t i, TextView letter, TextView previous) {
-        const bool isArticle = letter == u"A" && !(i > 0 && titlewords::takesLetter(previous));
-        return !isArticle;
-    }
-
-    /// "May" and "March" beside a number or behind "in".
-    bool isMonth(std::size_t i, TextView whole, TextView previous) const {
-        if (whole != u"May" && whole != u"March") {
-            return false;
-        }
-        const bool isBeforeNumber = i + 1 < mWords.size() && isDigit(word(i + 1).front());
-        const bool isBehindNumber = !previous.empty() && isDigit(previous.back());
-        return isBeforeNumber || isBehindNumber || (equalsIgnoringCase(previous, u"in") && mWords[i].isLast);
-    }
-
-    static bool hasForeignLetter(TextView lowered) {
-        return std::any_of(lowered.begin(), lowered.end(),
-                           [](char16_t unit) { return unit >= 0xC0 && isCasedLetter(unit); }) &&
-               !isLoanWord(lowered);
-    }
-
-    /// "the Decline of the West".
-    bool isCompass(std::size_t i, TextView whole) const {
-        const bool isRegion = whole == u"West" || whole == u"South" || whole == u"East" || whole == u"North";
-        const bool isAlone = mWords[i].isLast || isFunction(i + 1);
-        return isRegion && isAlone && equalsIgnoringCase(neighbourBefore(i), u"the");
-    }
-
-    static bool isPossessiveOfName(TextView lowered) {
-        const bool isAgent =
-            endsWithAny(lowered, {u"er", u"or", u"ist", u"ian", u"ing", u"ess", u"tion", u"ent", u"ant"});
-        return !isAgent && !titlewords::isCommonPossessor(lowered);
+    bool isPossessiveOfName(std::size_t i) const {
+        return !endsWithAny(lowerName(i), kAgentEndings) && !mWords[i].knownName.is(kCommonPossessor);
     }
 
     /// A first part of a name that was found behind it: "South" of "South Sudan", "President" of "President
     /// Lincoln", "Mount" of "Mount Athos".
     bool isPartOfNameBehind(std::size_t i) {
-        if (i + 1 >= mWords.size() || neighbourBefore(i + 1).empty() || isPossessive(word(i))) {
+        const Known known = mWords[i].known;
+        if (!known.is(kNameLead | kOfLead | kOrganizationLead | kTitleOfPerson | kDirection) ||
+            i + 1 >= mWords.size() || !hasNeighbour(i + 1) || mWords[i].isPossessive()) {
             return false;
         }
-        const TextView whole = word(i);
-        const TextView next = wholeName(i + 1);
-        if (titlewords::isNameLead(whole)) {
-            return mKept[i + 1];
+        Word& next = mWords[i + 1];
+        const TextView nextName = name(i + 1);
+        if (known.is(kNameLead)) {
+            return next.isKept;
         }
         // "Battle of Hastings", but not "kings of England".
-        if (titlewords::isOfLead(whole) && next == u"of" && i + 2 < mWords.size()) {
-            return mKept[i + 2] && !neighbourBefore(i + 2).empty();
+        if (known.is(kOfLead) && nextName == u"of" && i + 2 < mWords.size()) {
+            return mWords[i + 2].isKept && hasNeighbour(i + 2);
         }
-        const bool isNational = whole == u"National" || whole == u"Royal";
-        if (isNational && (titlewords::isInstitutionTail(next) || next == u"Gallery" || next == u"Library")) {
-            mKept[i + 1] = true;
+        const bool isNational = word(i) == u"National" || word(i) == u"Royal";
+        if (isNational && (next.knownName.is(kInstitutionTail) || nextName == u"Gallery" || nextName == u"Library")) {
+            next.isKept = true;
             return true;
         }
-        if (titlewords::isTitleOfPerson(whole)) {
-            return isKnown(next);
+        if (known.is(kTitleOfPerson)) {
+            return next.knownName.is(kAnyName);
         }
-        if (!titlewords::isDirection(whole) || !titlewords::isPlace(next)) {
+        if (!known.is(kDirection) || !next.knownName.is(kPlace)) {
             return false;
         }
-        const bool isLarge = startsWith(next, u"Europe") || startsWith(next, u"Africa") || startsWith(next, u"Asia") ||
-                             next == u"Ireland" || next == u"California" || next == u"Australia";
-        return isLarge || !endsWith(whole, u"ern");
+        const bool isLarge = startsWith(nextName, u"Europe") || startsWith(nextName, u"Africa") ||
+                             startsWith(nextName, u"Asia") || nextName == u"Ireland" || nextName == u"California" ||
+                             nextName == u"Australia";
+        return isLarge || !endsWith(word(i), u"ern");
     }
 
-    bool isCapitalizedAtStart(std::size_t i) const {
-        return i == 0 ? mCapitalizeFirstWord : mWords[i].isFirst && mRules.capitalizeSubtitle;
+    void write(const Word& current, bool isCapitalized) {
+        if (current.isCompound) {
+            writeParts(current, isCapitalized);
+        } else if (isCapitalized) {
+            capitalizeAt(mText, current.core.begin);
+        } else if (!current.isKept && !current.isLower && !hasOwnCase(slice(mTitle.text, current.name))) {
+            lowerAt(mText, current.core.begin);
+        }
     }
 
-    void write(std::size_t i) {
-        const Word& current = mWords[i];
-        const std::vector<Range> parts = partsOf(mText, current.core);
-        for (std::size_t p = 0; p < parts.size(); ++p) {
-            const TextView part = slice(mText, parts[p]);
-            if (p == 0 && isCapitalizedAtStart(i)) {
-                capitalizeAt(mText, parts[p].begin);
+    void writeParts(const Word& current, bool isCapitalized) {
+        splitWord(mTitle.text, current.core, mParts);
+        for (const Range part : mParts) {
+            const bool isFirst = part == mParts.front();
+            if (isFirst && isCapitalized) {
+                capitalizeAt(mText, part.begin);
                 continue;
             }
-            const bool isWhole = parts.size() == 1;
-            const bool isKept = isWhole ? mKept[i] : isPartKept(part, mIsPhrase[i] || (p == 0 && mKept[i]));
-            if (!isKept && !hasOwnCase(withoutPossessive(part))) {
-                lowerAt(mText, parts[p].begin);
+            const TextView whole = withoutPossessive(slice(mTitle.text, part));
+            const bool isKept = current.isInPhrase || (isFirst && current.isKept) ||
+                                isPartKept({part.begin, part.begin + whole.size()});
+            if (!isKept && !hasOwnCase(whole)) {
+                lowerAt(mText, part.begin);
             }
         }
     }
 
     /// A part of a hyphenated word: by itself it has no neighbours.
-    static bool isPartKept(TextView part, bool isPhrase) {
-        const TextView whole = withoutPossessive(part);
-        const Text lowered = toLower(whole);
-        return isPhrase || (whole.size() == 1 && whole != u"A") || (whole.size() > 1 && isProperName(whole, lowered)) ||
-               hasForeignLetter(lowered);
+    bool isPartKept(Range part) const {
+        const TextView whole = slice(mTitle.text, part);
+        const TextView lowered = mTitle.lower(part);
+        const Known known = mTitle.find(part);
+        return (whole.size() == 1 ? whole != u"A" : isProperName(whole, lowered, known)) ||
+               hasForeignLetter(lowered, known);
     }
 
     Text& mText;
-    std::span<const Word> mWords;
-    bool mCapitalizeFirstWord;
+    const TitleText& mTitle;
+    std::span<Word> mWords;
     const Rules& mRules;
-    // The words without their possessive.
-    std::vector<Text> mLowered;
-    std::vector<bool> mKept;
-    // Part of a known name of several words, hyphens and all.
-    std::vector<bool> mIsPhrase;
+    const Lexicon& mLexicon;
+    // Of the hyphenated word that is written.
+    std::vector<Range> mParts;
 };
 
 }  // namespace
 
-void applySentence(Text& text, std::span<const Word> piece, bool capitalizeFirstWord, const Rules& rules) {
-    SentenceCase(text, piece, capitalizeFirstWord, rules).run();
+void applySentence(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
+                   const Rules& rules) {
+    SentenceCase(text, title, piece, rules).run(capitalizeFirstWord);
 }
 
 }  // namespace quorvel::titlecase

@@ -1,67 +1,105 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 
 #include "core/text.h"
 
-/// The word lists of capitalisation that are no names, and look-ups in the lists of names.
+/// What words of titles can be, and the lists that say so. The names are title_names.h; the lexicon
+/// (title_lexicon.h) is made from both and answers for a word with all its classes at once.
 namespace quorvel::titlewords {
 
-/// Whether a word in lower case is one of the short articles, conjunctions and prepositions that a
-/// heading keeps in lower case (MLA 7 3.6.1, Turabian 7 22.3.1). "a" is among them.
-bool isSmallWord(TextView word);
-/// Articles, conjunctions and prepositions of any length, pronouns and auxiliaries: words that say
-/// nothing about the capitalisation that a title stands in.
-bool isFunctionWord(TextView word);
-/// Name particles: "de", "van".
-bool isParticle(TextView word);
-/// Short words beside particles that stay as they stand: "la" in "de la Cruz", "al" in "et al.".
-bool isForeignParticle(TextView word);
-/// Second words of species: "coli", "melanogaster".
-bool isSpeciesEpithet(TextView word);
-/// Abbreviations behind whose full stop the sentence goes on: "vs", "Mr", "St".
-bool isAbbreviation(TextView word);
-/// Words that make a name of any word behind them: "Saint", "Mount", "Sir".
-bool isNameLead(TextView word);
-/// Last parts of names of places, events and institutions: "River" in "Hudson River".
-bool isNameTail(TextView word);
-/// Words that are part of a name when a known name follows: "President", "Lake".
-bool isTitleOfPerson(TextView word);
-/// Last parts of names behind a noun, not behind an adjective: "Columbia University", but "Chinese university
-/// students".
-bool isInstitutionTail(TextView word);
-/// First parts of names with "of": "Battle of Hastings".
-bool isOfLead(TextView word);
-/// First and last words of the names of organisations: "American Heart Association".
-bool isOrganizationLead(TextView word);
-bool isOrganizationTail(TextView word);
-/// Last words of names of two words and more behind "the": "the Clean Air Act".
-bool isTailBehindArticle(TextView word);
-/// Last words of the names of tests and scales behind a person's name: "Beck Depression Inventory".
-bool isInstrumentTail(TextView word);
-/// Common words in -o, -i and -u, which most words with such an ending are not.
-bool isCommonInVowel(TextView word);
-/// "North", "Eastern", "Central".
-bool isDirection(TextView word);
-/// What carries a letter as a grade or kind, so that "A" behind it is no article: "vitamin".
-bool takesLetter(TextView word);
-/// Common words in -ian, -ean and -ese.
-bool isCommonInNameSuffix(TextView word);
-/// Common nouns that stand in the possessive: "children's", "world's".
-bool isCommonPossessor(TextView word);
+/// Each class is one bit.
+enum WordClass : std::uint64_t {
+    // Bits 0 to 31: words that are known in any letter case. Their lists are in lower case.
 
-/// Names; the word without its possessive, as it is written.
-bool isPlace(TextView word);
-bool isName(TextView word);
-bool isGivenName(TextView word);
-/// A name of several words.
-struct Phrase {
-    TextView text;
-    std::size_t words = 0;
-    /// A title of a work: no name at the start of a title, which is then the work itself.
-    bool isWork = false;
+    /// The short articles, conjunctions and prepositions that a heading keeps in lower case (MLA 7 3.6.1,
+    /// Turabian 7 22.3.1). "a" is among them.
+    kSmallWord = 1ULL << 0U,
+    /// Other articles, conjunctions and prepositions, pronouns and auxiliaries.
+    kFunctionWord = 1ULL << 1U,
+    /// Name particles: "de", "van".
+    kParticle = 1ULL << 2U,
+    /// Short words beside particles that stay as they stand: "la" in "de la Cruz", "al" in "et al.".
+    kForeignParticle = 1ULL << 3U,
+    /// Other short words that a heading leaves as they stand: "vs".
+    kStaysInHeading = 1ULL << 4U,
+    /// Second words of species: "coli", "melanogaster".
+    kSpeciesEpithet = 1ULL << 5U,
+    /// Abbreviations behind whose full stop the sentence goes on: "vs", "Mr", "St".
+    kAbbreviation = 1ULL << 6U,
+    /// What carries a letter as a grade or kind, so that "A" behind it is no article: "vitamin".
+    kLetterTaker = 1ULL << 7U,
+    /// Common words in -o, -i and -u, which most words with such an ending are not.
+    kCommonInVowel = 1ULL << 8U,
+    /// Common words in -ian, -ean and -ese.
+    kCommonInNameSuffix = 1ULL << 9U,
+    /// Common words with the ending of a last name: "person", "season".
+    kCommonInSurnameEnding = 1ULL << 10U,
+    /// Common nouns that stand in the possessive: "children's", "world's".
+    kCommonPossessor = 1ULL << 11U,
+    /// English words with accents: "café".
+    kLoanWord = 1ULL << 12U,
+    /// Frequent short words of English.
+    kEnglishWord = 1ULL << 13U,
+    /// Short words of other languages that English titles do not hold.
+    kForeignWord = 1ULL << 14U,
+    /// Of these, the ones that stand in names inside English titles, too: one of them shows nothing.
+    kLanguageParticle = 1ULL << 15U,
+    /// Articles that begin a foreign title, and what follows them in English names of places: "Las Vegas".
+    kFirstArticle = 1ULL << 16U,
+    kAfterArticleInEnglish = 1ULL << 17U,
+    /// Old spellings: "worlde".
+    kOldWord = 1ULL << 18U,
+
+    // Bits 32 and up: words that are known only as they are written.
+
+    /// Words that make a name of any word behind them: "Saint", "Mount", "Sir".
+    kNameLead = 1ULL << 32U,
+    /// Words that are part of a name when a known name follows: "President", "Lake".
+    kTitleOfPerson = 1ULL << 33U,
+    /// Last parts of names of places and events: "River" in "Hudson River".
+    kNameTail = 1ULL << 34U,
+    /// Last parts of names behind a noun, not behind an adjective: "Columbia University", but "Chinese
+    /// university students".
+    kInstitutionTail = 1ULL << 35U,
+    /// First parts of names with "of": "Battle of Hastings".
+    kOfLead = 1ULL << 36U,
+    /// "North", "Eastern", "Central".
+    kDirection = 1ULL << 37U,
+    /// Directions that are regions behind "the": "the West".
+    kCompassPoint = 1ULL << 38U,
+    /// First and last words of the names of organisations: "American Heart Association".
+    kOrganizationLead = 1ULL << 39U,
+    kOrganizationTail = 1ULL << 40U,
+    /// Last words of names of two words and more behind "the": "the Clean Air Act".
+    kTailBehindArticle = 1ULL << 41U,
+    /// Last words of the names of tests and scales behind a person's name: "Beck Depression Inventory".
+    kInstrumentTail = 1ULL << 42U,
+    /// Months that are words, too.
+    kAmbiguousMonth = 1ULL << 43U,
+    /// The names of title_names.h.
+    kPlace = 1ULL << 44U,
+    kName = 1ULL << 45U,
+    kGivenName = 1ULL << 46U,
 };
-/// The known names of several words that begin with this one in lower case, the longest first.
-std::span<const Phrase> phrasesFrom(TextView firstWord);
+
+/// A set of classes.
+using WordClasses = std::uint64_t;
+
+/// Words that say nothing about the capitalisation that a title stands in.
+inline constexpr WordClasses kAnyFunctionWord = kSmallWord | kFunctionWord;
+inline constexpr WordClasses kAnyName = kPlace | kName | kGivenName;
+/// The classes of words that are known only as they are written.
+inline constexpr WordClasses kKnownAsWritten = ~WordClasses{0} << 32U;
+
+/// The words of one class, with blanks between them.
+struct WordList {
+    WordClass wordClass;
+    TextView words;
+};
+
+/// The words that are no names.
+std::span<const WordList> commonWords();
 
 }  // namespace quorvel::titlewords

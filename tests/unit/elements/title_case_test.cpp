@@ -63,6 +63,7 @@ TEST(TitleCase, Sentence) {
         {u"What I Know of Vitamin A, DNA and mRNA", u"What I know of vitamin A, DNA and mRNA"},
         {u"Growth of E. coli in May 1968", u"Growth of E. coli in May 1968"},
         {u"As We May Think of the Decline of the West", u"As we may think of the decline of the West"},
+        {u"The Decline of the West,", u"The decline of the West,"},
         {u"Moby-Dick; or, The Whale", u"Moby-Dick; or, The whale"},
         {u"Na\u00EFve Realism in M\u00FCnster", u"Na\u00EFve realism in M\u00FCnster"},
         {u"The \u201COther\u201D Question", u"The \u201Cother\u201D question"},
