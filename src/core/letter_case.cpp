@@ -6,32 +6,41 @@ namespace quorvel {
 
 namespace {
 
+constexpr char16_t upperOfAscii(char16_t unit) {
+    return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
+}
+
+constexpr char16_t lowerOfAscii(char16_t unit) {
+    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
+}
+
 char16_t upperOf(char16_t unit) {
-    if (unit < u'\u0080') {
-        return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
-    }
-    return letterCase().toUpper(unit);
+    return unit < u'\u0080' ? upperOfAscii(unit) : letterCase().toUpper(unit);
 }
 
 char16_t lowerOf(char16_t unit) {
-    if (unit < u'\u0080') {
-        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
-    }
-    return letterCase().toLower(unit);
+    return unit < u'\u0080' ? lowerOfAscii(unit) : letterCase().toLower(unit);
+}
+
+bool isAscii(TextView text) {
+    return !anyUnit(text, [](char16_t unit) { return unit >= u'\u0080'; });
+}
+
+template <class Map>
+Text mapped(TextView text, Map map) {
+    Text result(text);
+    std::transform(result.begin(), result.end(), result.begin(), map);
+    return result;
 }
 
 }  // namespace
 
 Text toUpper(TextView text) {
-    Text result(text);
-    std::transform(result.begin(), result.end(), result.begin(), upperOf);
-    return result;
+    return isAscii(text) ? mapped(text, upperOfAscii) : mapped(text, upperOf);
 }
 
 Text toLower(TextView text) {
-    Text result(text);
-    std::transform(result.begin(), result.end(), result.begin(), lowerOf);
-    return result;
+    return isAscii(text) ? mapped(text, lowerOfAscii) : mapped(text, lowerOf);
 }
 
 bool equalsIgnoringCase(TextView left, TextView right) {

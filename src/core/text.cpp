@@ -33,19 +33,22 @@ bool isIn(const CodeUnitRange (&ranges)[N], char16_t unit) {
                        [unit](const CodeUnitRange& range) { return range.first <= unit && unit <= range.last; });
 }
 
+bool hasDoubleBlank(TextView text) {
+    unsigned any = 0;
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        // No "&&", so that the compiler can take several at once.
+        any |= static_cast<unsigned>(text[i - 1] == u' ') & static_cast<unsigned>(text[i] == u' ');
+    }
+    return any != 0;
+}
+
 /// Nothing for the clean-up to do, which is so for nearly every text. May answer no without need.
 bool isClean(TextView text) {
-    bool afterBlank = true;
-    for (const char16_t unit : text) {
-        const bool isBlank = unit == u' ';
-        // Up to U+1680 only the controls and the signs up to U+00AD can be spaces or invisible.
-        const bool isOrdinary = (unit >= u' ' && unit < u'\u007F') || (unit > u'\u00AD' && unit < u'\u1680');
-        if (!isOrdinary || (isBlank && afterBlank)) {
-            return false;
-        }
-        afterBlank = isBlank;
-    }
-    return text.empty() || !afterBlank;
+    // Up to U+1680 only the controls and the signs up to U+00AD can be spaces or invisible.
+    const bool isOrdinary = !anyUnit(text, [](char16_t unit) {
+        return unit < u' ' || (unit >= u'\u007F' && unit <= u'\u00AD') || unit >= u'\u1680';
+    });
+    return text.empty() || (isOrdinary && text.front() != u' ' && text.back() != u' ' && !hasDoubleBlank(text));
 }
 
 }  // namespace

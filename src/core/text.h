@@ -38,6 +38,17 @@ bool removeSuffix(Text& text, TextView suffix);
 std::vector<Text> split(TextView text, TextView separator);
 Text join(const std::vector<Text>& pieces, TextView separator);
 
+/// Whether a character passes the test. All of them are looked at, so that the compiler can take several at
+/// once: for a test of some comparisons that hardly a text passes.
+template <class Test>
+bool anyUnit(TextView text, Test test) {
+    unsigned any = 0;
+    for (const char16_t unit : text) {
+        any |= test(unit) ? 1U : 0U;
+    }
+    return any != 0;
+}
+
 /// True for a blank, a tab, a line break and the other Unicode spaces, the non-breaking ones included.
 bool isSpace(char16_t unit);
 

@@ -43,8 +43,7 @@ bool readsAsEnglish(const TitleText& title) {
 
 bool hasForeignSpelling(const TitleText& title) {
     // Few titles hold the letters in which these end.
-    const auto isTelling = [](char16_t unit) { return unit == u'z' || unit == u'\u0161'; };
-    return std::count_if(title.lowered.begin(), title.lowered.end(), isTelling) > 0 &&
+    return anyUnit(title.lowered, [](char16_t unit) { return unit == u'z' || unit == u'\u0161'; }) &&
            std::any_of(std::begin(kForeignSpellings), std::end(kForeignSpellings),
                        [&](TextView spelling) { return contains(title.lowered, spelling); });
 }

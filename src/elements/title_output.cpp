@@ -34,9 +34,6 @@ enum Slot : std::size_t {
 };
 constexpr std::int16_t kLastSlot = kAfterMarkSlot;
 
-// Prefixes of ships, each with its blank.
-constexpr TextView kShipPrefixes[] = {u"U.S.S. ", u"USS ", u"H.M.S. ", u"HMS ", u"R.M.S. ", u"RMS ", u"S.S. "};
-
 bool isQuestionOrExclamation(char16_t unit) {
     return unit == u'?' || unit == u'!';
 }
@@ -335,14 +332,18 @@ void OutputTemplateTitle::UnItalicizeShipNames(TextView text, std::span<const Wo
                                                std::vector<Range>& roman) const {
     procedure(*this, u"OutputTemplateTitle.UnItalicizeShipNames", {{u"text", text}}, [&] {
         for (const Word& word : words) {
+            if (!word.known.is(titlewords::kShipPrefix)) {
+                continue;
+            }
             const std::size_t at = word.core.begin;
-            const auto* const prefix = std::find_if(std::begin(kShipPrefixes), std::end(kShipPrefixes),
-                                                    [&](TextView start) { return startsWith(text.substr(at), start); });
-            if (prefix == std::end(kShipPrefixes) || (at > 0 && text[at - 1] != u' ')) {
+            // "U.S.S. " or "USS ".
+            const bool isDotted = slice(text, word.core).find(u'.') != TextView::npos;
+            const TextView joint = isDotted ? u". " : u" ";
+            if ((at > 0 && text[at - 1] != u' ') || !startsWith(text.substr(word.core.end), joint)) {
                 continue;
             }
             // The name is one word, without the mark behind it.
-            std::size_t end = at + prefix->size();
+            std::size_t end = word.core.end + joint.size();
             while (end < text.size() && (isDigit(text[end]) || isCasedLetter(text[end]) || text[end] == u'-')) {
                 ++end;
             }

@@ -155,12 +155,12 @@ private:
             }
         }
         const std::size_t wordBefore = mIsFirst ? begin : mTitle.words.back().core.end;
-        Word& word = mTitle.words.emplace_back();
-        word.core = {begin, coreEnd};
-        word.name = {begin, begin + withoutPossessive(slice(mText, word.core)).size()};
-        word.known = mTitle.find(word.core);
-        word.knownName = word.isPossessive() ? mTitle.find(word.name) : word.known;
-        word.piece = mPiece;
+        const Range core = {begin, coreEnd};
+        Word& word = mTitle.words.emplace_back(core, mTitle.find(core), mPiece);
+        word.name.end = begin + withoutPossessive(slice(mText, core)).size();
+        if (word.isPossessive()) {
+            word.knownName = mTitle.find(word.name);
+        }
         word.isFirst = mIsFirst || mIsAfterDash;
         word.beginsSubtitle = word.isFirst && (mIsAfterDash || mMark == u':' || mMark == u',');
         word.beginsClause = mIsFirst && !mIsAfterDash && mMark == u';';

@@ -23,6 +23,9 @@ inline TextView slice(TextView text, Range range) {
 
 /// A word of a title.
 struct Word {
+    Word(Range core, titlewords::Known known, std::size_t piece)
+        : core(core), name(core), known(known), knownName(known), piece(piece) {}
+
     /// Its letters and digits, without the punctuation around it.
     Range core;
     /// The same without "'s".
@@ -31,7 +34,7 @@ struct Word {
     titlewords::Known known;
     titlewords::Known knownName;
     /// The number of its piece.
-    std::size_t piece = 0;
+    std::size_t piece;
     bool isFirst = false;
     bool isLast = false;
     /// The first word of a piece behind ": " or a dash, and not of the title.

@@ -83,9 +83,12 @@ bool isPart(TextView type) {
 }
 
 TextView describingText(TextView type, std::int16_t format, bool hasTitle) {
+    if (type.empty()) {
+        return {};
+    }
     for (const Description& row : descriptions()) {
-        const bool isFor = std::find(row.formats.begin(), row.formats.end(), format) != row.formats.end();
-        if (row.type == type && isFor && (row.titled == kEither || !hasTitle)) {
+        if (row.type == type && (row.titled == kEither || !hasTitle) &&
+            std::find(row.formats.begin(), row.formats.end(), format) != row.formats.end()) {
             return row.text;
         }
     }

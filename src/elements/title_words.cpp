@@ -140,6 +140,8 @@ constexpr WordList kWords[] = {
     {kInstrumentTail,
      u"Inventory Scale Scales Questionnaire Checklist Battery Index Matrices Survey"},
 
+    {kShipPrefix,
+     u"U.S.S USS H.M.S HMS R.M.S RMS S.S"},
     {kAmbiguousMonth,
      u"May March"},
 

@@ -76,12 +76,14 @@ enum WordClass : std::uint64_t {
     kTailBehindArticle = 1ULL << 41U,
     /// Last words of the names of tests and scales behind a person's name: "Beck Depression Inventory".
     kInstrumentTail = 1ULL << 42U,
+    /// What stands before the names of ships, without its last full stop.
+    kShipPrefix = 1ULL << 43U,
     /// Months that are words, too.
-    kAmbiguousMonth = 1ULL << 43U,
+    kAmbiguousMonth = 1ULL << 44U,
     /// The names of title_names.h.
-    kPlace = 1ULL << 44U,
-    kName = 1ULL << 45U,
-    kGivenName = 1ULL << 46U,
+    kPlace = 1ULL << 45U,
+    kName = 1ULL << 46U,
+    kGivenName = 1ULL << 47U,
 };
 
 /// A set of classes.
