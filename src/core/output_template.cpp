@@ -146,7 +146,8 @@ void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implem
                {u"checkingArray", checkingArray}},
               [&] {
                   // Held, since the implementor writes into them while the host may call for new ones.
-                  const std::vector<OutputSinkRef> fragments = mFormattedItems;
+                  const std::vector<OutputSinkRef> fragments =
+                      mIndexToFormatted.empty() ? std::vector<OutputSinkRef>() : mFormattedItems;
                   if (implementor.ToFormattedStringImpl(isFootnote, mItems, mFormattedItems, shortenedVersion)) {
                       return;
                   }
@@ -155,14 +156,16 @@ void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implem
                       return;
                   }
                   Separators list = getSeparators(i, checkingArray, isFootnote);
+                  Text phrase;
                   bool noQuote = false;
-                  buildReferenceStringFirst(i, formattedStr, getSeparator(*list, i, i, formattedStr, noQuote));
+                  const Text prefix = getSeparator(*list, i, i, formattedStr, noQuote, phrase);
+                  buildReferenceStringFirst(i, formattedStr, prefix, phrase);
                   while (i <= mMaxReferenceItems) {
                       const std::int16_t j = nextFilled(static_cast<std::int16_t>(i + 1));
-                      addSeparator(*list, i, j, formattedStr, mSeparatorFonts.at(at(j)));
+                      addSeparator(*list, i, j, formattedStr, mSeparatorFonts.at(at(j)), phrase);
                       if (j <= mMaxReferenceItems) {
                           list = getSeparators(j, checkingArray, isFootnote);
-                          buildReferenceString(j, formattedStr);
+                          buildReferenceString(j, formattedStr, phrase);
                       }
                       i = j;
                   }
@@ -213,7 +216,8 @@ outputTemplate::Separators outputTemplate::getSeparators(std::int16_t Index, con
 }
 
 Text outputTemplate::getSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j,
-                                  const OutputSinkRef& formattedStr, bool& removeQuoteFromPreviousPhrase) const {
+                                  const OutputSinkRef& formattedStr, bool& removeQuoteFromPreviousPhrase,
+                                  Text& phrase) const {
     return procedure(*this, u"OutputTemplate.getSeparator",
                      {{u"list", list},
                       {u"i", i},
@@ -222,25 +226,26 @@ Text outputTemplate::getSeparator(const std::vector<Text>& list, std::int16_t i,
                       {u"removeQuoteFromPreviousPhrase", removeQuoteFromPreviousPhrase}},
                      [&]() -> Text {
                          const Text& entry = list.at(at(j - i));
+                         readPhrase(i, phrase);
                          if (i == j) {
                              // The opening text looks at the end of its own slot, which is deliberate; no
                              // quotation stands before it.
-                             return CommonModelProcessingFunctions::removeDoublePeriodsOnly(textOf(i), entry);
+                             return CommonModelProcessingFunctions::removeDoublePeriodsOnly(phrase, entry);
                          }
-                         return CommonModelProcessingFunctions::removeDoublePeriods(textOf(i), entry,
+                         return CommonModelProcessingFunctions::removeDoublePeriods(phrase, entry,
                                                                                     removeQuoteFromPreviousPhrase);
                      });
 }
 
 void outputTemplate::addSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j,
-                                  const OutputSinkRef& formattedStr, std::int16_t separatorFont) const {
+                                  const OutputSinkRef& formattedStr, std::int16_t separatorFont, Text& phrase) const {
     procedure(
         *this, u"OutputTemplate.addSeparator",
         {{u"list", list}, {u"i", i}, {u"j", j}, {u"formattedStr", formattedStr}, {u"separatorFont", separatorFont}},
         [&] {
             OutputSink& sink = object(formattedStr);
             bool removeQuote = false;
-            Text separator = getSeparator(list, i, j, formattedStr, removeQuote);
+            Text separator = getSeparator(list, i, j, formattedStr, removeQuote, phrase);
             std::int16_t font = separatorFont;
             if (removeQuote && separatorFont == OutputSink::kPlain) {
                 const std::int16_t phraseFont = sink.removeQuoteFromLastPhrase();
@@ -256,34 +261,36 @@ void outputTemplate::addSeparator(const std::vector<Text>& list, std::int16_t i,
         });
 }
 
-void outputTemplate::buildReferenceStringFirst(std::int16_t Index, const OutputSinkRef& formattedStr,
-                                               TextView prefix) const {
+void outputTemplate::buildReferenceStringFirst(std::int16_t Index, const OutputSinkRef& formattedStr, TextView prefix,
+                                               Text& phrase) const {
     procedure(*this, u"OutputTemplate.buildReferenceStringFirst",
               {{u"Index", Index}, {u"formattedStr", formattedStr}, {u"prefix", prefix}}, [&] {
                   object(formattedStr).Add(prefix);
-                  buildReferenceString(Index, formattedStr);
+                  buildReferenceString(Index, formattedStr, phrase);
               });
 }
 
-void outputTemplate::buildReferenceString(std::int16_t Index, const OutputSinkRef& formattedStr) const {
+void outputTemplate::buildReferenceString(std::int16_t Index, const OutputSinkRef& formattedStr, Text& phrase) const {
     procedure(*this, u"OutputTemplate.buildReferenceString", {{u"Index", Index}, {u"formattedStr", formattedStr}}, [&] {
         if (mReferenceItems.at(at(Index)).isFormatted) {
             const OutputSinkRef fragment = mFormattedItems.at(at(Index));
             object(formattedStr).addFormattedString(object(fragment));
         } else {
             // A copy, since the sink may have the slots emptied before it reads the text.
-            const Text item = mItems.at(at(Index));
-            object(formattedStr).Add(item);
+            phrase = mItems.at(at(Index));
+            object(formattedStr).Add(phrase);
         }
     });
 }
 
-Text outputTemplate::textOf(std::int16_t Index) const {
+/// The text of a slot. The caller's variable is used for all slots, so that few need memory of their own.
+void outputTemplate::readPhrase(std::int16_t Index, Text& phrase) const {
     if (mReferenceItems.at(at(Index)).isFormatted) {
         const OutputSinkRef fragment = mFormattedItems.at(at(Index));
-        return object(fragment).toString();
+        phrase = object(fragment).toString();
+    } else {
+        phrase = mItems.at(at(Index));
     }
-    return mItems.at(at(Index));
 }
 
 /// The first slot from `from` on that is not blank; the virtual slot behind the last when there is none.

@@ -71,14 +71,15 @@ private:
 
     Separators getSeparators(std::int16_t Index, const std::vector<bool>& checkingArray, bool isFootnote) const;
     Text getSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j, const OutputSinkRef& formattedStr,
-                      bool& removeQuoteFromPreviousPhrase) const;
+                      bool& removeQuoteFromPreviousPhrase, Text& phrase) const;
     void addSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j, const OutputSinkRef& formattedStr,
-                      std::int16_t separatorFont) const;
-    void buildReferenceStringFirst(std::int16_t Index, const OutputSinkRef& formattedStr, TextView prefix) const;
-    void buildReferenceString(std::int16_t Index, const OutputSinkRef& formattedStr) const;
+                      std::int16_t separatorFont, Text& phrase) const;
+    void buildReferenceStringFirst(std::int16_t Index, const OutputSinkRef& formattedStr, TextView prefix,
+                                   Text& phrase) const;
+    void buildReferenceString(std::int16_t Index, const OutputSinkRef& formattedStr, Text& phrase) const;
     bool hasFootnoteSeparators(std::int16_t Index, bool isChecking, std::int16_t uboundSeparators) const;
 
-    Text textOf(std::int16_t Index) const;
+    void readPhrase(std::int16_t Index, Text& phrase) const;
     std::int16_t nextFilled(std::int16_t from) const;
 
     std::int16_t mMaxReferenceItems = 0;
