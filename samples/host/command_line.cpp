@@ -4,21 +4,36 @@
 
 namespace sample {
 
+namespace {
+
+constexpr const wchar_t* kStyles[] = {L"mla", L"apa", L"turabian", L"ama"};
+
+std::wstring styleNamed(const std::wstring& name) {
+    for (const wchar_t* known : kStyles) {
+        if (CompareStringOrdinal(name.c_str(), -1, known, -1, TRUE) == CSTR_EQUAL) return known;
+    }
+    throw ComError{E_INVALIDARG, L"There is no style " + name + L": give mla, apa, turabian or ama."};
+}
+
+}  // namespace
+
 const wchar_t* const kUsage =
-    L"Formats the elements of references with the QuorvelTemplate library.\n"
+    L"Writes references with the QuorvelTemplate library.\n"
     L"\n"
-    L"  SampleHost --style mla|apa|turabian|ama [--rtf] [FILE]\n"
-    L"      each element as it stands in the reference list and in a note; with --rtf as a\n"
-    L"      document that a word processor opens\n"
     L"  SampleHost --all [FILE]\n"
-    L"      the four styles side by side\n"
+    L"      the list of references in the four styles, each in the order that its manual asks for\n"
+    L"  SampleHost --style mla|apa|turabian|ama [--notes|--short-notes] [FILE]\n"
+    L"      the list in one style, or its notes, in full or shortened (Turabian)\n"
+    L"  SampleHost --switch FROM,TO [FILE]\n"
+    L"      the list in the style TO, its elements read from a finished list in the style FROM\n"
     L"\n"
     L"  FILE           a references file; without it the references that come with the sample\n"
+    L"  --rtf          a document that a word processor opens, instead of plain text\n"
     L"  --report FILE  offers the library an error-report service that writes to FILE\n"
     L"  --help         this text\n"
     L"\n"
-    L"Exit status: 0 success, 1 wrong arguments or unreadable data, 2 the library is not\n"
-    L"registered, 3 a call failed, 4 an object was not released.\n";
+    L"Text is UTF-8. Exit status: 0 success, 1 wrong arguments or unreadable data, 2 the library\n"
+    L"is not registered, 3 a call failed, 4 an object was not released.\n";
 
 CommandLine readCommandLine(const std::vector<std::wstring>& arguments) {
     CommandLine line;
@@ -30,12 +45,24 @@ CommandLine readCommandLine(const std::vector<std::wstring>& arguments) {
         };
         if (argument == L"--help") {
             line.help = true;
-        } else if (argument == L"--all") {
-            line.all = true;
+            return line;
+        }
+        if (argument == L"--all") {
+            line.styles.insert(line.styles.end(), std::begin(kStyles), std::end(kStyles));
+        } else if (argument == L"--style") {
+            line.styles.push_back(styleNamed(value()));
+        } else if (argument == L"--switch") {
+            const std::wstring both = value();
+            const std::size_t comma = both.find(L',');
+            if (comma == std::wstring::npos) throw ComError{E_INVALIDARG, L"--switch needs two styles: mla,apa."};
+            line.from = styleNamed(both.substr(0, comma));
+            line.styles.push_back(styleNamed(both.substr(comma + 1)));
+        } else if (argument == L"--notes") {
+            line.form = Form::kNote;
+        } else if (argument == L"--short-notes") {
+            line.form = Form::kShortNote;
         } else if (argument == L"--rtf") {
             line.rtf = true;
-        } else if (argument == L"--style") {
-            line.style = value();
         } else if (argument == L"--report") {
             line.reportFile = value();
         } else if (argument.starts_with(L"--")) {
@@ -46,9 +73,7 @@ CommandLine readCommandLine(const std::vector<std::wstring>& arguments) {
             line.referencesFile = argument;
         }
     }
-    if (line.help) return line;
-    if (line.all == !line.style.empty()) throw ComError{E_INVALIDARG, L"Give either --all or one --style."};
-    if (line.all && line.rtf) throw ComError{E_INVALIDARG, L"--rtf writes one style: give it with --style."};
+    if (line.styles.empty()) throw ComError{E_INVALIDARG, L"Give --all, --style or --switch."};
     return line;
 }
 

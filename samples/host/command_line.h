@@ -3,14 +3,18 @@
 #include <string>
 #include <vector>
 
+#include "style.h"
+
 namespace sample {
 
 /// What the user asked for.
 struct CommandLine {
     bool help = false;
-    /// All styles side by side; else the one named below.
-    bool all = false;
-    std::wstring style;
+    /// The styles whose lists are printed, by the names of their files.
+    std::vector<std::wstring> styles;
+    /// Not empty: the elements are read from a finished list of this style.
+    std::wstring from;
+    Form form = Form::kList;
     bool rtf = false;
     /// Where the error report goes; empty: no error-report service.
     std::wstring reportFile;

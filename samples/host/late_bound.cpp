@@ -1,6 +1,7 @@
 #include "late_bound.h"
 
 #include <cstdio>
+#include <span>
 
 namespace sample {
 
@@ -37,6 +38,49 @@ constexpr FailureText kFailureTexts[] = {
 Variant valueOrThrow(CallResult result) {
     if (!result.ok()) throw ComError{result.code, result.error};
     return std::move(result.value);
+}
+
+/// @param namedIds the ids of the named arguments
+CallResult invoke(IDispatch* object, const std::wstring& member, DISPID id, WORD kinds,
+                  std::span<const Variant> arguments, std::span<const NamedArgument> namedArguments = {},
+                  DISPID* namedIds = nullptr) {
+    // The array is the list read backwards: named arguments first, then the others, last one first.
+    std::vector<VARIANT> passed;
+    passed.reserve(arguments.size() + namedArguments.size());
+    for (const NamedArgument& argument : namedArguments) passed.push_back(argument.value.get());
+    for (std::size_t i = arguments.size(); i > 0; --i) passed.push_back(arguments[i - 1].get());
+    DISPID putId = DISPID_PROPERTYPUT;
+    DISPPARAMS parameters{};
+    parameters.cArgs = static_cast<UINT>(passed.size());
+    parameters.rgvarg = passed.data();
+    parameters.cNamedArgs = static_cast<UINT>(namedArguments.size());
+    parameters.rgdispidNamedArgs = namedIds;
+    if (kinds == DISPATCH_PROPERTYPUT) {
+        parameters.cNamedArgs = 1;
+        parameters.rgdispidNamedArgs = &putId;
+    }
+
+    CallResult result;
+    ExceptionInfo exception;
+    UINT badArgument = 0;
+    VARIANT* value = kinds == DISPATCH_PROPERTYPUT ? nullptr : &result.value.get();
+    result.code =
+        object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, kinds, &parameters, value, &exception, &badArgument);
+    if (result.code == DISP_E_EXCEPTION) {
+        if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
+        const HRESULT cause = FAILED(exception.scode) ? exception.scode : result.code;
+        result.error =
+            member + L": " +
+            (exception.bstrDescription != nullptr ? std::wstring(exception.bstrDescription) : describe(cause));
+    } else if (FAILED(result.code)) {
+        result.error = member + L": " + describe(result.code);
+        if (result.code == DISP_E_TYPEMISMATCH || result.code == DISP_E_PARAMNOTFOUND) {
+            const bool isNamed = badArgument < namedArguments.size();
+            result.error += L" Argument: " +
+                            (isNamed ? namedArguments[badArgument].name : std::to_wstring(passed.size() - badArgument));
+        }
+    }
+    return result;
 }
 
 CallResult failure(HRESULT code, const std::wstring& member, const std::wstring& why) {
@@ -93,6 +137,19 @@ void LateBoundObject::put(const std::wstring& property, const Variant& value,
     valueOrThrow(tryCall(property, DISPATCH_PROPERTYPUT, arguments));
 }
 
+LateBoundMember LateBoundObject::member(const std::wstring& name) const {
+    if (!mObject) throw ComError{E_POINTER, name + L": There is no object."};
+    auto* spelling = const_cast<wchar_t*>(name.c_str());
+    DISPID id = DISPID_UNKNOWN;
+    const HRESULT code = mObject->GetIDsOfNames(IID_NULL, &spelling, 1, LOCALE_USER_DEFAULT, &id);
+    if (FAILED(code)) throw ComError{code, name + L": " + describe(code)};
+    return {mObject, name, id};
+}
+
+Variant LateBoundMember::operator()(std::initializer_list<Variant> arguments) const {
+    return valueOrThrow(invoke(mObject.get(), mName, mId, DISPATCH_METHOD, {arguments.begin(), arguments.size()}));
+}
+
 CallResult LateBoundObject::tryCall(const std::wstring& member, WORD kinds, const std::vector<Variant>& arguments,
                                     const std::vector<NamedArgument>& namedArguments) const {
     if (!mObject) return failure(E_POINTER, member, L"There is no object.");
@@ -101,8 +158,8 @@ CallResult LateBoundObject::tryCall(const std::wstring& member, WORD kinds, cons
     std::vector<LPOLESTR> names{const_cast<wchar_t*>(member.c_str())};
     for (const NamedArgument& argument : namedArguments) names.push_back(const_cast<wchar_t*>(argument.name.c_str()));
     std::vector<DISPID> ids(names.size(), DISPID_UNKNOWN);
-    HRESULT code = mObject->GetIDsOfNames(IID_NULL, names.data(), static_cast<UINT>(names.size()), LOCALE_USER_DEFAULT,
-                                          ids.data());
+    const HRESULT code = mObject->GetIDsOfNames(IID_NULL, names.data(), static_cast<UINT>(names.size()),
+                                                LOCALE_USER_DEFAULT, ids.data());
     if (FAILED(code)) {
         std::wstring unknown = member;
         for (std::size_t i = 1; i < ids.size() && ids[0] != DISPID_UNKNOWN; ++i) {
@@ -110,45 +167,7 @@ CallResult LateBoundObject::tryCall(const std::wstring& member, WORD kinds, cons
         }
         return failure(code, unknown, describe(code));
     }
-
-    // The array is the list read backwards: named arguments first, then the others, last one first.
-    std::vector<VARIANT> passed;
-    for (const NamedArgument& argument : namedArguments) passed.push_back(argument.value.get());
-    for (auto argument = arguments.rbegin(); argument != arguments.rend(); ++argument) {
-        passed.push_back(argument->get());
-    }
-    DISPID putId = DISPID_PROPERTYPUT;
-    DISPPARAMS parameters{};
-    parameters.cArgs = static_cast<UINT>(passed.size());
-    parameters.rgvarg = passed.data();
-    parameters.cNamedArgs = static_cast<UINT>(namedArguments.size());
-    parameters.rgdispidNamedArgs = ids.data() + 1;
-    if (kinds == DISPATCH_PROPERTYPUT) {
-        parameters.cNamedArgs = 1;
-        parameters.rgdispidNamedArgs = &putId;
-    }
-
-    CallResult result;
-    ExceptionInfo exception;
-    UINT badArgument = 0;
-    VARIANT* value = kinds == DISPATCH_PROPERTYPUT ? nullptr : &result.value.get();
-    result.code =
-        mObject->Invoke(ids[0], IID_NULL, LOCALE_USER_DEFAULT, kinds, &parameters, value, &exception, &badArgument);
-    if (result.code == DISP_E_EXCEPTION) {
-        if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
-        const HRESULT cause = FAILED(exception.scode) ? exception.scode : result.code;
-        result.error =
-            member + L": " +
-            (exception.bstrDescription != nullptr ? std::wstring(exception.bstrDescription) : describe(cause));
-    } else if (FAILED(result.code)) {
-        result.error = member + L": " + describe(result.code);
-        if (result.code == DISP_E_TYPEMISMATCH || result.code == DISP_E_PARAMNOTFOUND) {
-            const bool isNamed = badArgument < namedArguments.size();
-            result.error += L" Argument: " +
-                            (isNamed ? namedArguments[badArgument].name : std::to_wstring(passed.size() - badArgument));
-        }
-    }
-    return result;
+    return invoke(mObject.get(), member, ids[0], kinds, arguments, namedArguments, ids.data() + 1);
 }
 
 }  // namespace sample

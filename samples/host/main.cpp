@@ -1,5 +1,5 @@
-/// A host of the library, as small as one can be: it reads styles and references from text files,
-/// lets the library format each element, and prints the results.
+/// A host of the library, as small as one can be: it reads styles and references from text files, has the library write
+/// the references, and prints the list.
 
 #include <windows.h>
 
@@ -12,9 +12,7 @@
 #include "bridge_to_vb.h"
 #include "command_line.h"
 #include "error_report_service.h"
-#include "listings.h"
-#include "references.h"
-#include "styled_elements.h"
+#include "reference_list.h"
 #include "text_io.h"
 
 namespace sample {
@@ -25,7 +23,6 @@ enum ExitStatus { kSuccess = 0, kBadInput = 1, kNotRegistered = 2, kCallFailed =
 
 constexpr const wchar_t* kLibraryClass = L"QuorvelTemplate.Main2";
 constexpr const wchar_t* kLibraryFile = L"QuorvelTemplate.dll";
-constexpr const wchar_t* kStyles[] = {L"mla", L"apa", L"turabian", L"ama"};
 
 std::vector<std::wstring> programArguments() {
     int count = 0;
@@ -44,24 +41,28 @@ std::filesystem::path dataFile(const std::filesystem::path& name) {
 }
 
 Style namedStyle(const std::wstring& name) {
-    for (const wchar_t* known : kStyles) {
-        if (name == known) return readStyle(dataFile(std::filesystem::path("styles") / (name + L".style")));
-    }
-    throw ComError{E_INVALIDARG, L"There is no style " + name + L": give mla, apa, turabian or ama."};
+    return readStyle(dataFile(std::filesystem::path("styles") / (name + L".style")));
 }
 
-void formatReferences(const CommandLine& line, const std::vector<Style>& styles,
-                      const std::vector<Reference>& references) {
+void printLists(const CommandLine& line, const std::vector<Style>& styles, const std::optional<Style>& from,
+                std::vector<Reference> references) {
     const LateBoundObject library = LateBoundObject::create(kLibraryClass);
-    std::vector<StyledElements> elements;
-    for (const Style& style : styles) elements.emplace_back(library, style);
-    if (line.all) {
-        printStylesSideBySide(elements, references);
-    } else if (line.rtf) {
-        printAsRtf(elements.front(), references);
-    } else {
-        printStyle(elements.front(), references);
+    if (from) {
+        ReferenceWriter writer(library, *from);
+        references = elementTexts(writer, references);
     }
+    std::vector<RtfParagraph> paragraphs;
+    for (const Style& style : styles) {
+        ReferenceWriter writer(library, style);
+        const std::vector<ListedReference> list = listed(writer, references, line.form);
+        if (line.rtf) {
+            const std::vector<RtfParagraph> more = rtfParagraphs(style.manual, list);
+            paragraphs.insert(paragraphs.end(), more.begin(), more.end());
+        } else {
+            print(style.manual + L"\n\n" + plainText(list) + L"\n");
+        }
+    }
+    if (line.rtf) print(fromUtf8(rtfDocument(paragraphs)));
 }
 
 /// The error-report service and its place among the running objects, for as long as this lives.
@@ -105,6 +106,7 @@ ExitStatus checkReleased() {
 ExitStatus run() {
     CommandLine line;
     std::vector<Style> styles;
+    std::optional<Style> from;
     std::vector<Reference> references;
     try {
         line = readCommandLine(programArguments());
@@ -117,11 +119,8 @@ ExitStatus run() {
         return kSuccess;
     }
     try {
-        if (line.all) {
-            for (const wchar_t* name : kStyles) styles.push_back(namedStyle(name));
-        } else {
-            styles.push_back(namedStyle(line.style));
-        }
+        for (const std::wstring& name : line.styles) styles.push_back(namedStyle(name));
+        if (!line.from.empty()) from = namedStyle(line.from);
         references = readReferences(line.referencesFile.empty() ? dataFile("references.txt")
                                                                 : std::filesystem::path(line.referencesFile));
     } catch (const ComError& error) {
@@ -131,7 +130,7 @@ ExitStatus run() {
     try {
         std::optional<ErrorReport> report;
         if (!line.reportFile.empty()) report.emplace(line.reportFile);
-        formatReferences(line, styles, references);
+        printLists(line, styles, from, std::move(references));
     } catch (const ComError& error) {
         printError(L"SampleHost: " + error.message + L"\n");
         if (error.code != CO_E_CLASSSTRING && error.code != REGDB_E_CLASSNOTREG) return kCallFailed;

@@ -17,6 +17,7 @@ public:
     ReferenceModel();
 
     void set(std::int32_t index, std::wstring value) { mValues[index] = std::move(value); }
+    void clear() { mValues.clear(); }
     std::wstring value(std::int32_t index) const;
 
 private:

@@ -1,27 +1,29 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <vector>
 
+#include "fields.h"
+
 namespace sample {
 
-/// One element of a reference, as it stands in some finished reference.
-struct ReferenceElement {
-    /// The name of its kind (elements.h).
-    std::wstring name;
-    std::wstring text;
+/// One reference: the texts of its fields as they stand in some finished reference.
+class Reference {
+public:
+    const std::wstring& text(const Field& field) const { return mTexts[static_cast<std::size_t>(field.index)]; }
+    /// The same by the field's name, which has to be one.
+    const std::wstring& text(const wchar_t* field) const { return text(*findField(field)); }
+    bool has(const Field& field) const { return !text(field).empty(); }
+    void set(const Field& field, std::wstring text) { mTexts[static_cast<std::size_t>(field.index)] = std::move(text); }
+
+private:
+    std::array<std::wstring, kLastIndex + 1> mTexts;
 };
 
-struct Reference {
-    std::vector<ReferenceElement> elements;
-
-    /// Author and title on one line, for headings.
-    std::wstring label() const;
-};
-
-/// Reads a references file: one element a line, "name: text"; an empty line ends a reference. Lines
-/// that begin with # are comments.
+/// Reads a references file: one field a line, "name: text"; an empty line ends a reference. Lines that begin with #
+/// are comments. Every reference has a kind, and an id of its own.
 /// @throws ComError with a message that names file, line and fault
 std::vector<Reference> readReferences(const std::filesystem::path& file);
 

@@ -1,48 +1,41 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
+#include <utility>
 
-#include "formatted_text.h"
 #include "late_bound.h"
-#include "references.h"
-#include "styles.h"
+#include "style.h"
 
 namespace sample {
 
-/// What the library makes of one element's text.
-struct FormattedElement {
-    ComPointer<FormattedText> reference;
-    ComPointer<FormattedText> note;
+/// One element of the library with the options of a style, ready to be used for any number of references.
+struct StyledElement {
+    LateBoundObject object;
+    LateBoundMember parse;
+    LateBoundMember toString;
+    LateBoundMember toFormattedString;
 };
 
-/// The library's elements with the options of one style. This is the way through the library that
-/// every host takes: build, Reset once, then Parse and ToFormattedString for each text.
+/// The elements that a style needs, each built and `Reset` once, when it is first asked for.
 class StyledElements {
 public:
     /// @param main a QuorvelTemplate.Main2
-    StyledElements(LateBoundObject main, Style style) : mMain(std::move(main)), mStyle(std::move(style)) {}
+    /// @param style outlives this object
+    StyledElements(LateBoundObject main, const Style& style) : mMain(std::move(main)), mStyle(style) {}
 
-    const Style& style() const { return mStyle; }
-
-    /// The text of an element in this style; nothing when the library does not offer the element or
-    /// the style file has no options for it.
-    /// @param name the kind's name (elements.h)
-    /// @param secondaryText what the host knows beside the text: of a title its type
-    std::optional<FormattedElement> format(const std::wstring& name, const std::wstring& text,
-                                           const std::wstring& secondaryText = {});
-    /// An element of a reference; the title of a work inside a journal or newspaper is an article's.
-    std::optional<FormattedElement> format(const Reference& reference, const ReferenceElement& element);
+    /// @param name of the element or of one of the style's variants of it
+    /// @param code what `Main2.build` takes
+    /// @return null when the library does not offer the element or the style has no options for it
+    const StyledElement* element(const std::wstring& name, std::int16_t code);
 
 private:
-    LateBoundObject element(const std::wstring& name);
-    LateBoundObject buildElement(const std::wstring& name);
+    StyledElement build(const std::wstring& name, std::int16_t code);
 
     LateBoundObject mMain;
-    Style mStyle;
+    const Style& mStyle;
     // Also holds the elements that are not offered, as Nothing.
-    std::map<std::wstring, LateBoundObject> mElements;
+    std::map<std::pair<std::wstring, std::int16_t>, StyledElement> mElements;
 };
 
 }  // namespace sample

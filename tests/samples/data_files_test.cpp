@@ -5,9 +5,8 @@
 #include <map>
 #include <set>
 
-#include "elements.h"
 #include "references.h"
-#include "styles.h"
+#include "style.h"
 #include "text_io.h"
 
 namespace sample {
@@ -48,19 +47,55 @@ std::wstring faultOf(std::wstring_view text, Read read) {
 TEST(Styles, ValuesKeepTheirTypes) {
     const TemporaryFile file(
         L"\uFEFFstyle.name = \"S\"\r\n# comment\r\n\r\n"
-        L"year.a=true#c\n author.b = -12 # c\ntitle.c = \" say \"\"#1\"\" \" # c\npage.d = [true, 2, \"x, ]\"]\n"
-        L"title.e = @author\nyear.f = \"\"\nyear.g = []");
+        L"year.a=true#c\n year.b = -12 # c\nyear.c = \" say \"\"#1\"\" \" # c\nyear.d = [true, 2, \"x, ]\"]\n"
+        L"title.e = @author\nyear.f = \"\"\nyear.g = []\n[element old = year]\nb = 3\nh = true");
     const Style style = readStyle(file.path());
     EXPECT_EQ(style.name, L"S");
-    ASSERT_EQ(style.options.size(), 7u);
-    EXPECT_EQ(style.options[0].value.get().vt, VT_BOOL);
-    EXPECT_EQ(numberOf(style.options[1].value), -12);
-    EXPECT_EQ(textOf(style.options[2].value), L" say \"#1\" ");
-    EXPECT_EQ(textOf(elementsOf(style.options[3].value)[2]), L"x, ]");
-    EXPECT_EQ(style.options[4].valueElement, L"author");
-    EXPECT_EQ(textOf(style.options[5].value), L"");
-    EXPECT_TRUE(elementsOf(style.options[6].value).empty());
-    EXPECT_EQ(style.optionsOf(L"year").size(), 3u);
+    const std::vector<StyleOption> options = style.optionsOf(L"year");
+    ASSERT_EQ(options.size(), 6u);
+    EXPECT_EQ(options[0].value.get().vt, VT_BOOL);
+    EXPECT_EQ(numberOf(options[1].value), -12);
+    EXPECT_EQ(textOf(options[2].value), L" say \"#1\" ");
+    EXPECT_EQ(textOf(elementsOf(options[3].value)[2]), L"x, ]");
+    EXPECT_EQ(textOf(options[4].value), L"");
+    EXPECT_TRUE(elementsOf(options[5].value).empty());
+    EXPECT_EQ(style.optionsOf(L"title")[0].valueElement, L"author");
+    // A variant has the options of its element, its own instead of those.
+    const std::vector<StyleOption> variant = style.optionsOf(L"old");
+    ASSERT_EQ(variant.size(), 7u);
+    EXPECT_EQ(numberOf(variant[5].value), 3);
+}
+
+TEST(Styles, ALayoutIsWhatTheModelTemplateTakes) {
+    const TemporaryFile file(
+        L"style.name = \"S\"\n"
+        L"[slots]\nauthor = author | editor with-role\nnumber = number italic \"no. {}\"\n"
+        L"[slots report]\nauthor = author\n"
+        L"[list book report]\n"
+        L"author  other \". \"  last \".\"\n"
+        L"title   number \" (\"  last \"!\"\n"
+        L"title   when \"medium=Web||DVD\"  first \"In \"  number \", \"  last \"?\"\n"
+        L"number  last \").\"\n"
+        L"[note book]\n"
+        L"author  other \", \"  last \"\"\n"
+        L"title   other \": \"  last \";\"\n"
+        L"number  last \"\"\n");
+    const Style style = readStyle(file.path());
+    const std::vector<Slot>& book = style.layouts.at(L"book").slots;
+    ASSERT_EQ(book.size(), 3u);
+    using Texts = std::vector<std::wstring>;
+    EXPECT_EQ(book[0].separators, (Texts{L"", L". ", L". ", L".", L"", L", ", L", ", L""}));
+    // List and note, and both again under the condition; the note has none of its own.
+    EXPECT_EQ(book[1].separators, (Texts{L"", L" (", L"!", L"", L": ", L";", L"In ", L", ", L"?", L"", L": ", L";"}));
+    EXPECT_EQ(book[1].checkingKey, L"medium=Web||DVD");
+    EXPECT_EQ(book[0].sources.size(), 2u);
+    EXPECT_TRUE(book[0].sources[1].withRole);
+    EXPECT_FALSE(book[0].isFormatted);
+    EXPECT_TRUE(book[1].isFormatted);
+    EXPECT_TRUE(book[2].isFormatted);
+    const std::vector<Slot>& report = style.layouts.at(L"report").slots;
+    EXPECT_EQ(report[0].sources.size(), 1u);
+    EXPECT_EQ(report[0].separators.size(), 4u);
 }
 
 TEST(Styles, FaultsAreNamedWithTheirLine) {
@@ -71,63 +106,70 @@ TEST(Styles, FaultsAreNamedWithTheirLine) {
         {L"year.a = ", L"line 1: a name or a value is missing."},
         {L"year.a = True", L"line 1: \"True\" is neither true, false nor a number; texts stand in quotation marks."},
         {L"year.a = \"n.d.", L"line 1: the closing quotation mark is missing."},
-        {L"year.a = true false", L"line 1: there is more on the line than one value."},
+        {L"year.a = true false", L"line 1: there is more on the line than belongs there."},
         {L"year.a = [1, 2", L"line 1: the closing bracket is missing."},
         {L"title.a = @autor", L"line 1: there is no element named autor."},
-        {L"style.nam = \"x\"", L"line 1: a style has only a name and a manual."},
+        {L"style.nam = \"x\"", L"line 1: a style has no nam."},
+        {L"[layout book]", L"line 1: there is no section named layout."},
+        {L"[slots]\nauthor = autor", L"line 2: there is no field named autor."},
+        {L"[slots]\nauthor = author bold", L"line 2: \"bold\" says nothing of a slot."},
+        {L"style.name = \"S\"\n[list book]\nauthor last \".\"\ntitle last \".\"",
+         L"line 3: what stands before title is missing."},
+        {L"style.name = \"S\"\n[list book]\nauthor yaer \"\" other \"\" last \".\"\ntitle last \".\"",
+         L"line 3: no slot yaer comes after author."},
+        {L"style.name = \"S\"\n[list book]\ntitle last \".\"\n[note book]\nyear last \".\"",
+         L"line 5: the notes have other slots than the list."},
         {L"year.a = true", L"?"},
     };
     for (const auto& [text, fault] : cases) EXPECT_EQ(faultOf(text, readStyle), fault);
 }
 
-TEST(Styles, TheFourStylesGiveTheSameOptions) {
+TEST(Styles, TheFourStylesGiveTheSameOptionsAndLayouts) {
     using Names = std::map<std::wstring, std::set<std::wstring>>;
     const auto names = [](const Style& style) {
         Names result;
-        for (const StyleOption& option : style.options) {
-            EXPECT_TRUE(result[option.element].insert(option.name).second) << toUtf8(option.name) << " twice";
+        for (const auto& [element, its] : style.elements) {
+            if (!its.base.empty()) continue;
+            for (const StyleOption& option : its.options) {
+                EXPECT_TRUE(result[element].insert(option.name).second) << toUtf8(option.name) << " twice";
+            }
         }
+        for (const auto& [kind, layout] : style.layouts) result[L"layouts"].insert(kind);
         return result;
     };
     const Names first = names(readStyle(data(L"styles/mla.style")));
     EXPECT_EQ(first.at(L"year").size(), 7u);
-    EXPECT_EQ(first.at(L"place").size(), 5u);
     EXPECT_EQ(first.at(L"author").size(), 23u);
     for (const wchar_t* name : kStyles) {
         EXPECT_EQ(names(readStyle(data(L"styles/" + std::wstring(name) + L".style"))), first);
     }
 }
 
-TEST(References, ElementsKeepTheirOrderAndColons) {
+TEST(References, FieldsKeepTheirColons) {
     const TemporaryFile file(
-        L"# comment: no element\nauthor: Kuhn, Thomas S.\n title :  A: B # C \n\n\nonline: http://x.org/#y\n");
+        L"# comment: no field\nid: a\nkind: book\n title :  A: B # C \n\n\nid: b\nkind: web\nurl: http://x.org/#y\n");
     const std::vector<Reference> references = readReferences(file.path());
     ASSERT_EQ(references.size(), 2u);
-    EXPECT_EQ(references[0].elements[1].name, L"title");
-    EXPECT_EQ(references[0].elements[1].text, L"A: B # C");
-    EXPECT_EQ(references[0].label(), L"Kuhn, Thomas S. A: B # C");
-    EXPECT_EQ(references[1].elements[0].text, L"http://x.org/#y");
-    EXPECT_EQ(faultOf(L"\nautor: x", readReferences), L"line 2: there is no element named \"autor\".");
-    EXPECT_EQ(faultOf(L"author", readReferences), L"line 1: there is no element named \"author\".");
-    EXPECT_EQ(faultOf(L"# nothing", readReferences), L"?");
+    EXPECT_EQ(references[0].text(L"title"), L"A: B # C");
+    EXPECT_EQ(references[1].text(L"url"), L"http://x.org/#y");
+    EXPECT_FALSE(references[1].has(*findField(L"title")));
+    const std::pair<const wchar_t*, const wchar_t*> cases[] = {
+        {L"\nautor: x", L"line 2: there is no field named \"autor\"."},
+        {L"author", L"line 1: there is no field named \"author\"."},
+        {L"id: a\nid: b", L"line 2: the reference has two fields named id."},
+        {L"id: a\nyear: 1990\n\n", L"line 3: the reference before has no kind."},
+        {L"id: a\nkind: book\n\nid: a\nkind: web", L"line 5: the reference before has no id of its own."},
+        {L"# nothing", L"?"},
+    };
+    for (const auto& [text, fault] : cases) EXPECT_EQ(faultOf(text, readReferences), fault);
 }
 
-TEST(References, TheSampleShowsTheVariantsOfEachElement) {
-    std::map<std::wstring, std::set<std::wstring>> texts;
-    const std::vector<Reference> references = readReferences(data(L"references.txt"));
-    EXPECT_GE(references.size(), 20u);
-    for (const Reference& reference : references) {
-        EXPECT_FALSE(reference.label().empty());
-        for (const ReferenceElement& element : reference.elements) texts[element.name].insert(element.text);
-    }
-    for (const wchar_t* year :
-         {L"n.d.", L"[1971?]", L"[ca. 1455]", L"[c. 1937]", L"[1588]", L"In press", L"1955-1992"}) {
-        EXPECT_TRUE(texts[L"year"].contains(year)) << toUtf8(year);
-    }
-    for (const wchar_t* place : {L"n.p.", L"[Antwerp?]", L"[Tel Aviv]", L"Portland, OR"}) {
-        EXPECT_TRUE(texts[L"place"].contains(place)) << toUtf8(place);
-    }
-    EXPECT_TRUE(texts[L"date-time"].contains(L"September 1, 2011"));
+TEST(References, TheSampleHasEveryKind) {
+    std::map<std::wstring, int> kinds;
+    for (const Reference& reference : readReferences(data(L"references.txt"))) ++kinds[reference.text(L"kind")];
+    const Style style = readStyle(data(L"styles/mla.style"));
+    for (const auto& [kind, layout] : style.layouts) EXPECT_GT(kinds[kind], 0) << toUtf8(kind);
+    EXPECT_EQ(kinds.size(), style.layouts.size());
 }
 
 }  // namespace

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+
+#include "data_file.h"
+#include "reference_writer.h"
+#include "references.h"
+#include "text_io.h"
+
+namespace sample {
+namespace {
+
+struct Example {
+    std::wstring style;
+    Form form;
+    int line;
+    std::wstring id;
+    std::wstring manual;
+    /// Empty: the same as the manual's.
+    std::wstring ours;
+    std::wstring reason;
+};
+
+std::filesystem::path data(const std::wstring& name) {
+    return std::filesystem::path(SAMPLE_DATA) / name;
+}
+
+std::vector<Example> readExamples() {
+    const std::map<std::wstring, Form> forms = {
+        {L"list", Form::kList}, {L"note", Form::kNote}, {L"short", Form::kShortNote}};
+    std::vector<Example> examples;
+    std::wstring style;
+    Form form = Form::kList;
+    forEachLine(MANUAL_EXAMPLES, [&](std::wstring_view text, int number) {
+        LineReader line(text);
+        const auto rest = [&](std::wstring_view key) { return std::wstring(trimmed(text.substr(key.size()))); };
+        if (text.empty() || text.front() == L'#') return;
+        if (line.take(L'[')) {
+            style = line.word();
+            form = forms.at(line.word());
+        } else if (examples.empty() || !examples.back().manual.empty()) {
+            if (text.starts_with(L"ours:")) {
+                examples.back().ours = rest(L"ours:");
+            } else if (text.starts_with(L"reason:")) {
+                examples.back().reason = rest(L"reason:");
+            } else {
+                examples.push_back({style, form, number, line.word(), L"", L"", L""});
+            }
+        } else {
+            examples.back().manual = text;
+        }
+    });
+    return examples;
+}
+
+/// The text with its italics between asterisks.
+std::wstring withItalics(const FormattedText& text) {
+    std::wstring result;
+    for (const Phrase& phrase : text.phrases()) {
+        result += phrase.font == kItalic ? L"*" + phrase.text + L"*" : phrase.text;
+    }
+    return result;
+}
+
+class ManualExamples : public testing::Test {
+protected:
+    ManualExamples() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
+    ~ManualExamples() override {
+        writers.clear();
+        CoUninitialize();
+    }
+
+    ReferenceWriter& writer(const std::wstring& style) {
+        std::unique_ptr<ReferenceWriter>& known = writers[style];
+        if (!known) {
+            known = std::make_unique<ReferenceWriter>(LateBoundObject::create(L"QuorvelTemplate.Main2"),
+                                                      readStyle(data(L"styles/" + style + L".style")));
+        }
+        return *known;
+    }
+
+    std::map<std::wstring, std::unique_ptr<ReferenceWriter>> writers;
+};
+
+TEST_F(ManualExamples, ComeOutAsTheManualsHaveThemOrDifferForAReason) {
+    const std::vector<Reference> references = readReferences(data(L"references.txt"));
+    std::map<std::pair<std::wstring, Form>, int> counts;
+    for (const Example& example : readExamples()) {
+        const auto found = std::find_if(references.begin(), references.end(), [&](const Reference& reference) {
+            return reference.text(L"id") == example.id;
+        });
+        ASSERT_NE(found, references.end()) << toUtf8(example.id);
+        const auto sink = makeObject<FormattedText>();
+        writer(example.style).write(*found, example.form, *sink);
+        const std::wstring expected = example.ours.empty() ? example.manual : example.ours;
+        EXPECT_EQ(toUtf8(withItalics(*sink)), toUtf8(expected)) << "line " << example.line;
+        // Where they agree there is nothing to explain.
+        EXPECT_NE(example.ours, example.manual) << "line " << example.line;
+        EXPECT_EQ(example.ours.empty(), example.reason.empty()) << "line " << example.line;
+        ++counts[{example.style, example.form}];
+    }
+    for (const wchar_t* style : {L"mla", L"apa", L"turabian", L"ama"}) {
+        EXPECT_GE((counts[{style, Form::kList}]), 12) << toUtf8(style);
+    }
+    EXPECT_GE((counts[{L"turabian", Form::kNote}]), 12);
+}
+
+}  // namespace
+}  // namespace sample
