@@ -31,11 +31,23 @@ std::uint32_t hashOf(TextView word) {
     return static_cast<std::uint32_t>(hash >> 32U);
 }
 
+/// The same letters in the same case; the lists write the straight apostrophe.
+bool isWrittenAs(TextView word, TextView listed) {
+    return std::equal(word.begin(), word.end(), listed.begin(), listed.end(), [](char16_t unit, char16_t inList) {
+        return unit == inList || (unit == kApostrophe && inList == u'\'');
+    });
+}
+
 /// Takes the first word off a list.
 TextView takeFirst(TextView& list, char16_t separator) {
     const TextView first = list.substr(0, list.find(separator));
     list.remove_prefix(std::min(first.size() + 1, list.size()));
     return first;
+}
+
+/// Without the marks behind a word of a name, which are not part of the words of a title either.
+TextView withoutMarks(TextView word) {
+    return word.substr(0, word.find_last_not_of(u".,'") + 1);
 }
 
 }  // namespace
@@ -76,7 +88,7 @@ Known Lexicon::find(TextView word, TextView lowered) const {
 WordClasses Lexicon::classesOf(EntryId entry, TextView word) const {
     WordClasses classes = mEntries[entry].anyCase;
     for (std::uint32_t form = mEntries[entry].form; form != 0; form = mForms[form].next) {
-        if (areSame(mForms[form].word, word)) {
+        if (isWrittenAs(word, mForms[form].word)) {
             classes |= mForms[form].classes;
         }
     }
@@ -122,17 +134,16 @@ void Lexicon::addPhrases(std::span<const titlenames::WordList> lists, bool isWor
         TextView rest = list.words;
         while (!rest.empty()) {
             TextView text = takeFirst(rest, u'|');
-            TextView first = before(text, u" ");
+            TextView first = withoutMarks(before(text, u" "));
             if (endsWith(first, u"'s")) {
                 first.remove_suffix(2);
             }
             FoundPhrase next = {entryOf(first), mPhraseWords.size(), {}};
             next.phrase.isWork = isWork;
             for (std::size_t k = 0; !text.empty() && k < Phrase::kMostWords; ++k) {
-                TextView word = takeFirst(text, u' ');
+                const TextView word = takeFirst(text, u' ');
                 next.phrase.capitals |= toLower(word.substr(0, 1)) != word.substr(0, 1) ? 1U << k : 0U;
-                word = word.substr(0, word.find_last_not_of(u".,'\u2019") + 1);
-                mPhraseWords.push_back(entryOf(word));
+                mPhraseWords.push_back(entryOf(withoutMarks(word)));
             }
             found.push_back(next);
         }

@@ -12,6 +12,9 @@
 
 namespace quorvel::titlewords {
 
+/// The apostrophe of a title; the lists have the straight one.
+inline constexpr char16_t kApostrophe = u'\u2019';
+
 /// A word of the lists, whatever its letter case; 0 is any word that no list holds.
 using EntryId = std::uint32_t;
 
@@ -45,7 +48,7 @@ public:
     Lexicon(const Lexicon&) = delete;
     Lexicon& operator=(const Lexicon&) = delete;
 
-    /// @param lowered the word in lower case
+    /// @param lowered the word in lower case and with straight apostrophes
     Known find(TextView word, TextView lowered) const;
     /// The classes of a word that has been found, in another letter case.
     WordClasses classesOf(EntryId entry, TextView word) const;

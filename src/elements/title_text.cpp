@@ -11,7 +11,6 @@ namespace quorvel::titlecase {
 namespace {
 
 constexpr char16_t kEmDash = u'\u2014';
-constexpr char16_t kApostrophe = u'\u2019';
 
 // What a character is in a title.
 enum UnitKind : std::uint8_t {
@@ -201,6 +200,7 @@ TextView wordBefore(TextView text, std::size_t end) {
 
 TitleText readTitle(TextView title) {
     TitleText result{title, toLower(title), {}};
+    std::replace(result.lowered.begin(), result.lowered.end(), titlewords::kApostrophe, u'\'');
     Reader(result).run();
     return result;
 }
@@ -267,7 +267,7 @@ bool isPossessive(TextView word) {
 
 TextView withoutPossessive(TextView word) {
     const std::size_t size = word.size();
-    const auto isMark = [](char16_t unit) { return unit == u'\'' || unit == kApostrophe; };
+    const auto isMark = [](char16_t unit) { return unit == u'\'' || unit == titlewords::kApostrophe; };
     if (size > 2 && (word[size - 1] == u's' || word[size - 1] == u'S') && isMark(word[size - 2])) {
         return word.substr(0, size - 2);
     }

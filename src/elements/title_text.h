@@ -66,6 +66,7 @@ struct Word {
 /// initial or an abbreviation ends none ("E. coli", "vs. ", "U.S.S. "), and "; or, " is no end of its own.
 struct TitleText {
     TextView text;
+    /// The same in lower case and with straight apostrophes, as the lexicon is asked.
     Text lowered;
     std::vector<Word> words;
 
