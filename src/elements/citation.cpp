@@ -340,7 +340,7 @@ Text OutputTemplateCitation::nameOf(const CitationFields& fields, std::int16_t f
     if (author->numAuthors() == 0) {
         return text;
     }
-    const Text names = author->toString(true, true, isMinimal, !isMinimal);
+    Text names = author->toString(true, true, isMinimal, !isMinimal);
     const Text firstNames = author->person(0).firstNames;
     if (firstNames.empty() || (firstNameCommand != kInitials && firstNameCommand != kFirstNames)) {
         return names;

@@ -15,6 +15,8 @@ constexpr TextView kMonths[] = {
     u"July",    u"August",   u"September", u"October", u"November", u"December",
 };
 
+constexpr TextView kSeasons[] = {u"Spring", u"Summer", u"Fall", u"Autumn", u"Winter"};
+
 // "1st", "2nd": the letters belong to the number.
 constexpr TextView kOrdinalSuffixes[] = {u"st", u"nd", u"rd", u"th"};
 
@@ -33,6 +35,23 @@ int valueOf(TextView digits) {
         value = 10 * value + (digit - u'0');
     }
     return value;
+}
+
+bool isSeason(TextView word) {
+    return std::any_of(std::begin(kSeasons), std::end(kSeasons),
+                       [&](TextView season) { return equalsIgnoringCase(season, word); });
+}
+
+/// "September" or "Sept.", for any abbreviation of the month.
+Text monthName(TextView word, bool isShort) {
+    constexpr std::size_t kShortName = 3;
+    constexpr TextView kShortPattern = u"mmm";
+    Text name = CommonTestingFunctions::convertToLongMonthNameIfNecessary(word);
+    if (isShort) {
+        name.resize(std::min(name.size(), kShortName));
+        CommonTestingFunctions::FormatForMLA(name, kShortPattern);
+    }
+    return name;
 }
 
 /// The numbers and words of a text, in their order.
@@ -124,6 +143,48 @@ std::optional<Text> completeDate(TextView text) {
             {CommonTestingFunctions::convertToLongMonthNameIfNecessary(parts.words.front()), u" ", day, u", ", year});
     }
     return dateWithItsYear(date) ? std::optional<Text>(std::move(date)) : std::nullopt;
+}
+
+std::optional<MonthsAndYear> monthsAndYear(TextView text, bool useShortMonths) {
+    constexpr TextView kEnDashText(&kEnDash, 1);
+    const Text plain = replaceAll(text, kEnDashText, u"-");
+    const DateParts parts = partsOf(plain);
+    const bool isMonths = !parts.words.empty() && parts.words.size() <= 2 &&
+                          std::all_of(parts.words.begin(), parts.words.end(),
+                                      [](TextView word) { return isMonth(word) || isSeason(word); });
+    if (parts.hasOtherSigns || !isMonths || parts.numbers.size() != 1 || parts.numbers[0].size() != kDigitsOfYear) {
+        return std::nullopt;
+    }
+    const std::size_t year = text.find_first_of(u"0123456789");
+    const bool isYearFirst = year == 0;
+    TextView months = isYearFirst ? text.substr(kDigitsOfYear) : text.substr(0, year);
+    if (!isYearFirst && year + kDigitsOfYear != text.size()) {
+        return std::nullopt;
+    }
+    const auto isSign = [](char16_t unit) { return contains(kSigns, TextView(&unit, 1)); };
+    while (!months.empty() && isSign(months.front())) {
+        months.remove_prefix(1);
+    }
+    while (!months.empty() && isSign(months.back())) {
+        months.remove_suffix(1);
+    }
+    MonthsAndYear result{{}, Text(text.substr(year, kDigitsOfYear))};
+    while (!months.empty()) {
+        std::size_t length = 0;
+        while (length < months.size() && isCasedLetter(months[length])) {
+            ++length;
+        }
+        if (length == 0) {
+            // The full stop of an abbreviation goes with it.
+            result.months += months.front() == u'.' ? Text() : Text(1, months.front());
+            months.remove_prefix(1);
+            continue;
+        }
+        const TextView word = months.substr(0, length);
+        result.months += isMonth(word) ? monthName(word, useShortMonths) : Text(word);
+        months.remove_prefix(length);
+    }
+    return result;
 }
 
 bool isMonth(TextView word) {

@@ -20,6 +20,17 @@ std::optional<DateValue> dateWithItsYear(TextView text);
 /// Nothing for every other text.
 std::optional<Text> completeDate(TextView text);
 
+/// A date that has no day.
+struct MonthsAndYear {
+    /// One or two months or seasons, with what joins them: "May", "November/December", "Spring".
+    Text months;
+    Text year;
+};
+
+/// "June 2010", "2010, June", "May–June 2010", "Spring 2011". Months get their long names, or those that MLA
+/// abbreviates (7.2). Nothing for every other text.
+std::optional<MonthsAndYear> monthsAndYear(TextView text, bool useShortMonths);
+
 /// Whether the word is an English month or an abbreviation of one, in any letter case and without
 /// its full stop.
 bool isMonth(TextView word);

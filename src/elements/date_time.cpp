@@ -47,6 +47,7 @@ constexpr TextView kSignsOfEnd = u" ,;.";
 constexpr TextView kSignsOfOtherTexts = u"()[]{}\":\u201C\u201D";
 constexpr TextView kDigits = u"0123456789";
 
+constexpr TextView kYear = u"yy";
 constexpr TextView kLongMonth = u"mmmm";
 constexpr TextView kShortMonth = u"mmm";
 
@@ -210,12 +211,22 @@ bool OutputTemplateDateTime::ToFormattedStringImpl(bool isFootnote, std::vector<
                      });
 }
 
-/// Only a complete date goes through the pattern. Without its day, "June 2010" would become
-/// "June, 2010", and seasons and ranges are no dates to the platform at all: they stay as they are.
+/// Only a complete date goes through the pattern: without its day, "June 2010" would become "June, 2010", and seasons
+/// and ranges of months are no dates to the platform at all. Of these the pattern says whether the year stands first.
 Text OutputTemplateDateTime::formattedDate(const Text& date) const {
     const std::optional<Text> complete = completeDate(date);
     if (!complete) {
-        return date;
+        const std::optional<MonthsAndYear> dayless = monthsAndYear(date, mUseShortMonths);
+        if (!dayless) {
+            return date;
+        }
+        const Text pattern = toLower(mDateFormat);
+        if (!contains(pattern, kShortMonth)) {
+            return date;
+        }
+        const bool isYearFirst = startsWith(pattern, kYear);
+        return isYearFirst ? concatenate({dayless->year, u", ", dayless->months})
+                           : concatenate({dayless->months, u" ", dayless->year});
     }
     Text pattern = mUseShortMonths ? withShortMonths(mDateFormat) : mDateFormat;
     return CommonTestingFunctions::FormatDate(*complete, pattern);

@@ -21,10 +21,11 @@ namespace quorvel {
 ///   1 Sept. 2011; 2011, September 1        as it stands
 ///   12:57:58 p.m. PDT                                            12:57:58 p.m.     PDT
 ///   10:23 a.m., on September 1, 2011       September 1, 2011     10:23 a.m.
-///   June 2010; Spring 2011; May 1-3        as it stands
+///   June 2010; 2010, June; Spring 2011     as it stands
+///   May 1-3, 2011                          as it stands
 ///
 /// A complete date (day, month and four-digit year) is written by the style's pattern, a time with
-/// "a.m." or "p.m.", everything else as it stands. A text that is not made of these parts alone is
+/// "a.m." or "p.m.", a month or season with its year in the pattern's order, everything else as it stands. A text that is not made of these parts alone is
 /// kept whole as the date.
 ///
 /// Styles: MLA 7 5.6.2, APA 6 6.28, Turabian 7 17.5.2, AMA 10 3.15.

@@ -27,10 +27,10 @@ var rows = [
      "September 1, 2011 (10:23 a.m. PDT)"],
     ["12 May 2010.", "12 May 2010", "", "", "12 May 2010", "2010, May 12", "May 12, 2010", "May 12, 2010", "May 12, 2010"],
     ["10:23pm", "", "10:23pm", "", "10:23 p.m.", "10:23 p.m.", "10:23 p.m.", "10:23 p.m.", "(10:23 p.m.)"],
-    ["June 2010", "June 2010", "", "", "June 2010", "June 2010", "June 2010", "June 2010", "June 2010"],
-    ["May-June 2010", "May-June 2010", "", "", "May-June 2010", "May-June 2010", "May-June 2010", "May-June 2010",
+    ["June 2010", "June 2010", "", "", "June 2010", "2010, June", "June 2010", "June 2010", "June 2010"],
+    ["May-June 2010", "May-June 2010", "", "", "May-June 2010", "2010, May-June", "May-June 2010", "May-June 2010",
      "May-June 2010"],
-    ["Spring 2011", "Spring 2011", "", "", "Spring 2011", "Spring 2011", "Spring 2011", "Spring 2011", "Spring 2011"],
+    ["Spring 2011", "Spring 2011", "", "", "Spring 2011", "2011, Spring", "Spring 2011", "Spring 2011", "Spring 2011"],
     ["", "", "", "", "", "", "", "", ""]
 ];
 
