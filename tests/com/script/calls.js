@@ -30,7 +30,7 @@ check("sink", sink.text, "[1992?]");
 
 var codes = [-1, 18, 19, 20, 70000, "year", 18.4];
 for (var i = 0; i < codes.length; ++i) check("build " + codes[i], main.build(codes[i], sink), null);
-check("buildModelTemplate", main.buildModelTemplate(), null);
+check("buildSubformProxy", main.buildSubformProxy(), null);
 try {
     year.noSuchMember();
     WScript.Echo("FAILED a member that is not there was called");
