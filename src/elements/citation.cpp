@@ -5,6 +5,7 @@
 
 #include "core/procedure.h"
 #include "elements/citation_text.h"
+#include "elements/title_short.h"
 
 namespace quorvel {
 
@@ -384,7 +385,7 @@ Text OutputTemplateCitation::yearOf(const CitationFields& fields) {
 void OutputTemplateCitation::addTitle(Slots& slots, std::int16_t slot, const CitationFields& fields) const {
     const TextView title = citedTitle(fields, mOptions.supportsSubwork);
     const bool isOfPart = title == fields.subwork || !fields.periodical.empty() || !fields.website.empty();
-    Text text = fields.shortTitle.empty() ? citationtext::shortTitle(title) : fields.shortTitle;
+    Text text = fields.shortTitle.empty() ? titlecase::shortTitle(title) : fields.shortTitle;
     if (const std::shared_ptr<OutputTemplateTitle> style = mTitleModelOutputTemplate) {
         text = style->InHeadingCapitalization(text);
     }

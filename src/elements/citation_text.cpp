@@ -25,12 +25,6 @@ constexpr TextView kAndWordsInside[] = {u" and ", u" & "};
 constexpr TextView kPostfixes[] = {u"Jr.", u"Jr", u"Sr.", u"Sr", u"II", u"III", u"IV"};
 constexpr TextView kYearWords[] = {kNoDate, u"in press", u"forthcoming"};
 
-constexpr TextView kLeadingArticles[] = {u"A ", u"An ", u"The "};
-constexpr std::size_t kMostTitleWords = 4;
-// A shortened title does not end in one of these.
-constexpr TextView kSmallWords[] = {u"a",  u"an",   u"and", u"as", u"at", u"by",  u"for", u"from",
-                                    u"in", u"into", u"of",  u"on", u"or", u"the", u"to",  u"with"};
-
 template <std::size_t N>
 bool isOneOf(TextView text, const TextView (&list)[N]) {
     return std::find(std::begin(list), std::end(list), text) != std::end(list);
@@ -258,27 +252,6 @@ CitationFields read(TextView citation, TextView previous) {
         fields.title = joined(pieces, authors, pieces.size());
     }
     return fields;
-}
-
-Text shortTitle(TextView title) {
-    TextView text = before(title, u": ");
-    for (const TextView article : kLeadingArticles) {
-        if (startsWith(text, article)) {
-            text.remove_prefix(article.size());
-            break;
-        }
-    }
-    std::vector<Text> words = split(text, u" ");
-    if (words.size() <= kMostTitleWords) {
-        return Text(text);
-    }
-    words.resize(kMostTitleWords);
-    while (words.size() > 1 && isOneOf(toLower(words.back()), kSmallWords)) {
-        words.pop_back();
-    }
-    Text shortened = join(words, u" ");
-    shortened.erase(shortened.find_last_not_of(u",;") + 1);
-    return shortened;
 }
 
 Text volumeNumber(TextView volume) {

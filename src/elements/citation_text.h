@@ -29,11 +29,6 @@ inline constexpr TextView kNoDate = u"n.d.";
 /// @param previous the citation before, for "Ibid."
 CitationFields read(TextView citation, TextView previous);
 
-/// The title by which a note or an author-page citation names a work again (MLA 7 6.4.6, Turabian 7 16.4.1):
-/// without its subtitle and leading article, and of a long one the first words, four at most, that do not
-/// end in a small word.
-Text shortTitle(TextView title);
-
 /// "2" for "2", "vol. 2", "Vol. 2".
 Text volumeNumber(TextView volume);
 

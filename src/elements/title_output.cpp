@@ -9,6 +9,7 @@
 #include "core/run_time_error.h"
 #include "elements/title.h"
 #include "elements/title_language.h"
+#include "elements/title_short.h"
 #include "elements/title_types.h"
 
 namespace quorvel {
@@ -187,7 +188,10 @@ Text OutputTemplateTitle::hyphenate(TextView word) const {
 Text OutputTemplateTitle::wholeTitle(bool shortenedVersion) const {
     const Text& title = mValues.at(kTitle);
     const Text& subtitle = mValues.at(kSubtitle);
-    if (shortenedVersion || subtitle.empty() || title.empty()) {
+    if (shortenedVersion) {
+        return titlecase::shortTitle(title.empty() ? subtitle : title);
+    }
+    if (subtitle.empty() || title.empty()) {
         return title.empty() ? subtitle : title;
     }
     return concatenate({title, isQuestionOrExclamation(title.back()) ? u" " : u": ", subtitle});
