@@ -1,97 +1,120 @@
-// What a call through late binding costs, with no error-report service: one plain line for each
-// figure, name, value, unit. The library must be registered.
+// What a host pays that calls the library late-bound: one plain line for each figure, name, value, unit. The sample
+// host's own objects do the calling. The library must be registered; styles and references lie beside the program.
+// usage: LateBoundBench             the figures
+//        LateBoundBench --memory    what a million references leave behind
 
 #include <windows.h>
 
-#include <ole2.h>
+#include <psapi.h>
 
 #include <chrono>
 #include <cstdio>
+#include <sstream>
+#include <string_view>
+
+#include "bridge_to_vb.h"
+#include "data_file.h"
+#include "error_report_service.h"
+#include "reference_writer.h"
+#include "references.h"
+#include "styled_elements.h"
+#include "text_io.h"
 
 namespace {
 
-DISPID idOf(IDispatch* object, const wchar_t* member) {
-    auto* name = const_cast<LPOLESTR>(member);
-    DISPID id = DISPID_UNKNOWN;
-    object->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_NEUTRAL, &id);
-    return id;
+using namespace sample;
+
+constexpr const wchar_t* kStyles[] = {L"mla", L"apa", L"turabian", L"ama"};
+
+Style styleNamed(const std::wstring& name) {
+    return readStyle(dataFile(L"styles/" + name + L".style"));
 }
 
-/// Calls with up to two arguments, given from the last to the first.
-VARIANT call(IDispatch* object, DISPID id, VARIANT* arguments, UINT count) {
-    DISPPARAMS parameters = {arguments, nullptr, count, 0};
-    VARIANT result;
-    VariantInit(&result);
-    object->Invoke(id, IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &parameters, &result, nullptr, nullptr);
-    return result;
-}
-
+/// Seconds that the body takes, run this often.
 template <class Body>
-void measure(const char* name, Body body) {
-    constexpr int kWarmUp = 2'000;
-    constexpr int kCalls = 50'000;
-    for (int i = 0; i < kWarmUp; ++i) {
-        body();
-    }
+double secondsOf(int times, Body body) {
     const auto start = std::chrono::steady_clock::now();
-    for (int i = 0; i < kCalls; ++i) {
-        body();
+    for (int i = 0; i < times; ++i) body();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void measureYear(const LateBoundObject& library) {
+    constexpr int kCalls = 50'000;
+    const Style style = styleNamed(L"apa");
+    StyledElements elements(library, style);
+    const StyledElement& year = *elements.element(L"year", findField(L"year")->elementCode);
+    const LateBoundMember formatStr = year.object.member(L"formatStr");
+    const Variant text(L"[c. 1990]");
+    const double parseAndFormat = secondsOf(kCalls, [&] {
+        year.parse({text});
+        year.toString({});
+    });
+    std::printf("lateBound/parseAndFormatYear %.3g us\n", parseAndFormat / kCalls * 1e6);
+    std::printf("lateBound/formatStrOfYear %.3g us\n", secondsOf(kCalls, [&] { formatStr({text}); }) / kCalls * 1e6);
+}
+
+/// Whole references a second, each with its elements read and written, over the references of the sample.
+void measureReferences(const LateBoundObject& library, const std::vector<Reference>& references, const char* name,
+                       int rounds) {
+    for (const wchar_t* style : kStyles) {
+        ReferenceWriter writer(library, styleNamed(style));
+        const auto sink = makeObject<FormattedText>();
+        const auto writeAll = [&] {
+            for (const Reference& reference : references) {
+                sink->reset();
+                writer.write(reference, Form::kList, *sink);
+            }
+        };
+        writeAll();
+        const double seconds = secondsOf(rounds, writeAll);
+        std::printf("%s/%s %.3g /s\n", name, toUtf8(style).c_str(),
+                    rounds * static_cast<double>(references.size()) / seconds);
     }
-    const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - start;
-    std::printf("%s %.3g us\n", name, time.count() / kCalls);
 }
 
-VARIANT variantOf(BSTR text) {
-    VARIANT value;
-    VariantInit(&value);
-    value.vt = VT_BSTR;
-    value.bstrVal = text;
-    return value;
+std::size_t privateBytes() {
+    PROCESS_MEMORY_COUNTERS counters = {};
+    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
+    return counters.PagefileUsage;
 }
 
-IDispatch* buildYear(IDispatch* factory) {
-    VARIANT arguments[2] = {};
-    arguments[0].vt = VT_DISPATCH;
-    arguments[1].vt = VT_I2;
-    arguments[1].iVal = 6;
-    return call(factory, idOf(factory, L"build"), arguments, 2).pdispVal;
+void measureMemory(const LateBoundObject& library, const std::vector<Reference>& references) {
+    constexpr int kReferences = 1'000'000;
+    ReferenceWriter writer(library, styleNamed(L"turabian"));
+    const auto sink = makeObject<FormattedText>();
+    for (int i = 0; i <= kReferences; ++i) {
+        if (i % (kReferences / 10) == 0) std::printf("memory/after%d %zu KB\n", i, privateBytes() / 1024);
+        sink->reset();
+        const Reference& reference = references[static_cast<std::size_t>(i) % references.size()];
+        writer.write(reference, i % 2 == 0 ? Form::kList : Form::kNote, *sink);
+    }
 }
 
-void measureYear(IDispatch* year) {
-    const DISPID parse = idOf(year, L"Parse");
-    const DISPID toString = idOf(year, L"toString");
-    const DISPID formatStr = idOf(year, L"formatStr");
-    BSTR text = SysAllocString(L"[c. 1990]");
-    measure("lateBound/parseAndFormatYear", [&] {
-        VARIANT argument = variantOf(text);
-        call(year, parse, &argument, 1);
-        VARIANT result = call(year, toString, nullptr, 0);
-        VariantClear(&result);
-    });
-    measure("lateBound/formatStrOfYear", [&] {
-        VARIANT argument = variantOf(text);
-        VARIANT result = call(year, formatStr, &argument, 1);
-        VariantClear(&result);
-    });
-    SysFreeString(text);
+void run(bool isMemory) {
+    const LateBoundObject library = LateBoundObject::create(L"QuorvelTemplate.Main2");
+    const std::vector<Reference> references = readReferences(dataFile("references.txt"));
+    if (isMemory) {
+        measureMemory(library, references);
+        return;
+    }
+    measureYear(library);
+    measureReferences(library, references, "lateBound/wholeReferences", 60);
+    const auto service = makeObject<ErrorReportService>(std::make_shared<std::ostringstream>());
+    const RunningBridgeToVB bridge(service.get());
+    measureReferences(library, references, "lateBound/wholeReferencesWithService", 10);
 }
 
 }  // namespace
 
-int main() {
-    CoInitialize(nullptr);
-    CLSID factoryClass = {};
-    IDispatch* factory = nullptr;
-    if (FAILED(CLSIDFromProgID(L"QuorvelTemplate.Main2", &factoryClass)) ||
-        FAILED(CoCreateInstance(factoryClass, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
-                                reinterpret_cast<void**>(&factory)))) {
-        std::puts("QuorvelTemplate is not registered.");
-        return 1;
+int main(int count, char** arguments) {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    int status = 0;
+    try {
+        run(count > 1 && std::string_view(arguments[1]) == "--memory");
+    } catch (const ComError& error) {
+        printError(error.message + L"\n");
+        status = 1;
     }
-    IDispatch* year = buildYear(factory);
-    measureYear(year);
-    year->Release();
-    factory->Release();
     CoUninitialize();
-    return 0;
+    return status;
 }

@@ -81,6 +81,13 @@ void throwFault(const std::filesystem::path& file, int number, const std::wstrin
     throw ComError{E_INVALIDARG, file.wstring() + line + L": " + words + L"."};
 }
 
+std::filesystem::path dataFile(const std::filesystem::path& name) {
+    wchar_t program[MAX_PATH];
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    const std::filesystem::path beside = std::filesystem::path(program).parent_path() / name;
+    return exists(beside) ? beside : std::filesystem::path("samples") / "host" / name;
+}
+
 std::wstring_view trimmed(std::wstring_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
     const std::size_t last = text.find_last_not_of(kBlanks);

@@ -46,6 +46,10 @@ void forEachLine(const std::filesystem::path& file,
 /// The fault of a file, at a line of it or, with 0, of the whole.
 [[noreturn]] void throwFault(const std::filesystem::path& file, int number, const std::wstring& words);
 
+/// Where a file of the sample lies: beside the program, or in the source folder when that is run from the project's
+/// own.
+std::filesystem::path dataFile(const std::filesystem::path& name);
+
 std::wstring_view trimmed(std::wstring_view text);
 
 }  // namespace sample

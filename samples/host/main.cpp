@@ -11,6 +11,7 @@
 
 #include "bridge_to_vb.h"
 #include "command_line.h"
+#include "data_file.h"
 #include "error_report_service.h"
 #include "reference_list.h"
 #include "text_io.h"
@@ -30,14 +31,6 @@ std::vector<std::wstring> programArguments() {
     std::vector<std::wstring> arguments(words + 1, words + count);
     LocalFree(words);
     return arguments;
-}
-
-// The data lie beside the program, or in the source folder when it is run from the project's own.
-std::filesystem::path dataFile(const std::filesystem::path& name) {
-    wchar_t program[MAX_PATH];
-    GetModuleFileNameW(nullptr, program, MAX_PATH);
-    const std::filesystem::path beside = std::filesystem::path(program).parent_path() / name;
-    return exists(beside) ? beside : std::filesystem::path("samples") / "host" / name;
 }
 
 Style namedStyle(const std::wstring& name) {
