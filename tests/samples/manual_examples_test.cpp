@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <map>
-#include <memory>
 
 #include "data_file.h"
-#include "reference_writer.h"
 #include "references.h"
+#include "sample_styles.h"
 #include "text_io.h"
 
 namespace sample {
@@ -22,10 +21,6 @@ struct Example {
     std::wstring ours;
     std::wstring reason;
 };
-
-std::filesystem::path data(const std::wstring& name) {
-    return std::filesystem::path(SAMPLE_DATA) / name;
-}
 
 std::vector<Example> readExamples() {
     const std::map<std::wstring, Form> forms = {
@@ -64,28 +59,10 @@ std::wstring withItalics(const FormattedText& text) {
     return result;
 }
 
-class ManualExamples : public testing::Test {
-protected:
-    ManualExamples() { CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED); }
-    ~ManualExamples() override {
-        writers.clear();
-        CoUninitialize();
-    }
-
-    ReferenceWriter& writer(const std::wstring& style) {
-        std::unique_ptr<ReferenceWriter>& known = writers[style];
-        if (!known) {
-            known = std::make_unique<ReferenceWriter>(LateBoundObject::create(L"QuorvelTemplate.Main2"),
-                                                      readStyle(data(L"styles/" + style + L".style")));
-        }
-        return *known;
-    }
-
-    std::map<std::wstring, std::unique_ptr<ReferenceWriter>> writers;
-};
+using ManualExamples = SampleStyles;
 
 TEST_F(ManualExamples, ComeOutAsTheManualsHaveThemOrDifferForAReason) {
-    const std::vector<Reference> references = readReferences(data(L"references.txt"));
+    const std::vector<Reference> references = readReferences(sampleData(L"references.txt"));
     std::map<std::pair<std::wstring, Form>, int> counts;
     for (const Example& example : readExamples()) {
         const auto found = std::find_if(references.begin(), references.end(), [&](const Reference& reference) {
