@@ -37,7 +37,7 @@ Reference ReferenceWriter::elementTexts(const Reference& reference) {
         mSink->reset();
         mFiller->write(i, false, false, *mSink);
         const Field& field = *filling->source->field;
-        texts.set(field, mStyle.textBehind(field.name, mSink->toString()));
+        texts.set(field, mStyle.textBehind(field, mSink->toString()));
     }
     mFiller->end();
     return texts;

@@ -135,7 +135,7 @@ std::wstring SlotFiller::hostText(const SlotSource& source, bool isFootnote) con
 }
 
 const std::wstring& SlotFiller::fieldText(const Field& field, bool isFootnote) const {
-    return mStyle->wordsFor(field.name, mReference->text(field), isFootnote);
+    return mStyle->wordsFor(field, mReference->text(field), isFootnote);
 }
 
 /// "---", or "---, ed."

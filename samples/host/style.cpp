@@ -87,7 +87,7 @@ private:
         } else if (mSection.what == L"words") {
             const std::wstring text = line.neededText();
             need(line, L'=');
-            Words& words = mStyle.words[mSection.names.front()][text];
+            Words& words = mStyle.words[findField(mSection.names.front())][text];
             words.list = line.neededText();
             words.note = line.text().value_or(words.list);
         } else if (mSection.what == L"slots") {
@@ -292,16 +292,16 @@ private:
 
 }  // namespace
 
-const std::wstring& Style::wordsFor(const std::wstring& field, const std::wstring& text, bool isFootnote) const {
-    const auto known = words.find(field);
+const std::wstring& Style::wordsFor(const Field& field, const std::wstring& text, bool isFootnote) const {
+    const auto known = words.find(&field);
     if (known == words.end()) return text;
     const auto found = known->second.find(text);
     if (found == known->second.end()) return text;
     return isFootnote ? found->second.note : found->second.list;
 }
 
-std::wstring Style::textBehind(const std::wstring& field, const std::wstring& printed) const {
-    const auto known = words.find(field);
+std::wstring Style::textBehind(const Field& field, const std::wstring& printed) const {
+    const auto known = words.find(&field);
     if (known == words.end()) return printed;
     for (const auto& [text, theWords] : known->second) {
         if (theWords.list == printed) return text;

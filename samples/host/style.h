@@ -53,14 +53,14 @@ struct Style {
 
     std::map<std::wstring, ElementOptions> elements;
     /// From a field's text, such as "Doctoral dissertation", to the style's words for it.
-    std::map<std::wstring, std::map<std::wstring, Words>> words;
+    std::map<const Field*, std::map<std::wstring, Words>> words;
     /// By kind of reference: list and note, and the short note.
     std::map<std::wstring, Layout> layouts;
     std::map<std::wstring, Layout> shortNotes;
 
     /// The style's words for a field's text, or the text itself; and back.
-    const std::wstring& wordsFor(const std::wstring& field, const std::wstring& text, bool isFootnote) const;
-    std::wstring textBehind(const std::wstring& field, const std::wstring& printed) const;
+    const std::wstring& wordsFor(const Field& field, const std::wstring& text, bool isFootnote) const;
+    std::wstring textBehind(const Field& field, const std::wstring& printed) const;
 
     /// The options of an element or variant; a variant's own hide those of its base.
     std::vector<StyleOption> optionsOf(const std::wstring& element) const;

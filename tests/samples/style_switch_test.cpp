@@ -61,6 +61,7 @@ protected:
                  const Reference& switched) {
         const std::wstring expected = text(style, original);
         for (const Field& field : fields()) {
+            if (switched.text(field) == original.text(field)) continue;
             Reference one = original;
             one.set(field, switched.text(field));
             if (text(style, one) == expected) continue;
