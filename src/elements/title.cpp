@@ -5,7 +5,6 @@
 #include "core/letter_case.h"
 #include "core/procedure.h"
 #include "core/run_time_error.h"
-#include "elements/title_language.h"
 #include "elements/title_types.h"
 
 namespace quorvel {
@@ -13,7 +12,6 @@ namespace quorvel {
 namespace {
 
 constexpr TextView kSubtitleSeparator = u": ";
-constexpr TextView kPunctuationEnds[] = {u".", u"?", u"!", u"'s"};
 
 }  // namespace
 
@@ -301,73 +299,6 @@ bool OutputTemplateTitle::isPrematter(TextView theType) const {
 bool OutputTemplateTitle::prematterHasTitle() const {
     return procedure(*this, u"OutputTemplateTitle.prematterHasTitle[Get]", kNoParameters,
                      [&] { return titletypes::isPrematter(mTitleType) && !mValues.at(kTitle).empty(); });
-}
-
-// Tests.
-
-bool OutputTemplateTitle::shouldBeCapitalized(TextView word, bool ignoreFormatCapitalizationRule) const {
-    return procedure(*this, u"OutputTemplateTitle.shouldBeCapitalized",
-                     {{u"word", word}, {u"ignoreFormatCapitalizationRule", ignoreFormatCapitalizationRule}}, [&] {
-                         if (mSentenceCapitalization && !ignoreFormatCapitalizationRule) {
-                             return false;
-                         }
-                         Text lowered(word);
-                         // The one-letter word is tested as it stands, deliberately: "A" does not match.
-                         if (lowered.size() > 1) {
-                             titlecase::lowerAt(lowered, 0);
-                         }
-                         return !titlewords::Lexicon::instance().find(word, lowered).is(titlewords::kSmallWord);
-                     });
-}
-
-bool OutputTemplateTitle::isAlwaysLowercase(TextView word) const {
-    return procedure(*this, u"OutputTemplateTitle.isAlwaysLowercase", {{u"word", word}},
-                     [&] { return titlewords::Lexicon::instance().find(word, word).is(titlewords::kParticle); });
-}
-
-bool OutputTemplateTitle::isAcronym(TextView word) const {
-    return procedure(*this, u"OutputTemplateTitle.isAcronym", {{u"word", word}},
-                     [&] { return titlecase::isAcronym(word); });
-}
-
-bool OutputTemplateTitle::wordIsPossessive(TextView word) const {
-    return procedure(*this, u"OutputTemplateTitle.wordIsPossessive", {{u"word", word}},
-                     [&] { return titlecase::isPossessive(word); });
-}
-
-bool OutputTemplateTitle::isEnglishTitle(TextView text) const {
-    return isEnglishTitle(titlecase::readTitle(text));
-}
-
-bool OutputTemplateTitle::isEnglishTitle(const titlecase::TitleText& title) const {
-    return procedure(*this, u"OutputTemplateTitle.isEnglishTitle", {{u"text", title.text}},
-                     [&] { return titlelanguage::isEnglish(title); });
-}
-
-bool OutputTemplateTitle::isForeignTitle(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.isForeignTitle", {{u"text", text}},
-                     [&] { return titlelanguage::hasForeignSpelling(titlecase::readTitle(text)); });
-}
-
-bool OutputTemplateTitle::isOldTitle(TextView text) const {
-    return isOldTitle(titlecase::readTitle(text));
-}
-
-bool OutputTemplateTitle::isOldTitle(const titlecase::TitleText& title) const {
-    return procedure(*this, u"OutputTemplateTitle.isOldTitle", {{u"text", title.text}},
-                     [&] { return titlelanguage::isOld(title); });
-}
-
-bool OutputTemplateTitle::isPreformattedTitle(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.isPreformattedTitle", {{u"text", text}},
-                     [&] { return titlelanguage::isPreformatted(text); });
-}
-
-bool OutputTemplateTitle::endsWithPunctuation(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.endsWithPunctuation", {{u"text", text}}, [&] {
-        return std::any_of(std::begin(kPunctuationEnds), std::end(kPunctuationEnds),
-                           [&](TextView end) { return endsWith(text, end); });
-    });
 }
 
 void OutputTemplateTitle::dumpVariables(VBWPROTECTOR& report) const {

@@ -72,6 +72,10 @@ public:
     /// @param text is consumed
     /// @param secondaryStr the title type; empty: the one that the text shows
     void Parse(Text& text, TextView secondaryStr);
+    /// Steps of it: the first takes a translation, or the text that tells a title type, in square brackets off
+    /// the end; the second the word of prematter and the author of its work.
+    void parseAndRemoveTranslation(Text& text);
+    void parseAndRemovePrematter(Text& text, TextView secondaryStr);
 
     /// A piece by Value; any other index is reported and empty.
     Text value(std::int16_t index) const;
@@ -104,8 +108,13 @@ public:
     Text formatRule(TextView text) const;
     /// The words that `formatRule` changes, for the form to highlight.
     std::vector<titlecase::Range> changedWords(TextView text) const;
-    /// A text in heading capitalisation, whatever the style; whether it stands in it.
+    /// A piece of a title in heading or sentence capitalisation, whatever the style and language.
+    /// @param capitalizeFirstWord its first word gets a capital
+    Text formatRuleImpl(TextView text, bool capitalizeFirstWord, bool isHeadingCapitalization) const;
+    /// A text in heading capitalisation, whatever the style; whether it stands in it. The second does it to any
+    /// text, the first only to English ones.
     Text InHeadingCapitalization(TextView text) const;
+    Text headingCapitalization(TextView text) const;
     bool IsInHeadingCapitalization(TextView text) const;
     /// `formatRule` of a title; any other text loses nothing but what a sentence has no capital for.
     Text capitalizeAccordingToInternalRules(TextView text, bool isTitle) const;
@@ -113,17 +122,31 @@ public:
     /// Tests on a word or text, as the capitalisation makes them.
     /// @param ignoreFormatCapitalizationRule as if the style had heading case
     bool shouldBeCapitalized(TextView word, bool ignoreFormatCapitalizationRule) const;
+    /// A name particle: "van".
     bool isAlwaysLowercase(TextView word) const;
+    /// Two capitals or more and no small letter.
     bool isAcronym(TextView word) const;
+    /// Ends in "'s".
     bool wordIsPossessive(TextView word) const;
+    /// A word with a capital, "de" and the prefix of "e-mail" excepted.
     Text capitalize(TextView word, bool doCapitalization) const;
+    /// A hyphenated word with the capitals of a heading behind its hyphens.
     Text hyphenate(TextView word) const;
     bool isEnglishTitle(TextView text) const;
+    /// Foreign by its spelling.
     bool isForeignTitle(TextView text) const;
+    /// Foreign by its spelling, or in an old one.
     bool isOldTitle(TextView text) const;
+    /// An address, or a text without small letters.
     bool isPreformattedTitle(TextView text) const;
     /// Ends in ".", "?", "!" or "'s".
     bool endsWithPunctuation(TextView text) const;
+
+    /// Adds a text to the sink in italics, but what the names say in roman letters. The first does so only in a
+    /// style that asks for it.
+    void UnItalicizeSpeciesAndNamesOfShips(TextView text, const OutputSinkRef& formattedStr) const;
+    void UnItalicizeSpecies(TextView text, const OutputSinkRef& formattedStr) const;
+    void UnItalicizeShipNames(TextView text, const OutputSinkRef& formattedStr) const;
 
     void dumpVariables(VBWPROTECTOR& report) const override;
 
@@ -132,17 +155,14 @@ private:
     void Add(std::int16_t Index, bool isFormatted, const std::vector<Text>& separators);
     void layOut();
     titlecase::Rules rules() const;
-    Text headingCapitalization(TextView text) const;
     // The members of these names for a title that has been read.
     Text formatRule(titlecase::TitleText& title) const;
+    Text inStyle(titlecase::TitleText& title) const;
     bool isEnglishTitle(const titlecase::TitleText& title) const;
     bool isOldTitle(const titlecase::TitleText& title) const;
     bool isRecased(const titlecase::TitleText& title) const;
     void formatRuleImpl(Text& text, const titlecase::TitleText& title, std::span<titlecase::Word> piece,
                         bool capitalizeFirstWord, bool isHeadingCapitalization) const;
-
-    void parseAndRemoveTranslation(Text& text);
-    void parseAndRemovePrematter(Text& text, TextView secondaryStr);
 
     Text wholeTitle(bool shortenedVersion) const;
     bool isPart() const;

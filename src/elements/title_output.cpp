@@ -1,4 +1,4 @@
-// The title element: capitalisation and writing.
+// The title element: writing.
 
 #include <algorithm>
 #include <iterator>
@@ -8,7 +8,7 @@
 #include "core/procedure.h"
 #include "core/run_time_error.h"
 #include "elements/title.h"
-#include "elements/title_language.h"
+#include "elements/title_roman.h"
 #include "elements/title_short.h"
 #include "elements/title_types.h"
 
@@ -55,6 +55,21 @@ Text withSingleQuotationMarks(TextView text) {
     return result;
 }
 
+/// Adds a text in italics, parts of it roman.
+void addItalic(OutputSink& sink, TextView text, std::span<const Range> roman) {
+    std::size_t done = 0;
+    for (const Range range : roman) {
+        if (range.begin > done) {
+            sink.Add(slice(text, {done, range.begin}), kItalic);
+        }
+        sink.Add(slice(text, range), OutputSink::kPlain);
+        done = range.end;
+    }
+    if (done < text.size()) {
+        sink.Add(text.substr(done), kItalic);
+    }
+}
+
 }  // namespace
 
 void OutputTemplateTitle::layOut() {
@@ -71,116 +86,6 @@ void OutputTemplateTitle::Add(std::int16_t Index, bool isFormatted, const std::v
     procedure(*this, u"OutputTemplateTitle.Add",
               {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"separators", separators}},
               [&] { held(mOutputTemplate)->Add(Index, isFormatted, false, separators); });
-}
-
-// Capitalisation.
-
-titlecase::Rules OutputTemplateTitle::rules() const {
-    titlecase::Rules rules;
-    rules.isHeading = !mSentenceCapitalization;
-    rules.capitalizeHyphenatedWord = mCapitalizeHyphenatedWord;
-    rules.capitalizeSubtitle = mCapitalizeSubtitle;
-    return rules;
-}
-
-Text OutputTemplateTitle::CapitalizationRule() const {
-    return procedure(*this, u"OutputTemplateTitle.CapitalizationRule[Get]", kNoParameters,
-                     [&] { return isPart() ? mChapterAndWebsiteRule : mBookAndArticleRule; });
-}
-
-Text OutputTemplateTitle::formatRule(TextView text) const {
-    TitleText title = titlecase::readTitle(text);
-    return formatRule(title);
-}
-
-Text OutputTemplateTitle::formatRule(TitleText& title) const {
-    return procedure(*this, u"OutputTemplateTitle.formatRule", {{u"text", title.text}}, [&] {
-        Text result(title.text);
-        const titlecase::Rules inForce = rules();
-        if (isRecased(title) && (inForce.isHeading || titlecase::standsInHeadingCase(title))) {
-            for (std::size_t i = 0; i < title.words.size();) {
-                const std::span<Word> piece = title.pieceFrom(i);
-                formatRuleImpl(result, title, piece, titlecase::capitalizesFirstWord(piece.front(), inForce),
-                               inForce.isHeading);
-                i += piece.size();
-            }
-        }
-        return result;
-    });
-}
-
-void OutputTemplateTitle::formatRuleImpl(Text& text, const TitleText& title, std::span<Word> piece,
-                                         bool capitalizeFirstWord, bool isHeadingCapitalization) const {
-    procedure(*this, u"OutputTemplateTitle.formatRuleImpl",
-              {{u"capitalizeFirstWord", capitalizeFirstWord}, {u"isHeadingCapitalization", isHeadingCapitalization}},
-              [&] {
-                  titlecase::Rules inForce = rules();
-                  inForce.isHeading = isHeadingCapitalization;
-                  titlecase::applyPiece(text, title, piece, capitalizeFirstWord, inForce);
-              });
-}
-
-/// Whether a title may be recased at all: English, in no old spelling, and not preformatted.
-bool OutputTemplateTitle::isRecased(const TitleText& title) const {
-    return !isPreformattedTitle(title.text) && isEnglishTitle(title) && !isOldTitle(title);
-}
-
-std::vector<Range> OutputTemplateTitle::changedWords(TextView text) const {
-    TitleText title = titlecase::readTitle(text);
-    return titlecase::changedWords(text, formatRule(title), title.words);
-}
-
-Text OutputTemplateTitle::headingCapitalization(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.headingCapitalization", {{u"text", text}}, [&] {
-        titlecase::Rules heading = rules();
-        heading.isHeading = true;
-        return titlecase::casedTitle(text, heading).text;
-    });
-}
-
-Text OutputTemplateTitle::InHeadingCapitalization(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.InHeadingCapitalization", {{u"text", text}},
-                     [&] { return isRecased(titlecase::readTitle(text)) ? headingCapitalization(text) : Text(text); });
-}
-
-bool OutputTemplateTitle::IsInHeadingCapitalization(TextView text) const {
-    return procedure(*this, u"OutputTemplateTitle.IsInHeadingCapitalization", {{u"text", text}},
-                     [&] { return titlecase::standsInHeadingCase(titlecase::readTitle(text)); });
-}
-
-Text OutputTemplateTitle::capitalizeAccordingToInternalRules(TextView text, bool isTitle) const {
-    return procedure(*this, u"OutputTemplateTitle.capitalizeAccordingToInternalRules",
-                     {{u"text", text}, {u"isTitle", isTitle}}, [&] {
-                         if (isTitle) {
-                             return formatRule(text);
-                         }
-                         titlecase::Rules sentence = rules();
-                         sentence.isHeading = false;
-                         return titlecase::casedTitle(text, sentence).text;
-                     });
-}
-
-Text OutputTemplateTitle::capitalize(TextView word, bool doCapitalization) const {
-    return procedure(*this, u"OutputTemplateTitle.capitalize",
-                     {{u"word", word}, {u"doCapitalization", doCapitalization}}, [&] {
-                         Text result(word);
-                         // "de" and the "e" of "e-mail" stay.
-                         if (result.empty() || !doCapitalization || word == u"de") {
-                             return result;
-                         }
-                         titlecase::capitalizeAt(result, startsWith(word, u"e-") && word.size() > 2 ? 2 : 0);
-                         return result;
-                     });
-}
-
-Text OutputTemplateTitle::hyphenate(TextView word) const {
-    return procedure(*this, u"OutputTemplateTitle.hyphenate", {{u"word", word}}, [&] {
-        std::vector<Text> parts = split(word, u"-");
-        for (std::size_t i = 1; i < parts.size(); ++i) {
-            parts[i] = capitalize(parts[i], mCapitalizeHyphenatedWord && shouldBeCapitalized(parts[i], true));
-        }
-        return join(parts, u"-");
-    });
 }
 
 // Writing.
@@ -278,82 +183,64 @@ void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, Text& 
                   }
                   std::vector<Range> roman;
                   UnItalicizeSpeciesAndNamesOfShips(text, words, roman);
-                  std::size_t done = 0;
-                  for (const Range range : roman) {
-                      if (range.begin > done) {
-                          sink.Add(slice(text, {done, range.begin}), kItalic);
-                      }
-                      sink.Add(slice(text, range), OutputSink::kPlain);
-                      done = range.end;
-                  }
-                  if (done < text.size()) {
-                      sink.Add(slice(text, {done, text.size()}), kItalic);
-                  }
+                  addItalic(sink, text, roman);
               });
 }
 
 void OutputTemplateTitle::UnItalicizeSpeciesAndNamesOfShips(Text& text, std::span<const Word> words,
                                                             std::vector<Range>& roman) const {
     procedure(*this, u"OutputTemplateTitle.UnItalicizeSpeciesAndNamesOfShips", {{u"text", text}}, [&] {
-        if (!mUnItalicizeSpeciesAndNamesOfShips) {
-            return;
+        if (mUnItalicizeSpeciesAndNamesOfShips) {
+            UnItalicizeSpecies(text, words, roman);
+            UnItalicizeShipNames(text, words, roman);
+            titleroman::order(roman);
         }
-        UnItalicizeSpecies(text, words, roman);
-        UnItalicizeShipNames(text, words, roman);
-        std::sort(roman.begin(), roman.end(), [](Range a, Range b) { return a.begin < b.begin; });
-        // "H.M.S. E. coli" would be both.
-        std::size_t end = 0;
-        std::erase_if(roman, [&](Range range) {
-            const bool isInside = range.begin < end;
-            end = isInside ? end : range.end;
-            return isInside;
-        });
     });
 }
 
 void OutputTemplateTitle::UnItalicizeSpecies(Text& text, std::span<const Word> words, std::vector<Range>& roman) const {
-    procedure(*this, u"OutputTemplateTitle.UnItalicizeSpecies", {{u"text", text}}, [&] {
-        for (std::size_t i = 1; i < words.size(); ++i) {
-            if (!words[i].known.is(titlewords::kSpeciesEpithet)) {
-                continue;
-            }
-            const Word& before = words[i - 1];
-            const TextView genus = slice(text, before.core);
-            const std::size_t gap = words[i].core.begin - before.core.end;
-            const bool isInitial = genus.size() == 1 && gap == 2 && text[before.core.end] == u'.';
-            // As it is written now: a heading may have given it its capital.
-            const titlewords::WordClasses known = titlewords::Lexicon::instance().classesOf(before.known.entry, genus);
-            if (isInitial || (gap == 1 && (known & titlewords::kName) != 0)) {
-                // A heading had made it "E. Coli".
-                titlecase::lowerAt(text, words[i].core.begin);
-                roman.push_back({before.core.begin, words[i].core.end});
-            }
-        }
-    });
+    procedure(*this, u"OutputTemplateTitle.UnItalicizeSpecies", {{u"text", text}},
+              [&] { titleroman::findSpecies(text, words, roman); });
 }
 
 void OutputTemplateTitle::UnItalicizeShipNames(TextView text, std::span<const Word> words,
                                                std::vector<Range>& roman) const {
-    procedure(*this, u"OutputTemplateTitle.UnItalicizeShipNames", {{u"text", text}}, [&] {
-        for (const Word& word : words) {
-            if (!word.known.is(titlewords::kShipPrefix)) {
-                continue;
-            }
-            const std::size_t at = word.core.begin;
-            // "U.S.S. " or "USS ".
-            const bool isDotted = slice(text, word.core).find(u'.') != TextView::npos;
-            const TextView joint = isDotted ? u". " : u" ";
-            if ((at > 0 && text[at - 1] != u' ') || !startsWith(text.substr(word.core.end), joint)) {
-                continue;
-            }
-            // The name is one word, without the mark behind it.
-            std::size_t end = word.core.end + joint.size();
-            while (end < text.size() && (isDigit(text[end]) || isCasedLetter(text[end]) || text[end] == u'-')) {
-                ++end;
-            }
-            roman.push_back({at, end});
-        }
-    });
+    procedure(*this, u"OutputTemplateTitle.UnItalicizeShipNames", {{u"text", text}},
+              [&] { titleroman::findShips(text, words, roman); });
+}
+
+void OutputTemplateTitle::UnItalicizeSpeciesAndNamesOfShips(TextView text, const OutputSinkRef& formattedStr) const {
+    procedure(*this, u"OutputTemplateTitle.UnItalicizeSpeciesAndNamesOfShips",
+              {{u"text", text}, {u"formattedStr", formattedStr}}, [&] {
+                  Text title(text);
+                  std::vector<Range> roman;
+                  if (mUnItalicizeSpeciesAndNamesOfShips) {
+                      const TitleText read = titlecase::readTitle(text);
+                      titleroman::findSpecies(title, read.words, roman);
+                      titleroman::findShips(title, read.words, roman);
+                      titleroman::order(roman);
+                  }
+                  addItalic(object(formattedStr), title, roman);
+              });
+}
+
+void OutputTemplateTitle::UnItalicizeSpecies(TextView text, const OutputSinkRef& formattedStr) const {
+    procedure(*this, u"OutputTemplateTitle.UnItalicizeSpecies", {{u"text", text}, {u"formattedStr", formattedStr}},
+              [&] {
+                  Text title(text);
+                  std::vector<Range> roman;
+                  titleroman::findSpecies(title, titlecase::readTitle(text).words, roman);
+                  addItalic(object(formattedStr), title, roman);
+              });
+}
+
+void OutputTemplateTitle::UnItalicizeShipNames(TextView text, const OutputSinkRef& formattedStr) const {
+    procedure(*this, u"OutputTemplateTitle.UnItalicizeShipNames", {{u"text", text}, {u"formattedStr", formattedStr}},
+              [&] {
+                  std::vector<Range> roman;
+                  titleroman::findShips(text, titlecase::readTitle(text).words, roman);
+                  addItalic(object(formattedStr), text, roman);
+              });
 }
 
 void OutputTemplateTitle::ToFormattedStringPrematter(const OutputSinkRef& formattedStr, bool isFootnote,

@@ -147,6 +147,54 @@ public:
     STDMETHODIMP isOldTitle(BSTR text, VARIANT_BOOL* result) override {
         return call(result, [&] { return mTitle->isOldTitle(view(text)); });
     }
+    STDMETHODIMP headingCapitalization(BSTR text, BSTR* result) override {
+        return call(result, [&] { return mTitle->headingCapitalization(view(text)); });
+    }
+    STDMETHODIMP formatRuleImpl(BSTR text, VARIANT_BOOL capitalizeFirstWord, VARIANT_BOOL isHeadingCapitalization,
+                                BSTR* result) override {
+        return call(result, [&] {
+            return mTitle->formatRuleImpl(view(text), asBool(capitalizeFirstWord), asBool(isHeadingCapitalization));
+        });
+    }
+    STDMETHODIMP capitalizeAccordingToInternalRules(BSTR text, VARIANT_BOOL isTitle, BSTR* result) override {
+        return call(result, [&] { return mTitle->capitalizeAccordingToInternalRules(view(text), asBool(isTitle)); });
+    }
+    STDMETHODIMP capitalize(BSTR word, VARIANT_BOOL doCapitalization, BSTR* result) override {
+        return call(result, [&] { return mTitle->capitalize(view(word), asBool(doCapitalization)); });
+    }
+    STDMETHODIMP hyphenate(BSTR word, BSTR* result) override {
+        return call(result, [&] { return mTitle->hyphenate(view(word)); });
+    }
+    STDMETHODIMP isAlwaysLowercase(BSTR word, VARIANT_BOOL* result) override {
+        return call(result, [&] { return mTitle->isAlwaysLowercase(view(word)); });
+    }
+    STDMETHODIMP isAcronym(BSTR word, VARIANT_BOOL* result) override {
+        return call(result, [&] { return mTitle->isAcronym(view(word)); });
+    }
+    STDMETHODIMP wordIsPossessive(BSTR word, VARIANT_BOOL* result) override {
+        return call(result, [&] { return mTitle->wordIsPossessive(view(word)); });
+    }
+    STDMETHODIMP isPreformattedTitle(BSTR text, VARIANT_BOOL* result) override {
+        return call(result, [&] { return mTitle->isPreformattedTitle(view(text)); });
+    }
+    STDMETHODIMP endsWithPunctuation(BSTR text, VARIANT_BOOL* result) override {
+        return call(result, [&] { return mTitle->endsWithPunctuation(view(text)); });
+    }
+    STDMETHODIMP parseAndRemoveTranslation(BSTR* text) override {
+        return call([&] { mTitle->parseAndRemoveTranslation(InOutText(text)); });
+    }
+    STDMETHODIMP parseAndRemovePrematter(BSTR* text, BSTR secondaryStr) override {
+        return call([&] { mTitle->parseAndRemovePrematter(InOutText(text), view(secondaryStr)); });
+    }
+    STDMETHODIMP UnItalicizeSpeciesAndNamesOfShips(BSTR text, IDispatch* formattedStr) override {
+        return call([&] { mTitle->UnItalicizeSpeciesAndNamesOfShips(view(text), HostSink::of(formattedStr)); });
+    }
+    STDMETHODIMP UnItalicizeSpecies(BSTR text, IDispatch* formattedStr) override {
+        return call([&] { mTitle->UnItalicizeSpecies(view(text), HostSink::of(formattedStr)); });
+    }
+    STDMETHODIMP UnItalicizeShipNames(BSTR text, IDispatch* formattedStr) override {
+        return call([&] { mTitle->UnItalicizeShipNames(view(text), HostSink::of(formattedStr)); });
+    }
 
 protected:
     ComPtr<IUnknown> elementAccess() override { return ElementAccess::to(this, mTitle); }

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "elements/title_types.h"
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
@@ -180,6 +182,24 @@ TEST(Title, LeavesForeignOldAndPreformattedTitlesAlone) {
 }
 
 class TitleReports : public ReportingTest {};
+
+TEST_F(TitleReports, NamesTheRulesAndNotEachWord) {
+    const auto title = titleIn(1);
+    Text text = u"The Power Broker: Robert Moses and the Fall of New York in the Age of the Motor Car";
+    service().forget();
+    title->Parse(text, u"");
+    title->ToFormattedString(std::make_shared<RecordingSink>(), false, false);
+    const std::vector<Text>& reports = service().reports();
+    for (const TextView name : {u"isPreformattedTitle", u"isEnglishTitle", u"isOldTitle", u"formatRule",
+                                u"formatRuleImpl", u"movePunctuation", u"addTitleImpl", u"UnItalicizeShipNames"}) {
+        const Text entry = concatenate({u"vbwProcIn: QuorvelTemplate.OutputTemplateTitle.", name, u" "});
+        EXPECT_TRUE(std::any_of(reports.begin(), reports.end(), [&](const Text& report) {
+            return startsWith(report, entry);
+        })) << testing::PrintToString(entry);
+    }
+    // Two calls of the host's service for each procedure.
+    EXPECT_LT(reports.size(), 120U);
+}
 
 TEST_F(TitleReports, ReportsWhatIsOutOfRangeAndSurvivesAFailingSink) {
     const auto title = titleIn(2);
