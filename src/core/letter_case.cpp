@@ -1,6 +1,7 @@
 #include "core/letter_case.h"
 
 #include <algorithm>
+#include <array>
 
 namespace quorvel {
 
@@ -14,12 +15,31 @@ constexpr char16_t lowerOfAscii(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
 }
 
+/// What the platform says, which takes its time: Latin letters with accents are asked for once, and general
+/// punctuation, which has no case, not at all.
+template <char16_t (LetterCase::*map)(char16_t) const>
+char16_t mappedByPlatform(char16_t unit) {
+    constexpr char16_t kFirst = u'\u0080';
+    constexpr char16_t kEndOfLatin = u'\u0250';
+    static const std::array<char16_t, kEndOfLatin - kFirst> latin = [] {
+        std::array<char16_t, kEndOfLatin - kFirst> table{};
+        for (char16_t letter = kFirst; letter < kEndOfLatin; ++letter) {
+            table[letter - kFirst] = (letterCase().*map)(letter);
+        }
+        return table;
+    }();
+    if (unit < kEndOfLatin) {
+        return latin[unit - kFirst];
+    }
+    return unit >= u'\u2000' && unit <= u'\u206F' ? unit : (letterCase().*map)(unit);
+}
+
 char16_t upperOf(char16_t unit) {
-    return unit < u'\u0080' ? upperOfAscii(unit) : letterCase().toUpper(unit);
+    return unit < u'\u0080' ? upperOfAscii(unit) : mappedByPlatform<&LetterCase::toUpper>(unit);
 }
 
 char16_t lowerOf(char16_t unit) {
-    return unit < u'\u0080' ? lowerOfAscii(unit) : letterCase().toLower(unit);
+    return unit < u'\u0080' ? lowerOfAscii(unit) : mappedByPlatform<&LetterCase::toLower>(unit);
 }
 
 bool isAscii(TextView text) {
