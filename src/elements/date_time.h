@@ -25,8 +25,8 @@ namespace quorvel {
 ///   May 1-3, 2011                          as it stands
 ///
 /// A complete date (day, month and four-digit year) is written by the style's pattern, a time with
-/// "a.m." or "p.m.", a month or season with its year in the pattern's order, everything else as it stands. A text that is not made of these parts alone is
-/// kept whole as the date.
+/// "a.m." or "p.m.", a month or season with its year in the pattern's order, everything else as it stands. A text that
+/// is not made of these parts alone is kept whole as the date.
 ///
 /// Styles: MLA 7 5.6.2, APA 6 6.28, Turabian 7 17.5.2, AMA 10 3.15.
 class OutputTemplateDateTime final : public Implementor, public Instrumented {
