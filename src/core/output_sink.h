@@ -16,8 +16,9 @@ using OutputSinkRef = std::shared_ptr<OutputSink>;
 class OutputSink : public HostObject {
 public:
     /// The font code of plain text. The other codes are bit flags: 1 italic, 2 bold, 4 underline,
-    /// 8 small capitals.
+    /// 8 small capitals; the library writes no other than these two.
     static constexpr std::int32_t kPlain = 0;
+    static constexpr std::int32_t kItalic = 1;
 
     virtual void Add(TextView text) = 0;
     virtual void Add(TextView text, std::int32_t font) = 0;

@@ -121,12 +121,13 @@ bool isSpace(char16_t unit) {
     return isIn(kSpaces, unit);
 }
 
-TextView trim(TextView text) {
-    const std::size_t first = text.find_first_not_of(u' ');
-    if (first == TextView::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(u' ') - first + 1);
+TextView trim(TextView text, TextView signs) {
+    const std::size_t first = text.find_first_not_of(signs);
+    return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(signs) - first + 1);
+}
+
+bool consistsOf(TextView text, TextView units) {
+    return text.find_first_not_of(units) == TextView::npos;
 }
 
 TextView before(TextView text, TextView separator) {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,8 +54,17 @@ bool anyUnit(TextView text, Test test) {
 /// True for a blank, a tab, a line break and the other Unicode spaces, the non-breaking ones included.
 bool isSpace(char16_t unit);
 
-/// Without the blanks (U+0020) at both ends.
-TextView trim(TextView text);
+/// Without the blanks (U+0020) at both ends, or without any of the units of `signs` there.
+TextView trim(TextView text, TextView signs = u" ");
+
+/// True when the text holds nothing but these units.
+bool consistsOf(TextView text, TextView units);
+
+/// True when a table of texts has this one.
+template <std::size_t N>
+bool isOneOf(TextView text, const TextView (&texts)[N]) {
+    return std::find(std::begin(texts), std::end(texts), text) != std::end(texts);
+}
 
 /// What stands before the first occurrence of the separator; the whole text when there is none.
 TextView before(TextView text, TextView separator);

@@ -28,11 +28,6 @@ constexpr std::size_t kLongestInitials = 12;
 constexpr std::size_t kMostInitials = 5;
 constexpr std::size_t kMostShoutedInitials = 2;
 
-template <std::size_t N>
-bool isOneOf(TextView text, const TextView (&values)[N]) {
-    return std::find(std::begin(values), std::end(values), text) != std::end(values);
-}
-
 /// "Neuenschwander-el Massioui": the particle hangs on the word before.
 bool endsWithHyphenedParticle(const Word& word) {
     const std::size_t hyphen = word.text.rfind(u'-');

@@ -11,7 +11,6 @@ namespace quorvel {
 
 namespace {
 
-constexpr std::int32_t kItalic = 1;
 constexpr TextView kTrue = u"True";
 constexpr TextView kOpening = u"(";
 constexpr TextView kClosing = u")";
@@ -298,7 +297,7 @@ void OutputTemplateCitation::fill(Slots& slots, const CitationFields& fields, st
                                   bool hasOtherTitlesByAuthor, bool isMinimal) {
     const Text year = yearOf(fields);
     if (mOptions.journalCentric && !fields.periodical.empty()) {
-        slots.add(kName, fields.periodical, kItalic);
+        slots.add(kName, fields.periodical, OutputSink::kItalic);
         slots.add(kName, concatenate({endsWith(fields.periodical, u".") ? u" " : u". ", year}));
         slots.add(kName, fields.volume.empty() ? Text() : concatenate({u";", fields.volume}));
         slots.add(kName, fields.issue.empty() ? Text() : concatenate({u"(", fields.issue, u")"}));
@@ -312,11 +311,11 @@ void OutputTemplateCitation::fill(Slots& slots, const CitationFields& fields, st
     if (!name.empty()) {
         slots.add(kName, name);
     } else if (mOptions.useAuthorOrPeriodicalTitle && !fields.periodical.empty() && !isNamed) {
-        slots.add(kName, fields.periodical, kItalic);
+        slots.add(kName, fields.periodical, OutputSink::kItalic);
     } else if (!isNamed) {
         titleFollows = false;
         if (citedTitle(fields, mOptions.supportsSubwork).empty()) {
-            slots.add(kName, fields.website.empty() ? fields.periodical : fields.website, kItalic);
+            slots.add(kName, fields.website.empty() ? fields.periodical : fields.website, OutputSink::kItalic);
         } else {
             addTitle(slots, kName, fields);
         }
@@ -390,7 +389,7 @@ void OutputTemplateCitation::addTitle(Slots& slots, std::int16_t slot, const Cit
         text = style->InHeadingCapitalization(text);
     }
     if (!isOfPart) {
-        slots.add(slot, text, kItalic);
+        slots.add(slot, text, OutputSink::kItalic);
     } else if (mOptions.titleIsQuoted && !text.empty()) {
         slots.add(slot,
                   concatenate({TextView(&kLeftDoubleQuotationMark, 1), text, TextView(&kRightDoubleQuotationMark, 1)}));

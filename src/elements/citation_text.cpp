@@ -26,11 +26,6 @@ constexpr TextView kPostfixes[] = {u"Jr.", u"Jr", u"Sr.", u"Sr", u"II", u"III", 
 constexpr TextView kYearWords[] = {kNoDate, u"in press", u"forthcoming"};
 
 template <std::size_t N>
-bool isOneOf(TextView text, const TextView (&list)[N]) {
-    return std::find(std::begin(list), std::end(list), text) != std::end(list);
-}
-
-template <std::size_t N>
 bool beginsWithOneOf(TextView text, const TextView (&list)[N]) {
     return std::any_of(std::begin(list), std::end(list), [&](TextView word) { return startsWith(text, word); });
 }
@@ -38,15 +33,6 @@ bool beginsWithOneOf(TextView text, const TextView (&list)[N]) {
 template <std::size_t N>
 bool holdsOneOf(TextView text, const TextView (&list)[N]) {
     return std::any_of(std::begin(list), std::end(list), [&](TextView word) { return contains(text, word); });
-}
-
-TextView trimmed(TextView text, TextView signs) {
-    const std::size_t first = text.find_first_not_of(signs);
-    return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(signs) - first + 1);
-}
-
-bool consistsOf(TextView text, TextView characters) {
-    return !text.empty() && text.find_first_not_of(characters) == TextView::npos;
 }
 
 /// Without parentheses around it and without the full stop of a note.
@@ -60,7 +46,7 @@ TextView bare(TextView citation) {
     if (startsWith(text, u"(") && endsWith(text, u")")) {
         text = text.substr(1, text.size() - 2);
     }
-    return trimmed(text, u" ,");
+    return trim(text, u" ,");
 }
 
 /// "2005", "2005a", "1900/1953", "n.d."
@@ -98,7 +84,7 @@ bool readVolumeAndPage(TextView piece, CitationFields& fields) {
     if (!fields.volume.empty() || colon == TextView::npos || !consistsOf(piece.substr(0, colon), u"0123456789IVXLC")) {
         return false;
     }
-    const TextView page = trimmed(piece.substr(colon + 1), u" ");
+    const TextView page = trim(piece.substr(colon + 1), u" ");
     if (!isLocator(page)) {
         return false;
     }
@@ -183,7 +169,7 @@ bool readJournalCentric(TextView text, CitationFields& fields) {
     const TextView volume = text.substr(semicolon + 1, colon - semicolon - 1);
     const std::size_t bracket = volume.find(u'(');
     fields.volume = Text(volume.substr(0, bracket));
-    fields.issue = bracket == TextView::npos ? Text() : Text(trimmed(volume.substr(bracket), u"()"));
+    fields.issue = bracket == TextView::npos ? Text() : Text(trim(volume.substr(bracket), u"()"));
     fields.page = Text(text.substr(colon + 1));
     return true;
 }
@@ -206,9 +192,9 @@ Text takeQuotedTitle(Text& text) {
     if (closing == Text::npos) {
         return {};
     }
-    Text title(trimmed(TextView(text).substr(opening + 1, closing - opening - 1), u" ,"));
-    const TextView before = trimmed(TextView(text).substr(0, opening), kOuterSigns);
-    const TextView behind = trimmed(TextView(text).substr(closing + 1), kOuterSigns);
+    Text title(trim(TextView(text).substr(opening + 1, closing - opening - 1), u" ,"));
+    const TextView before = trim(TextView(text).substr(0, opening), kOuterSigns);
+    const TextView behind = trim(TextView(text).substr(closing + 1), kOuterSigns);
     text = concatenate({before, before.empty() || behind.empty() ? TextView() : kBetweenPieces, behind});
     return title;
 }
@@ -216,7 +202,7 @@ Text takeQuotedTitle(Text& text) {
 CitationFields readIbid(TextView text, TextView previous) {
     CitationFields fields = previous.empty() ? CitationFields() : read(previous, {});
     TextView page = text.substr(kIbid.size());
-    page = trimmed(page, u" .,");
+    page = trim(page, u" .,");
     if (!page.empty()) {
         fields.page = Text();
         if (!readLocatorPiece(page, fields)) {

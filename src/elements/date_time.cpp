@@ -56,15 +56,6 @@ bool isJoiningWord(TextView word) {
                        [&](TextView joining) { return equalsIgnoringCase(word, joining); });
 }
 
-bool consistsOf(TextView text, TextView signs) {
-    return text.find_first_not_of(signs) == TextView::npos;
-}
-
-TextView trim(TextView text, TextView signs) {
-    const std::size_t first = text.find_first_not_of(signs);
-    return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(signs) - first + 1);
-}
-
 /// A date without what joins it to its time.
 TextView withoutJoint(TextView date) {
     for (;;) {

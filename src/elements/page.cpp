@@ -167,8 +167,7 @@ void OutputTemplatePage::addAdvancedPrefix(std::int32_t pageType, TextView prefi
               {{u"pageType", pageType}, {u"prefix", prefix}, {u"addDotToAdvancedPrefix", addDotToAdvancedPrefix}}, [&] {
                   Text word(prefix);
                   const bool hasDot = removeSuffix(word, u".");
-                  const bool isWhole =
-                      std::find(std::begin(kWholeWords), std::end(kWholeWords), word) != std::end(kWholeWords);
+                  const bool isWhole = isOneOf(word, kWholeWords);
                   const TextView end = hasDot || (addDotToAdvancedPrefix && !isWhole) ? u". " : u" ";
                   const auto type = static_cast<std::size_t>(pageType);
                   mPrefixes.at(type) = concatenate({word, end});
@@ -417,8 +416,7 @@ bool OutputTemplatePage::isPageImpl(TextView text) {
 }
 
 bool OutputTemplatePage::isNoPage(TextView text) const {
-    return std::find(std::begin(kNoPageMarkers), std::end(kNoPageMarkers), text) != std::end(kNoPageMarkers) ||
-           (!text.empty() && text == mNoPageStr);
+    return isOneOf(text, kNoPageMarkers) || (!text.empty() && text == mNoPageStr);
 }
 
 Text OutputTemplatePage::noteText() const {

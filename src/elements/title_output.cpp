@@ -21,7 +21,6 @@ using titlecase::Word;
 
 namespace {
 
-constexpr std::int32_t kItalic = 1;
 constexpr char16_t kLeftSingleQuotationMark = u'\u2018';
 constexpr char16_t kRightSingleQuotationMark = u'\u2019';
 
@@ -60,13 +59,13 @@ void addItalic(OutputSink& sink, TextView text, std::span<const Range> roman) {
     std::size_t done = 0;
     for (const Range range : roman) {
         if (range.begin > done) {
-            sink.Add(slice(text, {done, range.begin}), kItalic);
+            sink.Add(slice(text, {done, range.begin}), OutputSink::kItalic);
         }
         sink.Add(slice(text, range), OutputSink::kPlain);
         done = range.end;
     }
     if (done < text.size()) {
-        sink.Add(text.substr(done), kItalic);
+        sink.Add(text.substr(done), OutputSink::kItalic);
     }
 }
 

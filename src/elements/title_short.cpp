@@ -1,7 +1,5 @@
 #include "elements/title_short.h"
 
-#include <algorithm>
-#include <iterator>
 #include <vector>
 
 #include "core/letter_case.h"
@@ -57,11 +55,6 @@ constexpr TextView kSmallWords[] = {
     u"zur",
 };
 
-bool isSmall(TextView word) {
-    const Text lowered = toLower(word);
-    return std::find(std::begin(kSmallWords), std::end(kSmallWords), lowered) != std::end(kSmallWords);
-}
-
 }  // namespace
 
 Text shortTitle(TextView title) {
@@ -77,7 +70,7 @@ Text shortTitle(TextView title) {
         return Text(text);
     }
     words.resize(kMostWords);
-    while (words.size() > 1 && isSmall(words.back())) {
+    while (words.size() > 1 && isOneOf(toLower(words.back()), kSmallWords)) {
         words.pop_back();
     }
     Text shortened = join(words, u" ");

@@ -51,11 +51,6 @@ const std::vector<Description>& descriptions() {
     return rows;
 }
 
-template <std::size_t N>
-bool isOneOf(TextView text, const TextView (&texts)[N]) {
-    return std::find(std::begin(texts), std::end(texts), text) != std::end(texts);
-}
-
 }  // namespace
 
 Text captionOf(TextView type) {

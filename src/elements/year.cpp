@@ -27,11 +27,6 @@ constexpr TextView kEnDashText(&kEnDash, 1);
 constexpr TextView kTrue = u"True";
 constexpr TextView kFalse = u"False";
 
-template <std::size_t N>
-bool isOneOf(TextView text, const TextView (&markers)[N]) {
-    return std::find(std::begin(markers), std::end(markers), text) != std::end(markers);
-}
-
 /// "1990-12" could be a month: a range of numbers stays a range.
 bool isRangeOfNumbers(TextView text) {
     const std::size_t dash = text.find(u'-');
