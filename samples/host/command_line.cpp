@@ -22,8 +22,9 @@ const wchar_t* const kUsage =
     L"\n"
     L"  SampleHost --all [FILE]\n"
     L"      the list of references in the four styles, each in the order that its manual asks for\n"
-    L"  SampleHost --style mla|apa|turabian|ama [--notes|--short-notes] [FILE]\n"
-    L"      the list in one style, or its notes, in full or shortened (Turabian)\n"
+    L"  SampleHost --style mla|apa|turabian|ama [--notes|--citations] [FILE]\n"
+    L"      the list in one style, its notes (Turabian), or the short citations of its references,\n"
+    L"      the first of each and a later one where that is shorter\n"
     L"  SampleHost --switch FROM,TO [FILE]\n"
     L"      the list in the style TO, its elements read from a finished list in the style FROM\n"
     L"\n"
@@ -59,8 +60,8 @@ CommandLine readCommandLine(const std::vector<std::wstring>& arguments) {
             line.styles.push_back(styleNamed(both.substr(comma + 1)));
         } else if (argument == L"--notes") {
             line.form = Form::kNote;
-        } else if (argument == L"--short-notes") {
-            line.form = Form::kShortNote;
+        } else if (argument == L"--citations") {
+            line.citations = true;
         } else if (argument == L"--rtf") {
             line.rtf = true;
         } else if (argument == L"--report") {

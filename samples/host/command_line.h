@@ -15,6 +15,8 @@ struct CommandLine {
     /// Not empty: the elements are read from a finished list of this style.
     std::wstring from;
     Form form = Form::kList;
+    /// Short citations instead.
+    bool citations = false;
     bool rtf = false;
     /// Where the error report goes; empty: no error-report service.
     std::wstring reportFile;

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "fields.h"
@@ -43,6 +44,9 @@ struct Slot {
     std::wstring checkingKey;
     std::vector<std::wstring> separators;
 };
+
+/// Where a source's text stands in its pattern.
+constexpr std::wstring_view kPatternText = L"{}";
 
 /// The condition that the library asks the host about: the slot's text ends in "?" or "!".
 constexpr const wchar_t* kEndsSentence = L"ends-sentence";

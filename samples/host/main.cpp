@@ -37,6 +37,16 @@ Style namedStyle(const std::wstring& name) {
     return readStyle(dataFile(std::filesystem::path("styles") / (name + L".style")));
 }
 
+std::vector<ListedReference> written(const LateBoundObject& library, const Style& style,
+                                     const std::vector<Reference>& references, const CommandLine& line) {
+    if (line.citations) {
+        CitationWriter writer(library, style);
+        return cited(writer, references);
+    }
+    ReferenceWriter writer(library, style);
+    return listed(writer, references, line.form);
+}
+
 void printLists(const CommandLine& line, const std::vector<Style>& styles, const std::optional<Style>& from,
                 std::vector<Reference> references) {
     const LateBoundObject library = LateBoundObject::create(kLibraryClass);
@@ -46,8 +56,7 @@ void printLists(const CommandLine& line, const std::vector<Style>& styles, const
     }
     std::vector<RtfParagraph> paragraphs;
     for (const Style& style : styles) {
-        ReferenceWriter writer(library, style);
-        const std::vector<ListedReference> list = listed(writer, references, line.form);
+        const std::vector<ListedReference> list = written(library, style, references, line);
         if (line.rtf) {
             const std::vector<RtfParagraph> more = rtfParagraphs(style.manual, list);
             paragraphs.insert(paragraphs.end(), more.begin(), more.end());

@@ -88,6 +88,23 @@ std::vector<ListedReference> listed(ReferenceWriter& writer, const std::vector<R
     return list;
 }
 
+std::vector<ListedReference> cited(CitationWriter& writer, const std::vector<Reference>& references) {
+    std::vector<ListedReference> list;
+    const auto later = makeObject<FormattedText>();
+    for (const Reference& reference : references) {
+        ListedReference entry{std::to_wstring(list.size() + 1) + L".", makeObject<FormattedText>()};
+        writer.write(reference, references, true, *entry.text);
+        later->reset();
+        writer.write(reference, references, false, *later);
+        if (later->toString() != entry.text->toString()) {
+            entry.text->add(L" \u2026 ");
+            entry.text->add(*later);
+        }
+        list.push_back(std::move(entry));
+    }
+    return list;
+}
+
 std::vector<Reference> elementTexts(ReferenceWriter& writer, const std::vector<Reference>& references) {
     std::vector<Reference> texts;
     for (const Reference& reference : references) texts.push_back(writer.elementTexts(reference));

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "citation_writer.h"
 #include "reference_writer.h"
 
 namespace sample {
@@ -16,6 +17,9 @@ struct ListedReference {
 
 /// All references in the order that the style asks for; notes in the order of citation.
 std::vector<ListedReference> listed(ReferenceWriter& writer, const std::vector<Reference>& references, Form form);
+
+/// The short citations of all references, the later one behind the first where it differs.
+std::vector<ListedReference> cited(CitationWriter& writer, const std::vector<Reference>& references);
 
 /// The references with the texts of their elements as they stand in a finished list of this style: what a host has in
 /// hand when its user switches to another one.

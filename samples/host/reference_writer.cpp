@@ -20,15 +20,16 @@ ReferenceWriter::ReferenceWriter(LateBoundObject main, Style style)
 
 void ReferenceWriter::write(const Reference& reference, Form form, FormattedText& sink, const Reference* before) {
     const bool isSame = before != nullptr && isSameAuthor(reference, *before);
-    Template& assembly = templateFor(reference, form);
+    Template& assembly = templateFor(reference);
     mFiller->begin(reference, assembly.slots, mStyle, form, isSame ? mStyle.sameAuthor : std::wstring());
     setModel(reference);
-    assembly.toFormattedString({&sink, mFiller.get(), mModel.get(), form == Form::kShortNote, form != Form::kList});
+    const bool shortenedVersion = false;
+    assembly.toFormattedString({&sink, mFiller.get(), mModel.get(), shortenedVersion, form == Form::kNote});
     mFiller->end();
 }
 
 Reference ReferenceWriter::elementTexts(const Reference& reference) {
-    Template& assembly = templateFor(reference, Form::kList);
+    Template& assembly = templateFor(reference);
     mFiller->begin(reference, assembly.slots, mStyle, Form::kList, {});
     Reference texts = reference;
     for (std::size_t i = 0; i < assembly.slots.size(); ++i) {
@@ -44,7 +45,7 @@ Reference ReferenceWriter::elementTexts(const Reference& reference) {
 }
 
 const Field* ReferenceWriter::heading(const Reference& reference) {
-    const Template& assembly = templateFor(reference, Form::kList);
+    const Template& assembly = templateFor(reference);
     mFiller->begin(reference, assembly.slots, mStyle, Form::kList, {});
     const Field* field = nullptr;
     for (std::size_t i = 0; i < assembly.slots.size() && field == nullptr; ++i) {
@@ -61,11 +62,10 @@ bool ReferenceWriter::isSameAuthor(const Reference& reference, const Reference& 
            reference.text(*field) == before.text(*field);
 }
 
-ReferenceWriter::Template& ReferenceWriter::templateFor(const Reference& reference, Form form) {
+ReferenceWriter::Template& ReferenceWriter::templateFor(const Reference& reference) {
     const std::wstring& kind = reference.text(L"kind");
-    const auto& layouts = form == Form::kShortNote ? mStyle.shortNotes : mStyle.layouts;
-    const auto layout = layouts.find(kind);
-    if (layout == layouts.end()) {
+    const auto layout = mStyle.layouts.find(kind);
+    if (layout == mStyle.layouts.end()) {
         throw ComError{E_INVALIDARG, mStyle.name + L" has no layout for references of the kind " + kind + L"."};
     }
     const auto [found, isNew] = mTemplates.try_emplace(&layout->second);

@@ -40,7 +40,7 @@ private:
     };
 
     bool isSameAuthor(const Reference& reference, const Reference& before);
-    Template& templateFor(const Reference& reference, Form form);
+    Template& templateFor(const Reference& reference);
     Template build(const Layout& layout);
     void setModel(const Reference& reference);
 

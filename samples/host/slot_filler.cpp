@@ -7,7 +7,6 @@ namespace sample {
 namespace {
 
 constexpr std::int16_t kPlaceElement = 15;
-constexpr std::wstring_view kPatternText = L"{}";
 constexpr std::wstring_view kQuotationMarks = L"\u201D\u2019\"'";
 
 // In the order of ToFormattedStringImpl's arguments.

@@ -10,8 +10,13 @@ namespace sample {
 
 namespace {
 
+/// The options of short citations stand under this name.
+constexpr const wchar_t* kCitation = L"citation";
 /// Elements that write in several fonts.
 constexpr const wchar_t* kElementsWithFonts[] = {L"title", L"newspaper", L"multi-volume", L"refers-to"};
+
+/// Those of the citation template's slots that it fills with fonts.
+constexpr std::wstring_view kCitationSlotsWithFonts[] = {L"name", L"title"};
 
 constexpr struct {
     const wchar_t* name;
@@ -118,8 +123,9 @@ private:
         if (mSection.what == L"words" && (mSection.names.size() != 1 || findField(mSection.names.front()) == nullptr)) {
             throw Fault{L"one field is to be named"};
         }
-        if (isLayout && mSection.names.empty()) throw Fault{L"the kind of reference is missing"};
-        if (mSection.what == L"slots" && mSection.names.empty()) mSection.names.emplace_back();
+        const bool hasNoKind = mSection.what == L"citation" || (mSection.what == L"slots" && mSection.names.empty());
+        if (hasNoKind) mSection.names = {L""};
+        if (mSection.names.empty()) throw Fault{L"the kind of reference is missing"};
     }
 
     void readOption(LineReader& line) {
@@ -127,7 +133,8 @@ private:
         const std::size_t dot = element.find(L'.');
         if (dot == std::wstring::npos) throw Fault{L"the name is not of the form element.option"};
         const std::wstring name = element.substr(0, dot);
-        if (name != L"style" && !isElement(name)) throw Fault{L"there is no element named " + name};
+        if (name != L"style" && name != kCitation && !isElement(name))
+            throw Fault{L"there is no element named " + name};
         StyleOption read = optionNamed(element.substr(dot + 1), line);
         if (name == L"style") {
             describeStyle(read);
@@ -178,8 +185,8 @@ private:
         do {
             SlotSource source = sourceOf(line.word());
             while (!line.atEnd() && !line.isNext(L'|')) {
-                if (std::optional<std::wstring> pattern = line.text()) {
-                    source.pattern = *std::move(pattern);
+                if (line.isNext(L'"')) {
+                    source.pattern = pattern(line);
                     continue;
                 }
                 const std::wstring word = line.word();
@@ -205,7 +212,7 @@ private:
                 } else if (word == L"italic") {
                     source.font = kItalic;
                 } else if (word == L"notes") {
-                    source.notePattern = line.neededText();
+                    source.notePattern = pattern(line);
                 } else {
                     throw Fault{L"\"" + word + L"\" says nothing of a slot"};
                 }
@@ -213,6 +220,12 @@ private:
             sources.push_back(std::move(source));
         } while (line.take(L'|'));
         for (const std::wstring& kind : mSection.names) mSources[kind][slot] = sources;
+    }
+
+    static std::wstring pattern(LineReader& line) {
+        std::wstring text = line.neededText();
+        if (text.find(kPatternText) == std::wstring::npos) throw Fault{L"there is no {} in the pattern"};
+        return text;
     }
 
     static const Field* fieldNamed(const std::wstring& name) {
@@ -248,13 +261,15 @@ private:
     Rows* rowsOf(const std::wstring& section) {
         if (section == L"list") return &mLists;
         if (section == L"note") return &mNotes;
-        return section == L"short" ? &mShortNotes : nullptr;
+        return section == L"citation" ? &mCitation : nullptr;
     }
 
     void finish() {
         for (const auto& [kind, rows] : mLists) mStyle.layouts[kind] = withSources(kind, layoutOf(rows, mNotes[kind]));
-        for (const auto& [kind, rows] : mShortNotes) {
-            mStyle.shortNotes[kind] = withSources(kind, layoutOf(rows, {}));
+        mStyle.citation = layoutOf(mCitation[L""], {});
+        for (Slot& slot : mStyle.citation.slots) {
+            const auto* formatted = std::end(kCitationSlotsWithFonts);
+            slot.isFormatted = std::find(std::begin(kCitationSlotsWithFonts), formatted, slot.name) != formatted;
         }
         mStyle.hasNotes = !mNotes.empty() && !mNotes.begin()->second.empty();
     }
@@ -287,7 +302,7 @@ private:
     std::map<std::wstring, std::map<std::wstring, std::vector<SlotSource>>> mSources;
     Rows mLists;
     Rows mNotes;
-    Rows mShortNotes;
+    Rows mCitation;
 };
 
 }  // namespace

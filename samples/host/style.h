@@ -31,7 +31,7 @@ struct ElementOptions {
 enum class ListOrder { kByTitle, kByYear, kAsCited };
 
 /// The forms of a reference. Styles without notes have the first one alone.
-enum class Form { kList, kNote, kShortNote };
+enum class Form { kList, kNote };
 
 /// A style's words for a text of a field, in lists and in notes.
 struct Words {
@@ -54,9 +54,10 @@ struct Style {
     std::map<std::wstring, ElementOptions> elements;
     /// From a field's text, such as "Doctoral dissertation", to the style's words for it.
     std::map<const Field*, std::map<std::wstring, Words>> words;
-    /// By kind of reference: list and note, and the short note.
+    /// By kind of reference: list and note in one.
     std::map<std::wstring, Layout> layouts;
-    std::map<std::wstring, Layout> shortNotes;
+    /// That of short citations; without slots the one that the library has.
+    Layout citation;
 
     /// The style's words for a field's text, or the text itself; and back.
     const std::wstring& wordsFor(const Field& field, const std::wstring& text, bool isFootnote) const;

@@ -113,6 +113,7 @@ TEST(Styles, FaultsAreNamedWithTheirLine) {
         {L"[layout book]", L"line 1: there is no section named layout."},
         {L"[slots]\nauthor = autor", L"line 2: there is no field named autor."},
         {L"[slots]\nauthor = author bold", L"line 2: \"bold\" says nothing of a slot."},
+        {L"[slots]\nnumber = number \"no.\"", L"line 2: there is no {} in the pattern."},
         {L"style.name = \"S\"\n[list book]\nauthor last \".\"\ntitle last \".\"",
          L"line 3: what stands before title is missing."},
         {L"style.name = \"S\"\n[list book]\nauthor yaer \"\" other \"\" last \".\"\ntitle last \".\"",
