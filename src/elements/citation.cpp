@@ -5,6 +5,7 @@
 
 #include "core/procedure.h"
 #include "elements/citation_text.h"
+#include "elements/title_quotes.h"
 #include "elements/title_short.h"
 
 namespace quorvel {
@@ -14,7 +15,7 @@ namespace {
 constexpr TextView kTrue = u"True";
 constexpr TextView kOpening = u"(";
 constexpr TextView kClosing = u")";
-constexpr TextView kCirca = u"ca. ";
+constexpr TextView kCirca = u"ca.";
 constexpr TextView kInPress = u"in press";
 
 /// The slots of communications and web sites.
@@ -38,6 +39,30 @@ Text initialsOf(TextView firstNames) {
 
 bool isCommunication(const CitationFields& fields) {
     return fields.personalCommunication == kTrue || fields.email == kTrue;
+}
+
+/// Whether a slot's text ends in "?" or "!", inside quotation marks or not.
+bool asksOrExclaims(TextView text) {
+    constexpr TextView kClosingMarks = u"\u201D\u2019\"'";
+    const std::size_t last = text.find_last_not_of(kClosingMarks);
+    return last != TextView::npos && (text[last] == u'?' || text[last] == u'!');
+}
+
+/// A citation has no "Jr." (MLA 7 6.2, APA 6 6.12).
+void removePostfixes(OutputTemplateAuthor& author) {
+    std::vector<Text> names;
+    bool hasPostfix = false;
+    for (std::int16_t i = 0; i < author.numAuthors(); ++i) {
+        const AuthorRecord& person = author.person(i);
+        hasPostfix = hasPostfix || !person.postfix.empty();
+        names.push_back(person.firstNames.empty() ? person.lastName
+                                                  : concatenate({person.lastName, u", ", person.firstNames}));
+    }
+    if (hasPostfix) {
+        const bool hasEtAl = author.HasEtAl;
+        author.authors(names);
+        author.HasEtAl = hasEtAl;
+    }
 }
 
 TextView citedTitle(const CitationFields& fields, bool supportsSubwork) {
@@ -72,6 +97,14 @@ public:
             }
         }
         return mPhrases.empty();
+    }
+    /// A layout of the host's may leave the comma out behind a question.
+    void initChecking(std::vector<bool>& checkingArray, bool /*isFootnote*/) override {
+        for (const Phrase& phrase : mPhrases) {
+            if (asksOrExclaims(phrase.text)) {
+                checkingArray.at(static_cast<std::size_t>(phrase.slot)) = true;
+            }
+        }
     }
 
 private:
@@ -340,7 +373,13 @@ Text OutputTemplateCitation::nameOf(const CitationFields& fields, std::int16_t f
     if (author->numAuthors() == 0) {
         return text;
     }
+    removePostfixes(*author);
     Text names = author->toString(true, true, isMinimal, !isMinimal);
+    if (author->numAuthors() == 2 && !author->HasEtAl &&
+        names == concatenate({author->person(0).lastName, u" ", author->person(1).lastName})) {
+        // A style without and-word has one in the text (AMA 10 3.6).
+        names = concatenate({author->person(0).lastName, u" and ", author->person(1).lastName});
+    }
     const Text firstNames = author->person(0).firstNames;
     if (firstNames.empty() || (firstNameCommand != kInitials && firstNameCommand != kFirstNames)) {
         return names;
@@ -369,11 +408,13 @@ Text OutputTemplateCitation::yearOf(const CitationFields& fields) {
     }
     const std::shared_ptr<OutputTemplateYear> year = held(mYearTemplate);
     Text remainder = fields.year.empty() ? Text(citationtext::kNoDate) : fields.year;
+    // A range has the dash with which the style's own year element wrote it.
+    year->Reset(true, false, true, kCirca, true, citationtext::kNoDate, contains(remainder, TextView(&kEnDash, 1)));
     year->Parse(remainder, {});
     Text result;
     switch (year->yearType) {
         case OutputTemplateYear::kNoDate: result = mOptions.useNoDate ? citationtext::kNoDate : TextView(); break;
-        case OutputTemplateYear::kCirca: result = concatenate({kCirca, trim(year->Year)}); break;
+        case OutputTemplateYear::kCirca: result = concatenate({kCirca, u" ", trim(year->Year)}); break;
         case OutputTemplateYear::kNotYetPublished: result = kInPress; break;
         default: result = year->toString(false, true); break;
     }
@@ -391,8 +432,7 @@ void OutputTemplateCitation::addTitle(Slots& slots, std::int16_t slot, const Cit
     if (!isOfPart) {
         slots.add(slot, text, OutputSink::kItalic);
     } else if (mOptions.titleIsQuoted && !text.empty()) {
-        slots.add(slot,
-                  concatenate({TextView(&kLeftDoubleQuotationMark, 1), text, TextView(&kRightDoubleQuotationMark, 1)}));
+        slots.add(slot, titlecase::quoted(text));
     } else {
         slots.add(slot, text);
     }

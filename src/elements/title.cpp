@@ -5,6 +5,7 @@
 #include "core/letter_case.h"
 #include "core/procedure.h"
 #include "core/run_time_error.h"
+#include "elements/title_quotes.h"
 #include "elements/title_types.h"
 
 namespace quorvel {
@@ -124,7 +125,7 @@ void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
                               (text.back() == kRightDoubleQuotationMark || text.back() == u'"') &&
                               text.find_first_of(u"\u201D\"", 1) == text.size() - 1;
         if (isQuoted) {
-            text = text.substr(1, text.size() - 2);
+            text = titlecase::withDoubleQuotationMarks(TextView(text).substr(1, text.size() - 2));
             removeSuffix(text, u",");
             if (endsWith(text, u".") && !titlecase::isStopOfWord(text, text.size() - 1)) {
                 text.pop_back();

@@ -8,6 +8,7 @@
 #include "core/procedure.h"
 #include "core/run_time_error.h"
 #include "elements/title.h"
+#include "elements/title_quotes.h"
 #include "elements/title_roman.h"
 #include "elements/title_short.h"
 #include "elements/title_types.h"
@@ -21,9 +22,6 @@ using titlecase::Word;
 
 namespace {
 
-constexpr char16_t kLeftSingleQuotationMark = u'\u2018';
-constexpr char16_t kRightSingleQuotationMark = u'\u2019';
-
 // The slots. A describing text behind "?" or "!" has no comma: it stands in a slot of its own.
 enum Slot : std::size_t {
     kLeadInSlot = 0,
@@ -36,22 +34,6 @@ constexpr std::int16_t kLastSlot = kAfterMarkSlot;
 
 bool isQuestionOrExclamation(char16_t unit) {
     return unit == u'?' || unit == u'!';
-}
-
-/// The double quotation marks inside a title that gets some itself become single ones.
-Text withSingleQuotationMarks(TextView text) {
-    Text result(text);
-    bool isOpen = false;
-    for (char16_t& unit : result) {
-        if (unit == kLeftDoubleQuotationMark || (unit == u'"' && !isOpen)) {
-            unit = kLeftSingleQuotationMark;
-            isOpen = true;
-        } else if (unit == kRightDoubleQuotationMark || unit == u'"') {
-            unit = kRightSingleQuotationMark;
-            isOpen = false;
-        }
-    }
-    return result;
 }
 
 /// Adds a text in italics, parts of it roman.
@@ -174,10 +156,7 @@ void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, Text& 
               {{u"formattedStr", formattedStr}, {u"text", text}, {u"isPart", isPart}}, [&] {
                   OutputSink& sink = object(formattedStr);
                   if (isPart) {
-                      const bool isQuoted = titletypes::quotesParts(mFormat);
-                      sink.Add(
-                          isQuoted ? concatenate({u"\u201C", withSingleQuotationMarks(text), u"\u201D"}) : Text(text),
-                          OutputSink::kPlain);
+                      sink.Add(titletypes::quotesParts(mFormat) ? titlecase::quoted(text) : text, OutputSink::kPlain);
                       return;
                   }
                   std::vector<Range> roman;
@@ -261,7 +240,7 @@ void OutputTemplateTitle::ToFormattedStringPrematterImpl(const OutputSinkRef& fo
                   const Text word = isSmall ? toLower(mTitleType) : mTitleType;
                   const std::shared_ptr<OutputTemplateAuthor> author = mAuthorTemplate;
                   const bool writesAuthor = author && author->numAuthors() > 0 && !shortenedVersion;
-                  const Text persons = writesAuthor ? author->toString(true, false) : Text();
+                  const Text persons = writesAuthor ? author->toString(true, false, false, true) : Text();
                   const Text typed = hasTitle ? wholeTitle(shortenedVersion) : Text();
                   TitleText read = titlecase::readTitle(typed);
                   Text title = hasTitle ? formatRule(read) : Text();

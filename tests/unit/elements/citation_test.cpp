@@ -150,7 +150,7 @@ TEST_F(Citation, IsWhatTheManualsAskFor) {
          u"(Smith and Jones 12)",
          u"(Smith & Jones, 2005, 12)",
          u"(Smith and Jones, _Images_, 12)",
-         u"(Smith Jones, 2005, 12)"},
+         u"(Smith and Jones, 2005, 12)"},
         {{{u"author", u"Kernis, M. H., Cornell, D. P., Sun, C. R., Berry, A., & Harlow, T."},
           {u"title", u"There's more"},
           {u"year", u"1993"}},
@@ -234,6 +234,13 @@ TEST_F(Citation, IsWhatTheManualsAskFor) {
          u"(T. K. Lutes, e-mail communication, April 18, 2001)",
          u"(TK Lutes, MD, e-mail communication, April 18, 2001)"},
         {{}, u"", u"(n.d.)", u"", u""},
+        {{{u"author", u"Strunk, William, Jr., and E. B. White"},
+          {u"title", u"\u2018Style\u2019"},
+          {u"year", u"1955\u20131992"}},
+         u"(Strunk and White)",
+         u"(Strunk & White, 1955\u20131992)",
+         u"(Strunk and White, _\u2018Style\u2019_)",
+         u"(Strunk and White, 1955\u20131992)"},
     };
     for (const Case& c : kCases) {
         setFields(c.fields);
@@ -382,6 +389,15 @@ TEST_F(Citation, ALayoutOfTheHostsTakesThePlaceOfTheOwn) {
         citation.Add(i, i < 2, u"", separators);
     }
     EXPECT_EQ(output(), u"Kuhn, _Structure of Scientific Revolutions_, 52.");
+    // A callback condition holds for the slot that ends in a question.
+    citation.ResetLikeModelTemplate(1, nullptr);
+    citation.Add(0, true, u"", {u"", u", ", u"."});
+    citation.Add(1, true, u"title=__CALLBACK_FOR_CHECKING__", {u"", u".", u"", u""});
+    model->fields[keys->item(u"title")] = u"The \u201CClash\u201D of Civilizations?";
+    model->fields[keys->item(u"periodical")] = u"Foreign Affairs";
+    EXPECT_EQ(output(), u"Kuhn, \u201C\u2018Clash\u2019 of Civilizations?\u201D");
+    model->fields[keys->item(u"title")] = u"Clashes";
+    EXPECT_EQ(output(), u"Kuhn, \u201CClashes.\u201D");
     // The host fills a layout of its own, and the style's own comes back with the next Reset.
     class Filler final : public Implementor {
         void ToFormattedString(const OutputSinkRef&, bool, bool) override {}

@@ -4,9 +4,11 @@
 
 #include <algorithm>
 
+#include "elements/title_short.h"
 #include "elements/title_types.h"
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
+#include "support/shown.h"
 #include "support/style_presets.h"
 
 namespace quorvel {
@@ -222,6 +224,38 @@ TEST_F(TitleReports, ReportsWhatIsOutOfRangeAndSurvivesAFailingSink) {
     sink->onCall([&] { title->Reset(1, nullptr, true, true, u"", true, u"", true, u""); });
     title->ToFormattedString(sink, false, false);
     EXPECT_EQ(title->IsSentenceCapitalization(), true);
+}
+
+TEST(Title, ShortTitlesEndWhereAPhraseEnds) {
+    struct Case {
+        TextView title, expected;
+    };
+    constexpr Case kCases[] = {
+        {u"The Structure of Scientific Revolutions", u"Structure of Scientific Revolutions"},
+        {u"The Heath Anthology of American Literature", u"Heath Anthology"},
+        {u"North Carolina During the Great Depression: A Portrait", u"North Carolina"},
+        {u"Women's Ways of Knowing the World", u"Women's Ways of Knowing"},
+        {u"Guns, Germs, Cars, Planes, and Steel", u"Guns, Germs, Cars, Planes"},
+        {u"New Child Vaccine Gets Funding Boost", u"New Child Vaccine Gets"},
+        {u"Frankenstein; or, The Modern Prometheus", u"Frankenstein"},
+        {u"\u2018The House I Live In\u2019: Race and Class", u"\u2018The House I Live In\u2019"},
+        {u"Of the in the by the", u"Of"},
+        {u"A", u"A"},
+        {u"", u""},
+    };
+    for (const Case& c : kCases) {
+        EXPECT_EQ(titlecase::shortTitle(c.title), c.expected) << shown(c.title);
+    }
+}
+
+TEST(Title, QuotationMarksInsideATitleTurnWithTheOuterOnes) {
+    const auto turabian = titleIn(3);
+    Text text = u"\u201C\u2018The House\u2019 of the Smiths\u2019 and \u2018Rock\u2019s Roll\u2019\u201D";
+    const Text quoted = text;
+    turabian->Parse(text, u"Article");
+    EXPECT_EQ(turabian->value(Title::kTitle),
+              u"\u201CThe House\u201D of the Smiths\u2019 and \u201CRock\u2019s Roll\u201D");
+    EXPECT_EQ(written(*turabian), quoted);
 }
 
 }  // namespace
