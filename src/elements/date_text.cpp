@@ -23,7 +23,9 @@ constexpr TextView kOrdinalSuffixes[] = {u"st", u"nd", u"rd", u"th"};
 // What may stand between the parts of a complete date, and what joins one that is all numbers.
 constexpr TextView kSigns = u" ,.-/";
 constexpr TextView kJoiningSigns = u"-/";
+constexpr TextView kDigits = u"0123456789";
 constexpr TextView kDigitsAndTheirSigns = u"0123456789-/";
+constexpr TextView kJointsOfMonths = u"-/\u2013";
 
 constexpr int kLastDay = 31;
 constexpr std::size_t kDigitsOfYear = 4;
@@ -42,11 +44,13 @@ bool isSeason(TextView word) {
                        [&](TextView season) { return equalsIgnoringCase(season, word); });
 }
 
-/// "September" or "Sept.", for any abbreviation of the month.
+/// "September" or "Sept.", for any form of a month's name.
 Text monthName(TextView word, bool isShort) {
     constexpr std::size_t kShortName = 3;
     constexpr TextView kShortPattern = u"mmm";
     Text name = CommonTestingFunctions::convertToLongMonthNameIfNecessary(word);
+    name = *std::find_if(std::begin(kMonths), std::end(kMonths),
+                         [&](TextView month) { return equalsIgnoringCase(month, name); });
     if (isShort) {
         name.resize(std::min(name.size(), kShortName));
         CommonTestingFunctions::FormatForMLA(name, kShortPattern);
@@ -146,43 +150,37 @@ std::optional<Text> completeDate(TextView text) {
 }
 
 std::optional<MonthsAndYear> monthsAndYear(TextView text, bool useShortMonths) {
-    constexpr TextView kEnDashText(&kEnDash, 1);
-    const Text plain = replaceAll(text, kEnDashText, u"-");
-    const DateParts parts = partsOf(plain);
-    const bool isMonths = !parts.words.empty() && parts.words.size() <= 2 &&
-                          std::all_of(parts.words.begin(), parts.words.end(),
-                                      [](TextView word) { return isMonth(word) || isSeason(word); });
-    if (parts.hasOtherSigns || !isMonths || parts.numbers.size() != 1 || parts.numbers[0].size() != kDigitsOfYear) {
-        return std::nullopt;
-    }
-    const std::size_t year = text.find_first_of(u"0123456789");
+    const std::size_t year = text.find_first_of(kDigits);
     const bool isYearFirst = year == 0;
-    TextView months = isYearFirst ? text.substr(kDigitsOfYear) : text.substr(0, year);
-    if (!isYearFirst && year + kDigitsOfYear != text.size()) {
+    if (year == TextView::npos || text.size() < year + kDigitsOfYear ||
+        !consistsOf(text.substr(year, kDigitsOfYear), kDigits)) {
         return std::nullopt;
-    }
-    const auto isSign = [](char16_t unit) { return contains(kSigns, TextView(&unit, 1)); };
-    while (!months.empty() && isSign(months.front())) {
-        months.remove_prefix(1);
-    }
-    while (!months.empty() && isSign(months.back())) {
-        months.remove_suffix(1);
     }
     MonthsAndYear result{{}, Text(text.substr(year, kDigitsOfYear))};
-    while (!months.empty()) {
-        std::size_t length = 0;
-        while (length < months.size() && isCasedLetter(months[length])) {
-            ++length;
+    TextView rest = trim(isYearFirst ? text.substr(kDigitsOfYear) : text.substr(0, year), u" ,");
+    if (rest.empty() || (!isYearFirst && year + kDigitsOfYear != text.size())) {
+        return std::nullopt;
+    }
+    // At most "month, joint, month", each month with the full stop of an abbreviation or without.
+    for (int count = 0; !rest.empty(); ++count) {
+        if (count == 2) {
+            return std::nullopt;
         }
-        if (length == 0) {
-            // The full stop of an abbreviation goes with it.
-            result.months += months.front() == u'.' ? Text() : Text(1, months.front());
-            months.remove_prefix(1);
-            continue;
+        if (count == 1) {
+            if (!contains(kJointsOfMonths, rest.substr(0, 1))) {
+                return std::nullopt;
+            }
+            result.months += rest.front();
+            rest.remove_prefix(1);
         }
-        const TextView word = months.substr(0, length);
+        const auto end = std::find_if_not(rest.begin(), rest.end(), isCasedLetter);
+        const TextView word(rest.begin(), end);
+        if (!isMonth(word) && !isSeason(word)) {
+            return std::nullopt;
+        }
         result.months += isMonth(word) ? monthName(word, useShortMonths) : Text(word);
-        months.remove_prefix(length);
+        rest.remove_prefix(word.size());
+        rest.remove_prefix(startsWith(rest, u".") ? 1 : 0);
     }
     return result;
 }

@@ -229,7 +229,9 @@ void splitWord(TextView text, Range word, std::vector<Range>& parts) {
 bool isStopOfWord(TextView text, std::size_t stop) {
     const TextView word = wordBefore(text, stop);
     if (word.size() == 1) {
-        return isCapital(word[0]) && word != u"I" && word != u"V" && word != u"X";
+        // A small one becomes a capital in a heading, where it must read the same.
+        constexpr TextView kNumerals = u"IVXivx";
+        return (isCapital(word[0]) || isSmallLetter(word[0])) && !contains(kNumerals, word);
     }
     const bool isInitials = word.size() >= 3 && word[word.size() - 2] == u'.';
     return isInitials || titlewords::Lexicon::instance().find(word, toLower(word)).is(titlewords::kAbbreviation);
