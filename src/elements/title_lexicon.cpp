@@ -69,13 +69,18 @@ Lexicon::Lexicon() {
     }
     addNames(kPlace, {titlenames::kPlaces, titlenames::kPlacesCount});
     addNames(kPlace, {titlenames::kRegions, titlenames::kRegionsCount});
+    addNames(kPlace, {titlenames::kTowns, titlenames::kTownsCount});
     addNames(kName, {titlenames::kNames, titlenames::kNamesCount});
     addNames(kName, {titlenames::kEponyms, titlenames::kEponymsCount});
+    addNames(kName, {titlenames::kLastNames, titlenames::kLastNamesCount});
+    addNames(kName, {titlenames::kLore, titlenames::kLoreCount});
+    addNames(kName, {titlenames::kGenera, titlenames::kGeneraCount});
     addNames(kGivenName, {titlenames::kGivenNames, titlenames::kGivenNamesCount});
     addNames(kGivenName, {titlenames::kMoreGivenNames, titlenames::kMoreGivenNamesCount});
     std::vector<FoundPhrase> phrases;
     addPhrases({titlenames::kPhrases, titlenames::kPhrasesCount}, false, phrases);
     addPhrases({titlenames::kCommonWordNames, titlenames::kCommonWordNamesCount}, false, phrases);
+    addPhrases({titlenames::kNoNames, titlenames::kNoNamesCount}, false, phrases);
     addPhrases({titlenames::kWorks, titlenames::kWorksCount}, true, phrases);
     layOut(phrases);
 }

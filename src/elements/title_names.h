@@ -29,12 +29,27 @@ extern const std::size_t kMoreGivenNamesCount;
 /// More names of one word: eponyms, genera, authors (title_eponyms.cpp).
 extern const WordList kEponyms[];
 extern const std::size_t kEponymsCount;
+/// Last names that are no other words (title_last_names.cpp).
+extern const WordList kLastNames[];
+extern const std::size_t kLastNamesCount;
+/// Towns, regions, inhabitants, languages (title_towns.cpp).
+extern const WordList kTowns[];
+extern const std::size_t kTownsCount;
+/// Myth, scripture, history, stars, makes (title_lore.cpp).
+extern const WordList kLore[];
+extern const std::size_t kLoreCount;
+/// Genera and larger groups of living beings (title_genera.cpp).
+extern const WordList kGenera[];
+extern const std::size_t kGeneraCount;
 /// Names of several words, as they are written.
 extern const WordList kPhrases[];
 extern const std::size_t kPhrasesCount;
 /// More of them: organisations, laws, tests, events (title_phrases.cpp).
 extern const WordList kCommonWordNames[];
 extern const std::size_t kCommonWordNamesCount;
+/// Words, some of them names elsewhere, that are none beside each other: "guinea pig" (title_phrases.cpp).
+extern const WordList kNoNames[];
+extern const std::size_t kNoNamesCount;
 /// Works that titles of other works speak of (title_works.cpp); no names at the start of a title, where the
 /// work itself is meant.
 extern const WordList kWorks[];

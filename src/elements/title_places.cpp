@@ -23,7 +23,7 @@ const WordList kPlaces[] = {
      u"Burma Burundi Byzantium Cambodia Cameroon Canada Chad Chile China Colombia Congo Croatia Cuba Cyprus "
      u"Czechoslovakia Czechia Denmark Djibouti Ecuador Egypt England Eritrea Estonia Ethiopia Fiji Finland France "
      u"Gabon "
-     u"Gambia Georgia Germany Ghana Greece Greenland Grenada Guatemala Guinea Guyana Haiti Herzegovina Holland "
+     u"Gambia Georgia Germany Ghana Greece Greenland Grenada Guatemala Guyana Haiti Herzegovina Holland "
      u"Honduras "
      u"Hungary Iceland India Indonesia Iran Iraq Ireland Israel Italy Jamaica Japan Jordan Kazakhstan Kenya Korea "
      u"Kosovo "
@@ -115,7 +115,7 @@ const WordList kPlaces[] = {
      u"Edo Meiji Tokugawa Heian Joseon Koryo Mughal Mogul Safavid Abbasid Umayyad Mamluk Seljuk Habsburg Hapsburg "
      u"Hohenzollern Romanov Bourbon Plantagenet Tudor Stuart Hanoverian Windsor Medici Borgia Ptolemaic Seleucid"},
     // Religions and what belongs to them.
-    {u"Allah Anabaptist Anabaptists Ashkenazic Baptist Baptists Bible Biblical Brahman Brahmin Brahmins Buddha "
+    {u"Allah Anabaptist Anabaptists Ashkenazic Baptist Baptists Bible Brahman Brahmin Brahmins Buddha "
      u"Buddhism "
      u"Buddhist Calvinism Calvinist Calvinists Catholic Catholicism Catholics Christ Christendom Christianity "
      u"Christianization Christmas Christological Christology Confucianism Dao Daoism Daoist Druid Druids Easter "
@@ -150,7 +150,7 @@ const WordList kPlaces[] = {
      u"Odessa Okavango Olduvai Omaha Orkney Orléans Osaka Oudh Oxfordshire Palestinian Pampas Papua Peking Perth "
      u"Piraeus "
      u"Pitcairn Pondicherry Portsmouth Potomac Potsdam Poznan Punjabis Pyongyang Quito Rajasthan Rangoon Reims Riga "
-     u"Riyadh Roanoke Rochester Rhône Runnymede Ruhr Salvador Sana'a Sapporo Savannah Savoy Scythia Serengeti "
+     u"Riyadh Roanoke Rochester Rhône Runnymede Ruhr Salvador Sana'a Sapporo Savoy Scythia Serengeti "
      u"Sevastopol "
      u"Shenzhen Shetland Sichuan Siena Skopje Somerset Somme Strathclyde Staffordshire Swansea Tabriz Tahiti Tallinn "
      u"Tashkent Tbilisi Tenochtitlan Thebes Thessaly Thrace Tianjin Tigray Tijuana Tirana Toulon Trenton Tucson Tulsa "

@@ -36,7 +36,7 @@ const WordList kRegions[] = {
      u"Kabul Kano Karachi Kashmir Katanga Kathmandu Kerala Kivu Kobe Kurdistan Kyoto Ladakh Lagos Lahore Levant "
      u"Levantine Lucknow Madras Maharashtra Malabar Malacca Malay Malaya Manchuria Manila Maratha Mecca Medina "
      u"Melanesia Melanesian Melbourne Micronesia Mindanao Mombasa Mumbai Nagoya Nairobi Najaf Namibia Nanjing "
-     u"Nanking Natal Nepal Ningbo Nubia Nubian Odisha Orissa Oromo Palau Penang Polynesia Polynesian Pune "
+     u"Nanking Nepal Ningbo Nubia Nubian Odisha Orissa Oromo Palau Penang Polynesia Polynesian Pune "
      u"Punjab Rabat Rakhine Rhodesia Rwanda Ryukyu Saigon Samarkand Samoa Samoan Sarawak Senegambia Seoul "
      u"Shaanxi Shandong Shanghai Shanxi Siam Siberia Siberian Sinai Sindh Sokoto Soweto Sulawesi Sumatra Suzhou "
      u"Sydney Taipei Tamil Tanganyika Tasmania Tehran Timbuktu Timor Tokyo Tonkin Transkei Transvaal Travancore "
