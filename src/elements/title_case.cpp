@@ -43,8 +43,10 @@ private:
             const bool isLowered = isSmall && !isFirst && !word.isLast;
             // "e-learning", "t-test": the letter stays, the word behind it is capitalised.
             const bool isPrefix = word.isCompound && isLetter && letter != u'a';
-            if (isGreek) {
-                // It is a sign.
+            // "p Values", "Student's t"; "ca. 1500".
+            const bool isSign = isGreek || (isLetter && !word.isCompound && letter != u'a' && !isFirst);
+            if (isSign) {
+                // It stays as it is typed.
             } else if (!isLowered && (isFirst || !(isPrefix || stays(index)))) {
                 capitalizeAt(mText, first.begin);
             } else if (isLowered || known.is(titlewords::kSpeciesEpithet)) {

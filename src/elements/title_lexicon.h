@@ -27,7 +27,7 @@ struct Known {
     bool is(WordClasses any) const { return (classes & any) != 0; }
 };
 
-/// A name of several words.
+/// A name of several words; or words one of which is a name elsewhere and none here.
 struct Phrase {
     static constexpr std::size_t kMostWords = 16;
 

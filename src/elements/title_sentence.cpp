@@ -2,84 +2,15 @@
 
 #include <algorithm>
 
-#include "core/letter_case.h"
 #include "elements/title_case.h"
+#include "elements/title_shapes.h"
 
 namespace quorvel::titlecase {
 
 namespace {
 
 using namespace titlewords;
-
-// Endings of common words, which a name behind a given name does not have.
-constexpr TextView kCommonEndings[] = {u"ing", u"tion", u"tions", u"ment", u"ments", u"ness", u"ology", u"ity", u"ism"};
-
-// What is put to a name.
-constexpr TextView kDerivations[] = {u"s", u"ism", u"ist", u"ization", u"ized", u"izing"};
-
-// "Victorian", "Guatemalan", "Japanese", but not "librarian".
-constexpr TextView kNameSuffixes[] = {u"ian", u"ean", u"ese"};
-constexpr TextView kCommonSuffixes[] = {u"ician", u"arian", u"cean"};
-
-// Endings of last names, which few common words have: "Lermontov", "Johnson", "Hamburg".
-constexpr TextView kSurnameEndings[] = {u"berg",  u"burg",  u"burgh", u"bury", u"elli",  u"enko", u"etti",
-                                        u"ham",   u"ini",   u"ius",   u"kov",  u"mann",  u"nov",  u"ov",
-                                        u"ski",   u"sky",   u"son",   u"stan", u"stein", u"ucci", u"vich",
-                                        u"ville", u"worth", u"shire", u"guez"};
-
-// Endings of agents and qualities, whose possessive is no name's.
-constexpr TextView kAgentEndings[] = {u"er", u"or", u"ist", u"ian", u"ing", u"ess", u"tion", u"ent", u"ant"};
-
-constexpr TextView kAdjectiveEndings[] = {u"n", u"sh", u"ch", u"ese", u"ic"};
-
-template <std::size_t N>
-bool endsWithAny(TextView text, const TextView (&endings)[N]) {
-    // Most endings are told by their last letter.
-    return !text.empty() && std::any_of(std::begin(endings), std::end(endings), [&](TextView ending) {
-        return text.back() == ending.back() && endsWith(text, ending);
-    });
-}
-
-bool hasNameSuffix(TextView lowered) {
-    if (endsWith(lowered, u"s")) {
-        lowered.remove_suffix(1);
-    }
-    return lowered.size() >= 5 && endsWithAny(lowered, kNameSuffixes) && !endsWithAny(lowered, kCommonSuffixes) &&
-           !Lexicon::instance().find(lowered, lowered).is(kCommonInNameSuffix);
-}
-
-bool hasSurnameEnding(TextView lowered, Known known) {
-    // "Kolkata" cannot be told from "data", but "Palermo", "Nagasaki" and "Honolulu" look foreign.
-    const char16_t last = lowered.empty() ? u' ' : lowered.back();
-    const bool endsInVowel = last == u'o' || last == u'i' || last == u'u';
-    return (lowered.size() >= 4 && endsInVowel && !known.is(kCommonInVowel)) ||
-           (lowered.size() >= 6 && endsWithAny(lowered, kSurnameEndings) && !known.is(kCommonInSurnameEnding));
-}
-
-/// Known by itself, as a plural, or as what its ending was put to: "Kantianism", "Darwinists".
-/// @param lowered the word in lower case
-bool isProperName(TextView word, TextView lowered, Known known) {
-    if (known.is(kAnyName)) {
-        return true;
-    }
-    TextView stem = word;
-    for (const TextView ending : kDerivations) {
-        if (stem.size() > std::max<std::size_t>(3, 2 * ending.size()) && stem.back() == ending.back() &&
-            endsWith(stem, ending)) {
-            stem.remove_suffix(ending.size());
-            if (Lexicon::instance().find(stem, lowered.substr(0, stem.size())).is(kAnyName)) {
-                return true;
-            }
-        }
-    }
-    return hasNameSuffix(lowered.substr(0, stem.size())) || hasSurnameEnding(lowered, known);
-}
-
-bool hasForeignLetter(TextView lowered, Known known) {
-    return std::any_of(lowered.begin(), lowered.end(),
-                       [](char16_t unit) { return unit >= 0xC0 && isCasedLetter(unit); }) &&
-           !known.is(kLoanWord);
-}
+using namespace titleshapes;
 
 /// Sets the letters of a piece as a sentence has them.
 class SentenceCase {
@@ -90,8 +21,13 @@ public:
     void run(bool capitalizeFirstWord) {
         findPhrases();
         findOrganizations();
+        findAct();
         for (std::size_t i = 0; i < mWords.size(); ++i) {
-            mWords[i].isKept = mWords[i].isKept || isName(i);
+            mWords[i].isKept = mWords[i].isKept || (!mWords[i].isSmallInPhrase && isName(i));
+            // "Harbin Institute of Technology".
+            if (mWords[i].isKept && mWords[i].knownName.is(kOrganizationTail) && i > 0 && mWords[i - 1].isKept) {
+                keepBehindOf(i);
+            }
         }
         for (std::size_t i = mWords.size(); i-- > 0;) {
             mWords[i].isKept = mWords[i].isKept || isPartOfNameBehind(i);
@@ -138,6 +74,8 @@ private:
             if ((phrase.capitals >> k & 1U) != 0) {
                 mWords[i + k].isKept = true;
                 mWords[i + k].isInPhrase = true;
+            } else {
+                mWords[i + k].isSmallInPhrase = true;
             }
         }
     }
@@ -147,20 +85,107 @@ private:
         constexpr std::size_t kLongest = 5;
         for (std::size_t i = 1; i < mWords.size(); ++i) {
             const Known last = mWords[i].known;
+            if (last.is(kAcronymTail)) {
+                findBeforeAcronym(i);
+            }
+            if (last.is(kOfLeadBehindArticle) && isBehind(i, u"the")) {
+                findSeries(i);
+            }
             if (last.is(kTailBehindArticle)) {
                 findBehindArticle(i);
+                findActOfYear(i);
             }
             if (!last.is(kInstrumentTail | kOrganizationTail)) {
                 continue;
             }
-            const WordClass lead = last.is(kInstrumentTail) ? kName : kOrganizationLead;
             for (std::size_t k = i; i - k < kLongest && hasNeighbour(k); --k) {
-                if (mWords[k - 1].known.is(lead)) {
+                if (last.is(kInstrumentTail) ? isInstrumentLead(k - 1, i) : mWords[k - 1].known.is(kOrganizationLead)) {
                     keep(k - 1, i);
+                    keepBehindOf(i);
                     break;
                 }
             }
         }
+    }
+
+    /// "National Institute of Mental Health", "American Association for the Advancement of Science".
+    void keepBehindOf(std::size_t organization) {
+        std::size_t i = organization + 1;
+        while (i < mWords.size() && hasNeighbour(i) && (lower(i) == u"of" || lower(i) == u"for")) {
+            ++i;
+            i += i < mWords.size() && lower(i) == u"the" ? 1U : 0U;
+            const std::size_t first = i;
+            while (i < mWords.size() && hasNeighbour(i) && !isFunction(i)) {
+                ++i;
+            }
+            if (i > first) {
+                keep(first, i - 1);
+            }
+        }
+    }
+
+    /// "Acculturative Stress Inventory (ASI)": back as many words as the acronym has letters.
+    void findBeforeAcronym(std::size_t i) {
+        if (i + 1 >= mWords.size() || mTitle.text[mWords[i + 1].core.begin - 1] != u'(') {
+            return;
+        }
+        const TextView acronym = word(i + 1);
+        if (!isAcronym(acronym) || acronym.size() > i + 1) {
+            return;
+        }
+        const std::size_t first = i + 1 - acronym.size();
+        for (std::size_t k = first; k <= i; ++k) {
+            if (word(k).front() != acronym[k - first] || (k > first && !hasNeighbour(k))) {
+                return;
+            }
+        }
+        keep(first, i);
+    }
+
+    /// "the Journal of Money, Credit and Banking", "the Department of Health".
+    void findSeries(std::size_t i) {
+        std::size_t last = i + 1;
+        if (last + 1 >= mWords.size() || lower(last) != u"of" || isFunction(last + 1)) {
+            return;
+        }
+        const auto goesOn = [&](std::size_t k) {
+            return k < mWords.size() && !isFunction(k) &&
+                   (hasNeighbour(k) || mTitle.text[mWords[k - 1].core.end] == u',');
+        };
+        ++last;
+        while (goesOn(last + 1)) {
+            ++last;
+        }
+        if (last + 2 < mWords.size() && lower(last + 1) == u"and" && goesOn(last + 2)) {
+            last += 2;
+        }
+        keep(i, last);
+    }
+
+    /// A piece that is the name of an act: "Mental Health on Campus Improvement Act", but "A Balancing Act".
+    void findAct() {
+        constexpr std::size_t kFewest = 3;
+        std::size_t words = 0;
+        if (mWords.empty() || word(mWords.size() - 1) != u"Act") {
+            return;
+        }
+        for (std::size_t i = 0; i < mWords.size(); ++i) {
+            const TextView lowered = lower(i);
+            const bool isLink = lowered == u"of" || lowered == u"for" || lowered == u"and" || lowered == u"on";
+            if ((i > 0 && !hasNeighbour(i)) || (isFunction(i) && !isLink)) {
+                return;
+            }
+            words += isLink ? 0U : 1U;
+        }
+        if (words > kFewest - 1) {
+            keep(0, mWords.size() - 1);
+        }
+    }
+
+    /// "Beck Depression Inventory", but "Bayesian rating scale" and "Likert scale".
+    bool isInstrumentLead(std::size_t i, std::size_t tail) const {
+        const bool isScale = startsWith(word(tail), u"Scale");
+        return mWords[i].known.is(kName) && !endsAsPeople(lower(i)) && (!isScale || tail - i > 1);
     }
 
     void keep(std::size_t first, std::size_t last) {
@@ -182,6 +207,18 @@ private:
         }
     }
 
+    /// "Civil Rights Act of 1964".
+    void findActOfYear(std::size_t i) {
+        const bool hasYear = i + 2 < mWords.size() && isBehind(i + 2, u"of") && isDigit(word(i + 2).front());
+        std::size_t first = i;
+        while (hasYear && hasNeighbour(first) && !isFunction(first - 1)) {
+            --first;
+        }
+        if (first < i) {
+            keep(first, i);
+        }
+    }
+
     bool isName(std::size_t i) const {
         const Word& current = mWords[i];
         const Known known = current.knownName;
@@ -191,25 +228,61 @@ private:
             // "A" is an article, but for the A of "vitamin A".
             return whole != u"A" || (hasNeighbour(i) && mWords[i - 1].known.is(kLetterTaker));
         }
-        if (isProperName(whole, lowered, known) || isMonth(i)) {
+        if (known.is(kAmbiguousGivenName) ? isBeforeName(i)
+            : current.isCompound          ? known.is(kAnyName)
+                                          : isNameByItself(whole, lowered, known) || isGenus(i)) {
+            return true;
+        }
+        if (isMonth(i)) {
             return true;
         }
         if (isFunction(i)) {
             return false;
         }
-        if ((current.hasAccents && hasForeignLetter(lowered, known)) || whole == u"Western" || isCompass(i)) {
+        if ((current.hasAccents && hasForeignLetter(lowered, known) && !current.isCompound) || isWestern(i) ||
+            isCompass(i)) {
             return true;
         }
         if (hasNeighbour(i)) {
             const Word& previous = mWords[i - 1];
-            if ((previous.known.is(kGivenName) || isInitial(i - 1)) && !endsWithAny(lowered, kCommonEndings)) {
+            if ((previous.known.is(kGivenName) || isInitial(i - 1)) && !endsAsNoun(lowered)) {
                 return !known.is(kSpeciesEpithet);
             }
             if (previous.known.is(kNameLead) || isTail(i)) {
                 return true;
             }
         }
-        return isBehindOf(i) || isTown(i) || (current.isPossessive() && isPossessiveOfName(i));
+        return isBehindOf(i) || isTown(i) || isPartner(i) ||
+               (current.isPossessive() && !current.isCompound && isPossessiveOfName(i));
+    }
+
+    /// "Mark" in "Mark Twain" and "Grace M. Hopper".
+    bool isBeforeName(std::size_t i) const {
+        if (i + 1 >= mWords.size() || !hasNeighbour(i + 1)) {
+            return false;
+        }
+        return isInitial(i + 1) ||
+               (!isFunction(i + 1) && isNameByItself(name(i + 1), lowerName(i + 1), mWords[i + 1].knownName));
+    }
+
+    /// "Quercus" in "Quercus robur": a heading leaves the second word of a species in small letters.
+    bool isGenus(std::size_t i) const {
+        if (i + 1 >= mWords.size()) {
+            return false;
+        }
+        const Word& next = mWords[i + 1];
+        if (!(next.isLower || next.known.is(kSpeciesEpithet)) || !next.isJoined || mWords[i].isLower) {
+            return false;
+        }
+        const bool isEpithet = next.isLower && !next.isCompound && next.core.end - next.core.begin >= 4 &&
+                               !next.known.is(kAnyFunctionWord | kParticle | kForeignParticle | kStaysInHeading);
+        return next.known.is(kSpeciesEpithet) || (isEpithet && endsAsEpithet(lower(i + 1)));
+    }
+
+    /// "Western thought", but "western Kenya".
+    bool isWestern(std::size_t i) const {
+        return word(i) == u"Western" &&
+               !(i + 1 < mWords.size() && hasNeighbour(i + 1) && mWords[i + 1].knownName.is(kPlace));
     }
 
     /// "May" and "March" beside a number or behind "in".
@@ -237,19 +310,37 @@ private:
     /// "River" in "Hudson River", "University" in "Columbia University".
     bool isTail(std::size_t i) const {
         const Known known = mWords[i].knownName;
-        if (!known.is(kNameTail | kInstitutionTail)) {
+        if (!known.is(kNameTail | kInstitutionTail | kTailAtEnd)) {
             return false;
         }
+        if (known.is(kTailAtEnd) && i + 1 < mWords.size() && hasNeighbour(i + 1) && !isFunction(i + 1)) {
+            return false;
+        }
+        // "Oxford University Press", "Hogarth Press", but "London press".
+        const bool isPress = name(i) == u"Press" && mWords[i - 1].known.is(kPlace);
+        return isNameBefore(i) && !isPress && (known.is(kNameTail) || !endsAsAdjective(word(i - 1)));
+    }
+
+    bool isNameBefore(std::size_t i) const {
         const Word& previous = mWords[i - 1];
-        const bool isAfterName =
-            previous.isKept || (previous.isFirst && isProperName(word(i - 1), lower(i - 1), previous.known));
-        return isAfterName && (known.is(kNameTail) || !endsWithAny(word(i - 1), kAdjectiveEndings));
+        if (previous.isCompound) {
+            const TextView whole = lower(i - 1);
+            const std::size_t hyphen = whole.find_last_of(u"-\u2013");
+            return previous.isKept || (hyphen != TextView::npos &&
+                                       isPartKept({previous.core.begin + hyphen + 1, previous.core.end}, true));
+        }
+        return (previous.isKept && !previous.isLower) ||
+               (previous.isFirst && isNameByItself(word(i - 1), lower(i - 1), previous.known));
     }
 
     /// "Battle of Hastings", "Duke of Norfolk".
     bool isBehindOf(std::size_t i) const {
-        return isBehind(i, u"of") && hasNeighbour(i - 1) && mWords[i - 2].known.is(kOfLead) &&
-               !endsWithAny(word(i), kCommonEndings);
+        return isBehind(i, u"of") && hasNeighbour(i - 1) && mWords[i - 2].known.is(kOfLead) && !endsAsNoun(word(i));
+    }
+
+    /// "Shakespeare and Company".
+    bool isPartner(std::size_t i) const {
+        return mWords[i].knownName.is(kPartner) && isBehind(i, u"and") && hasNeighbour(i - 1) && isNameBefore(i - 1);
     }
 
     /// "in Flint, Michigan".
@@ -259,7 +350,7 @@ private:
     }
 
     bool isPossessiveOfName(std::size_t i) const {
-        return !endsWithAny(lowerName(i), kAgentEndings) && !mWords[i].knownName.is(kCommonPossessor);
+        return !endsAsAgent(lowerName(i)) && !mWords[i].knownName.is(kCommonPossessor);
     }
 
     /// A first part of a name that was found behind it: "South" of "South Sudan", "President" of "President
@@ -269,6 +360,10 @@ private:
         if (!known.is(kNameLead | kOfLead | kOrganizationLead | kTitleOfPerson | kDirection) ||
             i + 1 >= mWords.size() || !hasNeighbour(i + 1) || mWords[i].isPossessive()) {
             return false;
+        }
+        // "Central and Eastern Europe".
+        if (known.is(kDirection) && lower(i + 1) == u"and" && i + 2 < mWords.size() && hasNeighbour(i + 2)) {
+            return mWords[i + 2].known.is(kDirection) && mWords[i + 2].isKept;
         }
         Word& next = mWords[i + 1];
         const TextView nextName = name(i + 1);
@@ -292,7 +387,8 @@ private:
         }
         const bool isLarge = startsWith(nextName, u"Europe") || startsWith(nextName, u"Africa") ||
                              startsWith(nextName, u"Asia") || nextName == u"Ireland" || nextName == u"California" ||
-                             nextName == u"Australia";
+                             nextName == u"Australia" || nextName == u"Sahara" || nextName == u"Pacific" ||
+                             nextName == u"Atlantic" || nextName == u"Samoa";
         return isLarge || !endsWith(word(i), u"ern");
     }
 
@@ -300,7 +396,10 @@ private:
         if (current.isCompound) {
             writeParts(current, isCapitalized);
         } else if (isCapitalized) {
-            capitalizeAt(mText, current.core.begin);
+            // "edgeR", "mRNA" and "p53" stay.
+            if (!current.hasOwnCase) {
+                capitalizeAt(mText, current.core.begin);
+            }
         } else if (!current.isKept && !current.isLower && !hasOwnCase(slice(mTitle.text, current.name))) {
             lowerAt(mText, current.core.begin);
         }
@@ -308,15 +407,19 @@ private:
 
     void writeParts(const Word& current, bool isCapitalized) {
         splitWord(mTitle.text, current.core, mParts);
+        const bool areNames = arePartsNames();
         for (const Range part : mParts) {
             const bool isFirst = part == mParts.front();
             if (isFirst && isCapitalized) {
-                capitalizeAt(mText, part.begin);
+                if (!hasOwnCase(slice(mTitle.text, part))) {
+                    capitalizeAt(mText, part.begin);
+                }
                 continue;
             }
             const TextView whole = withoutPossessive(slice(mTitle.text, part));
-            const bool isKept = current.isInPhrase || (isFirst && current.isKept) ||
-                                isPartKept({part.begin, part.begin + whole.size()});
+            const bool isKept = areNames || current.isInPhrase ||
+                                (current.isKept && (isFirst || canBePartOfName(part))) ||
+                                isPartKept({part.begin, part.begin + whole.size()}, part == mParts.back());
             if (!isKept && !hasOwnCase(whole)) {
                 lowerAt(mText, part.begin);
             }
@@ -324,12 +427,38 @@ private:
     }
 
     /// A part of a hyphenated word: by itself it has no neighbours.
-    bool isPartKept(Range part) const {
+    bool isPartKept(Range part, bool isLast) const {
         const TextView whole = slice(mTitle.text, part);
         const TextView lowered = mTitle.lower(part);
         const Known known = mTitle.find(part);
-        return (whole.size() == 1 ? whole != u"A" : isProperName(whole, lowered, known)) ||
+        if (whole.size() == 1) {
+            // "A–Z", but "a-priori".
+            return whole != u"A" || (mParts.size() == 2 && mParts[1].end - mParts[1].begin == 1);
+        }
+        // "Socio-economic": only the last part can be told by a vowel at its end.
+        return isProperName(whole, lowered, known) || (isLast && endsAsForeign(lowered, known)) ||
                hasForeignLetter(lowered, known);
+    }
+
+    /// The second part of "Smith-Jones", but not of "Marx-inspired".
+    bool canBePartOfName(Range part) const {
+        const TextView lowered = mTitle.lower(part);
+        return !mTitle.find(part).is(kCompoundTail | kAnyFunctionWord) && isCapital(mTitle.text[part.begin]) &&
+               !endsAsDerived(lowered) && !endsAsNoun(lowered);
+    }
+
+    /// "Dickey-Fuller", "Box-Cox": one of two is a person's name and the other can be one, too.
+    bool arePartsNames() const {
+        if (mParts.size() != 2) {
+            return false;
+        }
+        const Known first = mTitle.find(mParts[0]);
+        const Known second = mTitle.find(mParts[1]);
+        const TextView lowered = mTitle.lower(mParts[1]);
+        const bool isPerson = first.is(kName) && !endsAsAdjective(mTitle.lower(mParts[0]));
+        return (isPerson && lowered.size() > 2 && canBePartOfName(mParts[1])) ||
+               (first.is(kAmbiguousName) && !first.is(kPrefix) && second.is(kName | kAmbiguousName)) ||
+               (first.is(kName) && second.is(kAmbiguousName));
     }
 
     Text& mText;

@@ -53,9 +53,10 @@ struct Word {
     bool hasAccents = false;
 
     /// Sentence case notes here what it finds: the word keeps its capital, being a name; it is part of a
-    /// known name of several words, hyphens and all.
+    /// known name of several words, hyphens and all; it is a small word of one.
     bool isKept = false;
     bool isInPhrase = false;
+    bool isSmallInPhrase = false;
 
     bool isPossessive() const { return name.end != core.end; }
 };

@@ -51,6 +51,12 @@ enum WordClass : std::uint64_t {
     kAfterArticleInEnglish = 1ULL << 17U,
     /// Old spellings: "worlde".
     kOldWord = 1ULL << 18U,
+    /// Plurals that are common words while the singular is a name: "gods".
+    kCommonPlural = 1ULL << 19U,
+    /// First parts of hyphenated words that are no names: "non", "semi".
+    kPrefix = 1ULL << 20U,
+    /// Last parts of hyphenated words that are no names behind one: "type" in "Wigner-type".
+    kCompoundTail = 1ULL << 21U,
 
     // Bits 32 and up: words that are known only as they are written.
 
@@ -84,6 +90,18 @@ enum WordClass : std::uint64_t {
     kPlace = 1ULL << 45U,
     kName = 1ULL << 46U,
     kGivenName = 1ULL << 47U,
+    /// Given names that are words, too, and names only before another name: "Mark", "Grace".
+    kAmbiguousGivenName = 1ULL << 48U,
+    /// Last names that are words, too, and names beside another with a hyphen between: "Box" in "Box-Cox".
+    kAmbiguousName = 1ULL << 49U,
+    /// What stands behind "and" in names of firms: "Shakespeare and Company".
+    kPartner = 1ULL << 50U,
+    /// Last words of names that an acronym in parentheses stands behind: "Acculturative Stress Inventory (ASI)".
+    kAcronymTail = 1ULL << 51U,
+    /// First words of names with "of" behind "the": "the Journal of Money, Credit and Banking".
+    kOfLeadBehindArticle = 1ULL << 52U,
+    /// Last parts of names that have no noun behind them: "Lisbon Declaration", but "Lisbon project funding".
+    kTailAtEnd = 1ULL << 53U,
 };
 
 /// A set of classes.
