@@ -47,7 +47,12 @@ Text OutputTemplateTitle::formatRule(TitleText& title) const {
 Text OutputTemplateTitle::inStyle(TitleText& title) const {
     Text result(title.text);
     const titlecase::Rules inForce = rules();
-    if (isRecased(title) && (inForce.isHeading || titlecase::standsInHeadingCase(title))) {
+    if (!isRecased(title)) {
+        return result;
+    }
+    if (!inForce.isHeading && !titlecase::standsInHeadingCase(title)) {
+        titlecase::applySubtitle(result, title, inForce);
+    } else {
         for (std::size_t i = 0; i < title.words.size();) {
             const std::span<Word> piece = title.pieceFrom(i);
             formatRuleImpl(result, title, piece, titlecase::capitalizesFirstWord(piece.front(), inForce),

@@ -173,7 +173,9 @@ CasedTitle casedTitle(TextView title, const Rules& rules) {
     CasedTitle result;
     result.text = title;
     TitleText read = readTitle(title);
-    if (rules.isHeading || standsInHeadingCase(read)) {
+    if (!rules.isHeading && !standsInHeadingCase(read)) {
+        applySubtitle(result.text, read, rules);
+    } else {
         for (std::size_t i = 0; i < read.words.size();) {
             const std::span<Word> piece = read.pieceFrom(i);
             applyPiece(result.text, read, piece, capitalizesFirstWord(piece.front(), rules), rules);

@@ -29,8 +29,8 @@ struct CasedTitle {
     std::vector<Range> changed;
 };
 
-/// The title as the rules write it. Sentence case changes only a title that stands in heading case:
-/// one in sentence case shows itself what its names are.
+/// The title as the rules write it. Sentence case changes only a title that stands in heading case: one in
+/// sentence case shows itself what its names are, and changes only where a subtitle begins.
 CasedTitle casedTitle(TextView title, const Rules& rules);
 
 /// Whether most of the words that a heading capitalises and a sentence does not have a capital.
@@ -43,6 +43,9 @@ bool capitalizesFirstWord(const Word& first, const Rules& rules);
 /// @param text the title, its other pieces in either case
 void applyPiece(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
                 const Rules& rules);
+/// Of a title that stands in sentence case only the first word of a subtitle, which styles differ about: a capital
+/// by the rule, or a small letter but for a name (title_sentence.cpp).
+void applySubtitle(Text& text, TitleText& title, const Rules& rules);
 void applySentence(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
                    const Rules& rules);
 /// The words whose text differs.

@@ -19,6 +19,22 @@ public:
         : mText(text), mTitle(title), mWords(words), mRules(rules), mLexicon(Lexicon::instance()) {}
 
     void run(bool capitalizeFirstWord) {
+        findNames();
+        for (std::size_t i = 0; i < mWords.size(); ++i) {
+            const bool isCapitalized = i == 0 ? capitalizeFirstWord : mWords[i].isFirst && mRules.capitalizeSubtitle;
+            write(mWords[i], isCapitalized);
+        }
+    }
+
+    /// Of a title that stands in sentence case.
+    void runFirstWord(bool isCapitalized) {
+        mStoodInHeadingCase = false;
+        findNames();
+        write(mWords.front(), isCapitalized);
+    }
+
+private:
+    void findNames() {
         findPhrases();
         findOrganizations();
         findAct();
@@ -32,13 +48,8 @@ public:
         for (std::size_t i = mWords.size(); i-- > 0;) {
             mWords[i].isKept = mWords[i].isKept || isPartOfNameBehind(i);
         }
-        for (std::size_t i = 0; i < mWords.size(); ++i) {
-            const bool isCapitalized = i == 0 ? capitalizeFirstWord : mWords[i].isFirst && mRules.capitalizeSubtitle;
-            write(mWords[i], isCapitalized);
-        }
     }
 
-private:
     TextView word(std::size_t i) const { return slice(mTitle.text, mWords[i].core); }
     TextView name(std::size_t i) const { return slice(mTitle.text, mWords[i].name); }
     TextView lower(std::size_t i) const { return mTitle.lower(mWords[i].core); }
@@ -271,10 +282,12 @@ private:
             return false;
         }
         const Word& next = mWords[i + 1];
-        if (!(next.isLower || next.known.is(kSpeciesEpithet)) || !next.isJoined || mWords[i].isLower) {
+        if (!next.isJoined || mWords[i].isLower) {
             return false;
         }
-        const bool isEpithet = next.isLower && !next.isCompound && next.core.end - next.core.begin >= 4 &&
+        // In a heading a small word tells.
+        const bool isEpithet = mStoodInHeadingCase && next.isLower && !next.isCompound &&
+                               next.core.end - next.core.begin >= 4 &&
                                !next.known.is(kAnyFunctionWord | kParticle | kForeignParticle | kStaysInHeading);
         return next.known.is(kSpeciesEpithet) || (isEpithet && endsAsEpithet(lower(i + 1)));
     }
@@ -461,6 +474,7 @@ private:
                (first.is(kName) && second.is(kAmbiguousName));
     }
 
+    bool mStoodInHeadingCase = true;
     Text& mText;
     const TitleText& mTitle;
     std::span<Word> mWords;
@@ -471,6 +485,16 @@ private:
 };
 
 }  // namespace
+
+void applySubtitle(Text& text, TitleText& title, const Rules& rules) {
+    for (std::size_t i = 0; i < title.words.size();) {
+        const std::span<Word> piece = title.pieceFrom(i);
+        if (i > 0 && piece.front().beginsSubtitle) {
+            SentenceCase(text, title, piece, rules).runFirstWord(capitalizesFirstWord(piece.front(), rules));
+        }
+        i += piece.size();
+    }
+}
 
 void applySentence(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
                    const Rules& rules) {

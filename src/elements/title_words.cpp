@@ -30,7 +30,7 @@ constexpr WordList kWords[] = {
      u"communis davidiana difficile domestica domesticus elegans epidermidis erectus falciparum familiaris "
      u"frugiperda fumigatus gambiae gondii habilis influenzae japonica jejuni laevis leprae lupus "
      u"lycopersicum mansoni melanogaster meliloti mellifera monocytogenes musculus mutans neanderthalensis "
-     u"nigra norvegicus officinalis pallidum pneumoniae pombe pylori pyogenes rerio rex sapiens sativa "
+     u"nigra norvegicus officinalis pallidum phocoena pneumoniae pombe pylori pyogenes rerio rex sapiens sativa "
      u"sativum sativus sinensis subtilis thaliana thermophilus trachomatis trichocarpa tuberculosis "
      u"tumefaciens typhimurium vivax vulgaris economicus faber ludens"},
     {kAbbreviation,

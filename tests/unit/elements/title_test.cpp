@@ -55,6 +55,11 @@ TEST(Title, WritesEachTypeAsTheStyleAsks) {
         {u"The double helix: a personal account.", u"", 2, u"_The Double Helix: A Personal Account_"},
         {u"The Double Helix: A Personal Account", u"", 1, u"_The double helix: A personal account_"},
         {u"The Double Helix: A Personal Account", u"", 0, u"_The double helix: a personal account_"},
+        // A title that stands in sentence case changes only where its subtitle begins.
+        {u"Mood management: the hedonic hypothesis", u"", 1, u"_Mood management: The hedonic hypothesis_"},
+        {u"Mood management: The hedonic hypothesis", u"", 0, u"_Mood management: the hedonic hypothesis_"},
+        {u"Mood management: HIV and mRNA", u"", 0, u"_Mood management: HIV and mRNA_"},
+        {u"Mood management: German words", u"", 0, u"_Mood management: German words_"},
         {u"\u201CThe Clash of Civilizations?\u201D", u"Article", 3, u"\u201CThe Clash of Civilizations?\u201D"},
         {u"\u201CThe Clash of Civilizations?\u201D", u"Article", 1, u"The clash of civilizations?"},
         {u"The \"Other\" Question", u"Article", 2, u"\u201CThe \u2018Other\u2019 Question\u201D"},
