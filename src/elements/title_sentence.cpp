@@ -182,7 +182,8 @@ private:
         }
         for (std::size_t i = 0; i < mWords.size(); ++i) {
             const TextView lowered = lower(i);
-            const bool isLink = lowered == u"of" || lowered == u"for" || lowered == u"and" || lowered == u"on";
+            const bool isLink = lowered == u"of" || lowered == u"for" || lowered == u"and" || lowered == u"on" ||
+                                lowered == u"in" || lowered == u"to";
             if ((i > 0 && !hasNeighbour(i)) || (isFunction(i) && !isLink)) {
                 return;
             }

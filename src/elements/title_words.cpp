@@ -26,13 +26,22 @@ constexpr WordList kWords[] = {
     {kStaysInHeading,
      u"vs v n et ca"},
     {kSpeciesEpithet,
-     u"albicans aeruginosa aegypti anthracis aureus burgdorferi carolinensis catus cerevisiae cholerae coli "
-     u"communis davidiana difficile domestica domesticus elegans epidermidis erectus falciparum familiaris "
-     u"frugiperda fumigatus gambiae gondii habilis influenzae japonica jejuni laevis leprae lupus "
-     u"lycopersicum mansoni melanogaster meliloti mellifera monocytogenes musculus mutans neanderthalensis "
-     u"nigra norvegicus officinalis pallidum phocoena pneumoniae pombe pylori pyogenes rerio rex sapiens sativa "
-     u"sativum sativus sinensis subtilis thaliana thermophilus trachomatis trichocarpa tuberculosis "
-     u"tumefaciens typhimurium vivax vulgaris economicus faber ludens"},
+     u"acidophilus aegypti aeruginosa aestivum agalactiae albicans albopictus americanus annuum anthracis "
+     u"aureus avium baumannii benthamiana botulinum bovis brucei burgdorferi caballus californica "
+     u"carolinensis carpio castaneum catus cerevisiae cholerae cinerea coli communis crassa cruzi davidiana "
+     u"difficile domestica domesticus donovani duodenale economicus edulis elegans enterocolitica "
+     u"epidermidis erectus faber faecalis faecium falciparum familiaris fascicularis flavus frugiperda "
+     u"fumigatus gambiae gigas gondii graminearum granulosus habilis haematobium haemolyticus hepatica "
+     u"infantum infestans influenzae japonica japonicum jejuni laevis leprae leucas ludens lupus "
+     u"lycopersicum malayi maltophilia mansoni melanogaster meliloti mellifera mirabilis monocytogenes "
+     u"morhua mulatta multilocularis musculus mutans mykiss napus neanderthalensis nidulans nigra "
+     u"norvegicus novaeangliae officinalis oleracea oryzae oxysporum pallidum pallipes paniscus pendula "
+     u"perfringens pestis petraea phocoena pipiens plantarum pneumoniae pombe purpuratus pylori pyogenes "
+     u"quinquefasciatus rerio rex rhamnosus robur salar sapiens sativa sativum sativus scrofa simulans "
+     u"sinensis smegmatis solani solium spiralis stephensi stercoralis stipitis subtilis sylvatica "
+     u"sylvestris tabacum taurus terrestris thaliana thermophilus trachomatis trichiura trichocarpa "
+     u"troglodytes tropicalis truncatula truncatus trutta tuberculosis tuberosum tumefaciens typhimurium "
+     u"vinifera virginica vivax volvulus vulgare vulgaris"},
     {kAbbreviation,
      u"vs v mr mrs ms dr st jr sr prof rev gen col capt lt sgt mt ft no nos vol vols pt ch fig ed eds al cf "
      u"ca approx dept u.s.s u.s u.k h.m.s e.g i.e"},
