@@ -1,6 +1,7 @@
 // Sentence case: what keeps its capital in a title that stood in heading case.
 
 #include <algorithm>
+#include <array>
 
 #include "elements/title_case.h"
 #include "elements/title_shapes.h"
@@ -39,7 +40,7 @@ private:
         findOrganizations();
         findAct();
         for (std::size_t i = 0; i < mWords.size(); ++i) {
-            mWords[i].isKept = mWords[i].isKept || (!mWords[i].isSmallInPhrase && isName(i));
+            mWords[i].isKept = mWords[i].isKept || (canBeName(i) && isName(i));
             // "Harbin Institute of Technology".
             if (mWords[i].isKept && mWords[i].knownName.is(kOrganizationTail) && i > 0 && mWords[i - 1].isKept) {
                 keepBehindOf(i);
@@ -96,6 +97,10 @@ private:
         constexpr std::size_t kLongest = 5;
         for (std::size_t i = 1; i < mWords.size(); ++i) {
             const Known last = mWords[i].known;
+            if (!last.is(kAcronymTail | kOfLeadBehindArticle | kTailBehindArticle | kInstrumentTail |
+                         kOrganizationTail)) {
+                continue;
+            }
             if (last.is(kAcronymTail)) {
                 findBeforeAcronym(i);
             }
@@ -231,6 +236,14 @@ private:
         }
     }
 
+    /// Most words of a title are small ones and need no further look.
+    bool canBeName(std::size_t i) const {
+        const Word& current = mWords[i];
+        return !current.isLower && !current.isSmallInPhrase &&
+               (!isFunction(i) || current.knownName.is(kAnyName | kAmbiguousMonth | kAmbiguousGivenName) ||
+                current.core.end - current.core.begin == 1);
+    }
+
     bool isName(std::size_t i) const {
         const Word& current = mWords[i];
         const Known known = current.knownName;
@@ -340,8 +353,8 @@ private:
         if (previous.isCompound) {
             const TextView whole = lower(i - 1);
             const std::size_t hyphen = whole.find_last_of(u"-\u2013");
-            return previous.isKept || (hyphen != TextView::npos &&
-                                       isPartKept({previous.core.begin + hyphen + 1, previous.core.end}, true));
+            const Range last = {previous.core.begin + hyphen + 1, previous.core.end};
+            return previous.isKept || (hyphen != TextView::npos && isPartKept(last, mTitle.find(last), true));
         }
         return (previous.isKept && !previous.isLower) ||
                (previous.isFirst && isNameByItself(word(i - 1), lower(i - 1), previous.known));
@@ -421,30 +434,33 @@ private:
 
     void writeParts(const Word& current, bool isCapitalized) {
         splitWord(mTitle.text, current.core, mParts);
-        const bool areNames = arePartsNames();
-        for (const Range part : mParts) {
-            const bool isFirst = part == mParts.front();
-            if (isFirst && isCapitalized) {
-                if (!hasOwnCase(slice(mTitle.text, part))) {
+        for (std::size_t p = 0; p < mParts.size(); ++p) {
+            mParts[p].end = mParts[p].begin + withoutPossessive(slice(mTitle.text, mParts[p])).size();
+            if (p < mKnownParts.size()) {
+                mKnownParts[p] = mTitle.find(mParts[p]);
+            }
+        }
+        const bool areNames = current.isInPhrase || arePartsNames();
+        for (std::size_t p = 0; p < mParts.size(); ++p) {
+            const Range part = mParts[p];
+            const bool hasCase = hasOwnCase(slice(mTitle.text, part));
+            if (p == 0 && isCapitalized) {
+                if (!hasCase) {
                     capitalizeAt(mText, part.begin);
                 }
-                continue;
-            }
-            const TextView whole = withoutPossessive(slice(mTitle.text, part));
-            const bool isKept = areNames || current.isInPhrase ||
-                                (current.isKept && (isFirst || canBePartOfName(part))) ||
-                                isPartKept({part.begin, part.begin + whole.size()}, part == mParts.back());
-            if (!isKept && !hasOwnCase(whole)) {
+            } else if (!hasCase && !areNames && !(current.isKept && (p == 0 || canBePartOfName(p))) &&
+                       !isPartKept(part, knownPart(p), p + 1 == mParts.size())) {
                 lowerAt(mText, part.begin);
             }
         }
     }
 
+    Known knownPart(std::size_t p) const { return p < mKnownParts.size() ? mKnownParts[p] : mTitle.find(mParts[p]); }
+
     /// A part of a hyphenated word: by itself it has no neighbours.
-    bool isPartKept(Range part, bool isLast) const {
+    bool isPartKept(Range part, Known known, bool isLast) const {
         const TextView whole = slice(mTitle.text, part);
         const TextView lowered = mTitle.lower(part);
-        const Known known = mTitle.find(part);
         if (whole.size() == 1) {
             // "A–Z", but "a-priori".
             return whole != u"A" || (mParts.size() == 2 && mParts[1].end - mParts[1].begin == 1);
@@ -455,9 +471,9 @@ private:
     }
 
     /// The second part of "Smith-Jones", but not of "Marx-inspired".
-    bool canBePartOfName(Range part) const {
-        const TextView lowered = mTitle.lower(part);
-        return !mTitle.find(part).is(kCompoundTail | kAnyFunctionWord) && isCapital(mTitle.text[part.begin]) &&
+    bool canBePartOfName(std::size_t p) const {
+        const TextView lowered = mTitle.lower(mParts[p]);
+        return !knownPart(p).is(kCompoundTail | kAnyFunctionWord) && isCapital(mTitle.text[mParts[p].begin]) &&
                !endsAsDerived(lowered) && !endsAsNoun(lowered);
     }
 
@@ -466,11 +482,10 @@ private:
         if (mParts.size() != 2) {
             return false;
         }
-        const Known first = mTitle.find(mParts[0]);
-        const Known second = mTitle.find(mParts[1]);
-        const TextView lowered = mTitle.lower(mParts[1]);
+        const Known first = mKnownParts[0];
+        const Known second = mKnownParts[1];
         const bool isPerson = first.is(kName) && !endsAsAdjective(mTitle.lower(mParts[0]));
-        return (isPerson && lowered.size() > 2 && canBePartOfName(mParts[1])) ||
+        return (isPerson && mParts[1].end - mParts[1].begin > 2 && canBePartOfName(1)) ||
                (first.is(kAmbiguousName) && !first.is(kPrefix) && second.is(kName | kAmbiguousName)) ||
                (first.is(kName) && second.is(kAmbiguousName));
     }
@@ -481,8 +496,10 @@ private:
     std::span<Word> mWords;
     const Rules& mRules;
     const Lexicon& mLexicon;
-    // Of the hyphenated word that is written.
+    // Of the hyphenated word that is written, without "'s".
     std::vector<Range> mParts;
+    // Few words have more.
+    std::array<Known, 4> mKnownParts;
 };
 
 }  // namespace
