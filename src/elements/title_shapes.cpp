@@ -109,6 +109,14 @@ bool isNameByItself(TextView word, TextView lowered, Known known) {
     return isProperName(word, lowered, known) || endsAsForeign(lowered, known);
 }
 
+bool isNameInCompound(TextView part, TextView lowered, Known known, bool isLast) {
+    if (part.size() == 1) {
+        return part != u"A";
+    }
+    return isProperName(part, lowered, known) || (isLast && endsAsForeign(lowered, known)) ||
+           hasForeignLetter(lowered, known);
+}
+
 bool hasForeignLetter(TextView lowered, Known known) {
     return std::any_of(lowered.begin(), lowered.end(),
                        [](char16_t unit) { return unit >= 0xC0 && isCasedLetter(unit); }) &&

@@ -15,6 +15,9 @@ bool isProperName(TextView word, TextView lowered, titlewords::Known known);
 bool endsAsForeign(TextView lowered, titlewords::Known known);
 /// One of both.
 bool isNameByItself(TextView word, TextView lowered, titlewords::Known known);
+/// A part of a hyphenated word: a letter that is no article ("a-priori"), or a name. Only the last part can be told by
+/// a vowel at its end ("Socio-economic").
+bool isNameInCompound(TextView part, TextView lowered, titlewords::Known known, bool isLast);
 /// Has letters that English words do not have: "Çelebi", but not "café".
 bool hasForeignLetter(TextView lowered, titlewords::Known known);
 
