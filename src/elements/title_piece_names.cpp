@@ -30,6 +30,7 @@ public:
         for (std::size_t i = mWords.size(); i-- > 0;) {
             mWords[i].isKept = mWords[i].isKept || isPartOfNameBehind(i);
         }
+        findSeriesOfNames();
     }
 
 private:
@@ -352,6 +353,25 @@ private:
     /// "Shakespeare and Company".
     bool isPartner(std::size_t i) const {
         return mWords[i].knownName.is(kPartner) && isBehind(i, u"and") && hasNeighbour(i - 1) && isNameBefore(i - 1);
+    }
+
+    /// "Frost, Stevens, and Moore": where two of three are names, the third is one, too.
+    void findSeriesOfNames() {
+        constexpr std::size_t kAnd = 2;
+        constexpr std::size_t kLast = 3;
+        for (std::size_t i = 0; i + kLast < mWords.size(); ++i) {
+            const std::size_t behind = i + kLast + 1;
+            const bool beginsAlone = i == 0 || isFunction(i - 1);
+            const bool endsAlone = behind == mWords.size() || !mWords[behind].isJoined || isFunction(behind);
+            if (mTitle.text[mWords[i].core.end] != u',' || lower(i + kAnd) != u"and" || !beginsAlone || !endsAlone) {
+                continue;
+            }
+            Word* const members[] = {&mWords[i], &mWords[i + 1], &mWords[i + kLast]};
+            const auto isName = [](const Word* member) { return member->isKept && !member->hasOwnCase; };
+            if (std::count_if(std::begin(members), std::end(members), isName) == 2) {
+                std::for_each(std::begin(members), std::end(members), [](Word* member) { member->isKept = true; });
+            }
+        }
     }
 
     /// "in Flint, Michigan".
