@@ -48,17 +48,20 @@ bool asksOrExclaims(TextView text) {
     return last != TextView::npos && (text[last] == u'?' || text[last] == u'!');
 }
 
-/// A citation has no "Jr." (MLA 7 6.2, APA 6 6.12).
+/// A citation has no "Jr." (MLA 7 6.2, APA 6 6.12). A list with an institution that has a comma in its name is left
+/// alone: the names go back to the element as "Last, First".
 void removePostfixes(OutputTemplateAuthor& author) {
     std::vector<Text> names;
     bool hasPostfix = false;
+    bool hasComma = false;
     for (std::int16_t i = 0; i < author.numAuthors(); ++i) {
         const AuthorRecord& person = author.person(i);
         hasPostfix = hasPostfix || !person.postfix.empty();
+        hasComma = hasComma || contains(person.lastName, u",");
         names.push_back(person.firstNames.empty() ? person.lastName
                                                   : concatenate({person.lastName, u", ", person.firstNames}));
     }
-    if (hasPostfix) {
+    if (hasPostfix && !hasComma) {
         const bool hasEtAl = author.HasEtAl;
         author.authors(names);
         author.HasEtAl = hasEtAl;
@@ -101,8 +104,9 @@ public:
     /// A layout of the host's may leave the comma out behind a question.
     void initChecking(std::vector<bool>& checkingArray, bool /*isFootnote*/) override {
         for (const Phrase& phrase : mPhrases) {
-            if (asksOrExclaims(phrase.text)) {
-                checkingArray.at(static_cast<std::size_t>(phrase.slot)) = true;
+            const auto slot = static_cast<std::size_t>(phrase.slot);
+            if (slot < checkingArray.size() && asksOrExclaims(phrase.text)) {
+                checkingArray[slot] = true;
             }
         }
     }
@@ -311,7 +315,8 @@ void OutputTemplateCitation::write(const OutputSinkRef& formattedStr, const Refe
     if (isCommunication(fields) && namesCommunications) {
         const bool isEmail = fields.email == kTrue && mOptions.useEmailKey;
         slots.add(kCommunicator, isNamed ? Text() : communicatorOf(fields));
-        slots.add(isEmail ? kDateOfEmail : kDateOfLetter, fields.date);
+        slots.add(isEmail ? kDateOfEmail : kDateOfLetter,
+                  fields.date.empty() ? citationtext::kNoDate : TextView(fields.date));
     } else if (citesWebsite) {
         slots.add(kWebsite, fields.website);
     } else {

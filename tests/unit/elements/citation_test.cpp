@@ -233,6 +233,11 @@ TEST_F(Citation, IsWhatTheManualsAskFor) {
          u"(T. K. Lutes, personal communication, April 18, 2001)",
          u"(T. K. Lutes, e-mail communication, April 18, 2001)",
          u"(TK Lutes, MD, e-mail communication, April 18, 2001)"},
+        {{{u"author", u"Lutes, T. K."}, {u"personalCommunication", u"True"}},
+         u"(Lutes)",
+         u"(T. K. Lutes, personal communication, n.d.)",
+         u"(T. K. Lutes, personal communication, n.d.)",
+         u"(TK Lutes, personal communication, n.d.)"},
         {{}, u"", u"(n.d.)", u"", u""},
         {{{u"author", u"Strunk, William, Jr., and E. B. White"},
           {u"title", u"\u2018Style\u2019"},
@@ -396,6 +401,13 @@ TEST_F(Citation, ALayoutOfTheHostsTakesThePlaceOfTheOwn) {
     model->fields[keys->item(u"title")] = u"The \u201CClash\u201D of Civilizations?";
     model->fields[keys->item(u"periodical")] = u"Foreign Affairs";
     EXPECT_EQ(output(), u"Kuhn, \u201C\u2018Clash\u2019 of Civilizations?\u201D");
+    // Slots that the layout does not have are left out.
+    citation.ResetLikeModelTemplate(0, nullptr);
+    citation.Add(0, true, u"title=__CALLBACK_FOR_CHECKING__", {u"", u".", u"", u""});
+    EXPECT_EQ(output(), u"Kuhn.");
+    citation.ResetLikeModelTemplate(1, nullptr);
+    citation.Add(0, true, u"", {u"", u", ", u"."});
+    citation.Add(1, true, u"title=__CALLBACK_FOR_CHECKING__", {u"", u".", u"", u""});
     model->fields[keys->item(u"title")] = u"Clashes";
     EXPECT_EQ(output(), u"Kuhn, \u201CClashes.\u201D");
     // The host fills a layout of its own, and the style's own comes back with the next Reset.
