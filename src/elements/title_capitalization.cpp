@@ -6,6 +6,7 @@
 #include "core/procedure.h"
 #include "elements/title.h"
 #include "elements/title_language.h"
+#include "elements/title_sentence.h"
 
 namespace quorvel {
 
@@ -51,7 +52,7 @@ Text OutputTemplateTitle::inStyle(TitleText& title) const {
         return result;
     }
     if (!inForce.isHeading && !titlecase::standsInHeadingCase(title)) {
-        titlecase::applySubtitle(result, title, inForce);
+        titlecase::applySubtitle(result, title, inForce.capitalizeSubtitle);
     } else {
         for (std::size_t i = 0; i < title.words.size();) {
             const std::span<Word> piece = title.pieceFrom(i);

@@ -1,5 +1,7 @@
 #include "elements/title_case.h"
 
+#include "elements/title_sentence.h"
+
 namespace quorvel::titlecase {
 
 namespace {
@@ -155,7 +157,7 @@ void applyPiece(Text& text, const TitleText& title, std::span<Word> piece, bool 
     if (rules.isHeading) {
         HeadingCase(text, title, piece, rules).run(capitalizeFirstWord);
     } else {
-        applySentence(text, title, piece, capitalizeFirstWord, rules);
+        applySentence(text, title, piece, capitalizeFirstWord, rules.capitalizeSubtitle);
     }
 }
 
@@ -174,7 +176,7 @@ CasedTitle casedTitle(TextView title, const Rules& rules) {
     result.text = title;
     TitleText read = readTitle(title);
     if (!rules.isHeading && !standsInHeadingCase(read)) {
-        applySubtitle(result.text, read, rules);
+        applySubtitle(result.text, read, rules.capitalizeSubtitle);
     } else {
         for (std::size_t i = 0; i < read.words.size();) {
             const std::span<Word> piece = read.pieceFrom(i);

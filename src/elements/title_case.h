@@ -39,15 +39,10 @@ bool standsInHeadingCase(const TitleText& title);
 /// Whether the rules capitalise the first word of a piece.
 bool capitalizesFirstWord(const Word& first, const Rules& rules);
 /// One piece in heading or sentence case, in place. Sentence case takes a piece of a title that stands in
-/// heading case (title_sentence.cpp).
+/// heading case (title_sentence.h).
 /// @param text the title, its other pieces in either case
 void applyPiece(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
                 const Rules& rules);
-/// Of a title that stands in sentence case only the first word of a subtitle, which styles differ about: a capital
-/// by the rule, or a small letter but for a name (title_sentence.cpp).
-void applySubtitle(Text& text, TitleText& title, const Rules& rules);
-void applySentence(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
-                   const Rules& rules);
 /// The words whose text differs.
 std::vector<Range> changedWords(TextView before, TextView after, std::span<const Word> words);
 

@@ -1,9 +1,7 @@
-// Sentence case: the letters of a title that stood in heading case.
+#include "elements/title_sentence.h"
 
-#include <algorithm>
 #include <array>
 
-#include "elements/title_case.h"
 #include "elements/title_piece_names.h"
 #include "elements/title_shapes.h"
 
@@ -17,13 +15,13 @@ using namespace titleshapes;
 /// Sets the letters of a piece as a sentence has them.
 class SentenceCase {
 public:
-    SentenceCase(Text& text, const TitleText& title, std::span<Word> words, const Rules& rules)
-        : mText(text), mTitle(title), mWords(words), mRules(rules) {}
+    SentenceCase(Text& text, const TitleText& title, std::span<Word> words)
+        : mText(text), mTitle(title), mWords(words) {}
 
-    void run(bool capitalizeFirstWord) {
+    void run(bool capitalizeFirstWord, bool capitalizeSubtitle) {
         findNames(mTitle, mWords, true);
         for (std::size_t i = 0; i < mWords.size(); ++i) {
-            const bool isCapitalized = i == 0 ? capitalizeFirstWord : mWords[i].isFirst && mRules.capitalizeSubtitle;
+            const bool isCapitalized = i == 0 ? capitalizeFirstWord : mWords[i].isFirst && capitalizeSubtitle;
             write(mWords[i], isCapitalized);
         }
     }
@@ -103,7 +101,6 @@ private:
     Text& mText;
     const TitleText& mTitle;
     std::span<Word> mWords;
-    const Rules& mRules;
     // Of the hyphenated word that is written, without "'s".
     std::vector<Range> mParts;
     // Few words have more.
@@ -112,19 +109,19 @@ private:
 
 }  // namespace
 
-void applySubtitle(Text& text, TitleText& title, const Rules& rules) {
+void applySubtitle(Text& text, TitleText& title, bool capitalizeSubtitle) {
     for (std::size_t i = 0; i < title.words.size();) {
         const std::span<Word> piece = title.pieceFrom(i);
         if (i > 0 && piece.front().beginsSubtitle) {
-            SentenceCase(text, title, piece, rules).runFirstWord(capitalizesFirstWord(piece.front(), rules));
+            SentenceCase(text, title, piece).runFirstWord(capitalizeSubtitle);
         }
         i += piece.size();
     }
 }
 
 void applySentence(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
-                   const Rules& rules) {
-    SentenceCase(text, title, piece, rules).run(capitalizeFirstWord);
+                   bool capitalizeSubtitle) {
+    SentenceCase(text, title, piece).run(capitalizeFirstWord, capitalizeSubtitle);
 }
 
 }  // namespace quorvel::titlecase
