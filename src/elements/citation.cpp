@@ -307,6 +307,7 @@ void OutputTemplateCitation::write(const OutputSinkRef& formattedStr, const Refe
         return;
     }
     Slots slots;
+    std::shared_ptr<outputTemplate> assembly = held(mElectronicOutputTemplate);
     const bool isNamed = firstNameCommand == kNamedInTheSentence;
     const bool namesCommunications = !mOptions.YSEPR.empty() || mOptions.useEmailKey;
     const bool hasNobody = fields.author.empty() && fields.editor.empty();
@@ -321,14 +322,10 @@ void OutputTemplateCitation::write(const OutputSinkRef& formattedStr, const Refe
         slots.add(kWebsite, fields.website);
     } else {
         fill(slots, fields, firstNameCommand, hasOtherTitlesByAuthor, isMinimal);
-        const std::shared_ptr<outputTemplate> own = held(mOutputTemplate);
-        own->ResetReferenceItems();
-        own->ToFormattedString(formattedStr, slots, isMinimal, false);
-        return;
+        assembly = held(mOutputTemplate);
     }
-    const std::shared_ptr<outputTemplate> electronic = held(mElectronicOutputTemplate);
-    electronic->ResetReferenceItems();
-    electronic->ToFormattedString(formattedStr, slots, isMinimal, false);
+    assembly->ResetReferenceItems();
+    assembly->ToFormattedString(formattedStr, slots, isMinimal, false);
 }
 
 void OutputTemplateCitation::fill(Slots& slots, const CitationFields& fields, std::int16_t firstNameCommand,
@@ -365,17 +362,24 @@ void OutputTemplateCitation::fill(Slots& slots, const CitationFields& fields, st
     addLocator(slots, fields);
 }
 
+/// A copy of the style's author element that has read the text; empty without that element, or when the text names
+/// nobody.
+std::shared_ptr<OutputTemplateAuthor> OutputTemplateCitation::personsIn(TextView text) const {
+    const std::shared_ptr<OutputTemplateAuthor> style = mAuthorModelOutputTemplate;
+    if (!style || text.empty()) {
+        return nullptr;
+    }
+    std::shared_ptr<OutputTemplateAuthor> author = style->Clone();
+    Text remainder(text);
+    object(author).Parse(remainder, {});
+    return author->numAuthors() > 0 ? author : nullptr;
+}
+
 /// The authors, or the editors of a work without; empty when there are neither.
 Text OutputTemplateCitation::nameOf(const CitationFields& fields, std::int16_t firstNameCommand, bool isMinimal) const {
     Text text = fields.author.empty() ? fields.editor : fields.author;
-    const std::shared_ptr<OutputTemplateAuthor> style = mAuthorModelOutputTemplate;
-    if (!style || text.empty()) {
-        return text;
-    }
-    const std::shared_ptr<OutputTemplateAuthor> author = object(style).Clone();
-    Text remainder = text;
-    object(author).Parse(remainder, {});
-    if (author->numAuthors() == 0) {
+    const std::shared_ptr<OutputTemplateAuthor> author = personsIn(text);
+    if (!author) {
         return text;
     }
     removePostfixes(*author);
@@ -394,15 +398,8 @@ Text OutputTemplateCitation::nameOf(const CitationFields& fields, std::int16_t f
 
 /// "T. K. Lutes", in AMA with his degree.
 Text OutputTemplateCitation::communicatorOf(const CitationFields& fields) const {
-    Text name = fields.author;
-    if (const std::shared_ptr<OutputTemplateAuthor> style = mAuthorModelOutputTemplate) {
-        const std::shared_ptr<OutputTemplateAuthor> author = style->Clone();
-        Text remainder = name;
-        object(author).Parse(remainder, {});
-        if (author->numAuthors() > 0) {
-            name = author->toString(true, false, false, true);
-        }
-    }
+    const std::shared_ptr<OutputTemplateAuthor> author = personsIn(fields.author);
+    const Text name = author ? author->toString(true, false, false, true) : fields.author;
     return mOptions.useDegree && !fields.degree.empty() ? concatenate({name, u", ", fields.degree}) : name;
 }
 

@@ -161,6 +161,7 @@ private:
                bool hasOtherTitlesByAuthor, bool shouldReadFromModel, bool isMinimal);
     void layOut();
 
+    std::shared_ptr<OutputTemplateAuthor> personsIn(TextView text) const;
     Text nameOf(const CitationFields& fields, std::int16_t firstNameCommand, bool isMinimal) const;
     Text communicatorOf(const CitationFields& fields) const;
     Text yearOf(const CitationFields& fields);

@@ -81,7 +81,8 @@ void addPage(TextView page, CitationFields& fields) {
 /// "2: 1-10", "2:12": a volume with its page.
 bool readVolumeAndPage(TextView piece, CitationFields& fields) {
     const std::size_t colon = piece.find(u':');
-    if (!fields.volume.empty() || colon == TextView::npos || !consistsOf(piece.substr(0, colon), u"0123456789IVXLC")) {
+    if (!fields.volume.empty() || colon == TextView::npos || colon == 0 ||
+        !consistsOf(piece.substr(0, colon), u"0123456789IVXLC")) {
         return false;
     }
     const TextView page = trim(piece.substr(colon + 1), u" ");

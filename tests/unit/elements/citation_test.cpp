@@ -343,6 +343,7 @@ TEST_F(Citation, ReadsWhatItWrites) {
           {u"citedPage", u"2432"}}},
         {u"", {}},
         {u"()", {}},
+        {u"(Smith, :12)", {{u"author", u"Smith"}, {u"title", u":12"}}},
     };
     use(apa());
     for (const Case& c : kCases) {
