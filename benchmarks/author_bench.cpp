@@ -1,4 +1,4 @@
-#include "elements/author.h"
+#include "elements/author/author.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,4 +1,4 @@
-#include "elements/title.h"
+#include "elements/title/title.h"
 
 #include <benchmark/benchmark.h>
 

@@ -7,11 +7,11 @@
 #include <vector>
 
 #include "core/output_template_model.h"
-#include "elements/author.h"
+#include "elements/author/author.h"
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
-#include "elements/title.h"
+#include "elements/title/title.h"
 #include "elements/year.h"
 
 /// A native host: references with all their elements, and a style that writes them.

@@ -11,6 +11,8 @@ namespace quorvel::CommonModelProcessingFunctions {
 
 namespace {
 
+constexpr Module kModule{u"CommonModelProcessingFunctions"};
+
 constexpr TextView kOmissionPoints = u". . .";
 constexpr TextView kOutputTypeKey = u"outputType";
 
@@ -94,16 +96,16 @@ std::int16_t isTriggered(TextView keyInstructions, const std::shared_ptr<Referen
 std::int16_t KeyInstructionsIsTriggered(TextView keyInstructions, const std::shared_ptr<ReferenceModel>& model,
                                         TextView outputType, std::int16_t& disableReasonIndex) {
     std::int16_t result = kNotTriggered;
-    moduleProcedure(u"CommonModelProcessingFunctions.KeyInstructionsIsTriggered",
-                    {{u"keyInstructions", keyInstructions},
-                     {u"model", model},
-                     {u"outputType", outputType},
-                     {u"disableReasonIndex", disableReasonIndex}},
-                    [&] {
-                        if (!keyInstructions.empty()) {
-                            result = isTriggered(keyInstructions, model, outputType, disableReasonIndex);
-                        }
-                    });
+    procedure(kModule, u"KeyInstructionsIsTriggered",
+              {{u"keyInstructions", keyInstructions},
+               {u"model", model},
+               {u"outputType", outputType},
+               {u"disableReasonIndex", disableReasonIndex}},
+              [&] {
+                  if (!keyInstructions.empty()) {
+                      result = isTriggered(keyInstructions, model, outputType, disableReasonIndex);
+                  }
+              });
     return result;
 }
 
@@ -115,8 +117,8 @@ Text removeDoublePeriodsOnly(TextView phrase, TextView separator) {
 }
 
 Text removeDoublePeriods(TextView phrase, TextView separator, bool& removeQuoteFromPreviousPhrase) {
-    return moduleProcedure(
-        u"CommonModelProcessingFunctions.removeDoublePeriods",
+    return procedure(
+        kModule, u"removeDoublePeriods",
         {{u"phrase", phrase},
          {u"separator", separator},
          {u"removeQuoteFromPreviousPhrase", removeQuoteFromPreviousPhrase}},
@@ -137,12 +139,12 @@ Text removeDoublePeriods(TextView phrase, TextView separator, bool& removeQuoteF
 }
 
 bool isPunctuation(TextView text) {
-    return moduleProcedure(u"CommonModelProcessingFunctions.isPunctuation", {{u"text", text}},
-                           [&] { return !text.empty() && (text[0] == u'!' || text[0] == u'.' || text[0] == u'?'); });
+    return procedure(kModule, u"isPunctuation", {{u"text", text}},
+                     [&] { return !text.empty() && (text[0] == u'!' || text[0] == u'.' || text[0] == u'?'); });
 }
 
 Text spinNumToStr(TextView spin) {
-    return moduleProcedure(u"CommonModelProcessingFunctions.spinNumToStr", {{u"spin", spin}}, [&]() -> Text {
+    return procedure(kModule, u"spinNumToStr", {{u"spin", spin}}, [&]() -> Text {
         if (spin.empty()) {
             return {};
         }
@@ -156,7 +158,7 @@ Text spinNumToStr(TextView spin) {
 }
 
 Text strToSpinNum(TextView text) {
-    return moduleProcedure(u"CommonModelProcessingFunctions.strToSpinNum", {{u"text", text}}, [&]() -> Text {
+    return procedure(kModule, u"strToSpinNum", {{u"text", text}}, [&]() -> Text {
         Text number(text);
         // Only the first suffix that is there goes.
         static_cast<void>(std::any_of(std::begin(kSuffixesOfOrdinals), std::end(kSuffixesOfOrdinals),

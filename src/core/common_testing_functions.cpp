@@ -11,6 +11,8 @@ namespace quorvel::CommonTestingFunctions {
 
 namespace {
 
+constexpr Module kModule{u"CommonTestingFunctions"};
+
 struct MonthKey {
     TextView key;
     TextView month;
@@ -49,7 +51,7 @@ Text withoutDay(TextView pattern) {
 }  // namespace
 
 bool isInitial(TextView text) {
-    return moduleProcedure(u"CommonTestingFunctions.isInitial", {{u"text", text}}, [&] {
+    return procedure(kModule, u"isInitial", {{u"text", text}}, [&] {
         if (text.empty()) {
             return false;
         }
@@ -64,18 +66,17 @@ bool isInitial(TextView text) {
 }
 
 bool isRomanNumeral(TextView roman) {
-    return moduleProcedure(u"CommonTestingFunctions.isRomanNumeral", {{u"roman", roman}},
-                           [&] { return !roman.empty() && roman.find_first_not_of(kRomanDigits) == TextView::npos; });
+    return procedure(kModule, u"isRomanNumeral", {{u"roman", roman}},
+                     [&] { return !roman.empty() && roman.find_first_not_of(kRomanDigits) == TextView::npos; });
 }
 
 bool isCapitalized(TextView text) {
-    return moduleProcedure(u"CommonTestingFunctions.isCapitalized", {{u"text", text}},
-                           [&] { return !text.empty() && text[0] < u'a'; });
+    return procedure(kModule, u"isCapitalized", {{u"text", text}}, [&] { return !text.empty() && text[0] < u'a'; });
 }
 
 Text FormatDate(TextView text, Text& formatString) {
     Text result(text);
-    moduleProcedure(u"CommonTestingFunctions.FormatDate", {{u"Text", text}, {u"formatString", formatString}}, [&] {
+    procedure(kModule, u"FormatDate", {{u"Text", text}, {u"formatString", formatString}}, [&] {
         if (text.empty()) {
             return;
         }
@@ -96,7 +97,7 @@ Text FormatDate(TextView text, Text& formatString) {
 }
 
 Text convertToLongMonthNameIfNecessary(TextView word) {
-    return moduleProcedure(u"CommonTestingFunctions.convertToLongMonthNameIfNecessary", {{u"word", word}}, [&] {
+    return procedure(kModule, u"convertToLongMonthNameIfNecessary", {{u"word", word}}, [&] {
         if (word.size() <= kLongestMonthKey) {
             const Text key = toLower(word);
             for (const MonthKey& month : kMonthKeys) {
@@ -110,16 +111,15 @@ Text convertToLongMonthNameIfNecessary(TextView word) {
 }
 
 void FormatForMLA(Text& formatted, TextView formatString) {
-    moduleProcedure(u"CommonTestingFunctions.FormatForMLA",
-                    {{u"formatted", formatted}, {u"formatString", formatString}}, [&] {
-                        const Text pattern = toLower(formatString);
-                        if (contains(pattern, u"mmmm") || !contains(pattern, u"mmm")) {
-                            return;
-                        }
-                        for (const ShortMonth& month : kShortMonths) {
-                            formatted = replaceAll(formatted, month.platform, month.mla);
-                        }
-                    });
+    procedure(kModule, u"FormatForMLA", {{u"formatted", formatted}, {u"formatString", formatString}}, [&] {
+        const Text pattern = toLower(formatString);
+        if (contains(pattern, u"mmmm") || !contains(pattern, u"mmm")) {
+            return;
+        }
+        for (const ShortMonth& month : kShortMonths) {
+            formatted = replaceAll(formatted, month.platform, month.mla);
+        }
+    });
 }
 
 }  // namespace quorvel::CommonTestingFunctions

@@ -39,27 +39,26 @@ Text summary(const std::shared_ptr<const std::vector<Text>>& list) {
 }  // namespace
 
 void outputTemplate::Initialize(const OutputSinkRef& formattedStr) {
-    procedure(*this, u"OutputTemplate.Initialize", {{u"formattedStr", formattedStr}},
+    procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}},
               [&] { mFormattedStr = object(formattedStr).Clone(); });
 }
 
 void outputTemplate::Reset(std::int16_t maxReferenceItems, const std::vector<std::int16_t>& separatorFonts) {
-    procedure(*this, u"OutputTemplate.Reset",
-              {{u"maxReferenceItems", maxReferenceItems}, {u"separatorFonts", separatorFonts}}, [&] {
-                  mReferenceItemsInitialized = false;
-                  mIndexToFormatted.clear();
-                  mReferenceItems.assign(at(maxReferenceItems) + 1, {});
-                  mMaxReferenceItems = maxReferenceItems;
-                  mSeparatorFonts.assign(at(maxReferenceItems) + 2, static_cast<std::int16_t>(OutputSink::kPlain));
-                  for (std::size_t i = 0; i < separatorFonts.size(); ++i) {
-                      mSeparatorFonts.at(i) = separatorFonts[i];
-                  }
-              });
+    procedure(*this, u"Reset", {{u"maxReferenceItems", maxReferenceItems}, {u"separatorFonts", separatorFonts}}, [&] {
+        mReferenceItemsInitialized = false;
+        mIndexToFormatted.clear();
+        mReferenceItems.assign(at(maxReferenceItems) + 1, {});
+        mMaxReferenceItems = maxReferenceItems;
+        mSeparatorFonts.assign(at(maxReferenceItems) + 2, static_cast<std::int16_t>(OutputSink::kPlain));
+        for (std::size_t i = 0; i < separatorFonts.size(); ++i) {
+            mSeparatorFonts.at(i) = separatorFonts[i];
+        }
+    });
 }
 
 void outputTemplate::Add(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators) {
     procedure(
-        *this, u"OutputTemplate.Add",
+        *this, u"Add",
         {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
         [&] {
             mReferenceItems.at(at(Index)) = ReferenceItem();
@@ -98,7 +97,7 @@ void outputTemplate::Add(std::int16_t Index, bool isFormatted, bool isChecking, 
 }
 
 bool outputTemplate::hasFootnoteSeparators(std::int16_t Index, bool isChecking, std::int16_t uboundSeparators) const {
-    return procedure(*this, u"OutputTemplate.hasFootnoteSeparators",
+    return procedure(*this, u"hasFootnoteSeparators",
                      {{u"Index", Index}, {u"isChecking", isChecking}, {u"uboundSeparators", uboundSeparators}}, [&] {
                          const int uboundOneList = mMaxReferenceItems + 1 - Index;
                          if (uboundSeparators - 1 == 2 * uboundOneList) {
@@ -110,7 +109,7 @@ bool outputTemplate::hasFootnoteSeparators(std::int16_t Index, bool isChecking, 
 }
 
 void outputTemplate::ResetReferenceItems() {
-    procedure(*this, u"OutputTemplate.ResetReferenceItems", kNoParameters, [&] {
+    procedure(*this, u"ResetReferenceItems", kNoParameters, [&] {
         mItems.resize(mReferenceItems.size());
         for (Text& item : mItems) {
             item.clear();
@@ -138,7 +137,7 @@ void outputTemplate::ResetReferenceItems() {
 
 void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implementor& implementor,
                                        bool shortenedVersion, bool isFootnote, const std::vector<bool>& checkingArray) {
-    procedure(*this, u"OutputTemplate.ToFormattedString",
+    procedure(*this, u"ToFormattedString",
               {{u"formattedStr", formattedStr},
                {u"implementor", implementor.hostObject()},
                {u"shortenedVersion", shortenedVersion},
@@ -173,7 +172,7 @@ void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implem
 }
 
 Text outputTemplate::toString(Implementor& implementor, bool shortenedVersion, bool isFootnote, bool isRTF) {
-    return procedure(*this, u"OutputTemplate.toString",
+    return procedure(*this, u"toString",
                      {{u"implementor", implementor.hostObject()},
                       {u"shortenedVersion", shortenedVersion},
                       {u"isFootnote", isFootnote},
@@ -188,7 +187,7 @@ Text outputTemplate::toString(Implementor& implementor, bool shortenedVersion, b
 }
 
 bool outputTemplate::isBlank(std::int16_t Index) const {
-    return procedure(*this, u"OutputTemplate.isBlank", {{u"Index", Index}}, [&] {
+    return procedure(*this, u"isBlank", {{u"Index", Index}}, [&] {
         if (mReferenceItems.at(at(Index)).isFormatted) {
             const OutputSinkRef fragment = mFormattedItems.at(at(Index));
             return object(fragment).IsEmpty();
@@ -201,7 +200,7 @@ outputTemplate::Separators outputTemplate::getSeparators(std::int16_t Index, con
                                                          bool isFootnote) const {
     static const auto kNone = std::make_shared<const std::vector<Text>>();
     Separators result = kNone;
-    procedure(*this, u"OutputTemplate.getSeparators",
+    procedure(*this, u"getSeparators",
               {{u"Index", Index}, {u"checkingArray", checkingArray}, {u"isFootnote", isFootnote}}, [&] {
                   const ReferenceItem& item = mReferenceItems.at(at(Index));
                   const bool isChecked = at(Index) < checkingArray.size() && checkingArray[at(Index)];
@@ -218,7 +217,7 @@ outputTemplate::Separators outputTemplate::getSeparators(std::int16_t Index, con
 Text outputTemplate::getSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j,
                                   const OutputSinkRef& formattedStr, bool& removeQuoteFromPreviousPhrase,
                                   Text& phrase) const {
-    return procedure(*this, u"OutputTemplate.getSeparator",
+    return procedure(*this, u"getSeparator",
                      {{u"list", list},
                       {u"i", i},
                       {u"j", j},
@@ -240,7 +239,7 @@ Text outputTemplate::getSeparator(const std::vector<Text>& list, std::int16_t i,
 void outputTemplate::addSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j,
                                   const OutputSinkRef& formattedStr, std::int16_t separatorFont, Text& phrase) const {
     procedure(
-        *this, u"OutputTemplate.addSeparator",
+        *this, u"addSeparator",
         {{u"list", list}, {u"i", i}, {u"j", j}, {u"formattedStr", formattedStr}, {u"separatorFont", separatorFont}},
         [&] {
             OutputSink& sink = object(formattedStr);
@@ -263,7 +262,7 @@ void outputTemplate::addSeparator(const std::vector<Text>& list, std::int16_t i,
 
 void outputTemplate::buildReferenceStringFirst(std::int16_t Index, const OutputSinkRef& formattedStr, TextView prefix,
                                                Text& phrase) const {
-    procedure(*this, u"OutputTemplate.buildReferenceStringFirst",
+    procedure(*this, u"buildReferenceStringFirst",
               {{u"Index", Index}, {u"formattedStr", formattedStr}, {u"prefix", prefix}}, [&] {
                   object(formattedStr).Add(prefix);
                   buildReferenceString(Index, formattedStr, phrase);
@@ -271,7 +270,7 @@ void outputTemplate::buildReferenceStringFirst(std::int16_t Index, const OutputS
 }
 
 void outputTemplate::buildReferenceString(std::int16_t Index, const OutputSinkRef& formattedStr, Text& phrase) const {
-    procedure(*this, u"OutputTemplate.buildReferenceString", {{u"Index", Index}, {u"formattedStr", formattedStr}}, [&] {
+    procedure(*this, u"buildReferenceString", {{u"Index", Index}, {u"formattedStr", formattedStr}}, [&] {
         if (mReferenceItems.at(at(Index)).isFormatted) {
             const OutputSinkRef fragment = mFormattedItems.at(at(Index));
             object(formattedStr).addFormattedString(object(fragment));

@@ -55,6 +55,7 @@ public:
 
     bool isBlank(std::int16_t Index) const;
 
+    TextView className() const override { return u"OutputTemplate"; }
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:

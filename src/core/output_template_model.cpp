@@ -33,8 +33,8 @@ bool isOneOf(TextView alternatives, TextView text) {
 
 void OutputTemplateModel::Initialize(const OutputSinkRef& formattedStr,
                                      const KeyToInternalIndexRef& keyToInternalIndex) {
-    procedure(*this, u"OutputTemplateModel.Initialize",
-              {{u"formattedStr", formattedStr}, {u"keyToInternalIndex", keyToInternalIndex}}, [&] {
+    procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}, {u"keyToInternalIndex", keyToInternalIndex}},
+              [&] {
                   mKeyToInternalIndex = keyToInternalIndex;
                   mOutputTemplate = std::make_shared<outputTemplate>();
                   held(mOutputTemplate)->Initialize(formattedStr);
@@ -42,7 +42,7 @@ void OutputTemplateModel::Initialize(const OutputSinkRef& formattedStr,
 }
 
 void OutputTemplateModel::Reset(std::int16_t maxElementIndex, TextView blankStrings, std::int16_t pageKey) {
-    procedure(*this, u"OutputTemplateModel.Reset",
+    procedure(*this, u"Reset",
               {{u"maxElementIndex", maxElementIndex}, {u"blankStrings", blankStrings}, {u"pageKey", pageKey}}, [&] {
                   mBlankStrings = blankStrings.empty() ? std::vector<Text>() : split(blankStrings, kAlternatives);
                   mCheckingValues.assign(kMostSlots, {});
@@ -55,7 +55,7 @@ void OutputTemplateModel::Reset(std::int16_t maxElementIndex, TextView blankStri
 void OutputTemplateModel::Add(std::int16_t Index, bool isFormatted, TextView checkingKey,
                               const std::vector<Text>& separators) {
     procedure(
-        *this, u"OutputTemplateModel.Add",
+        *this, u"Add",
         {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"checkingKey", checkingKey}, {u"separators", separators}},
         [&] {
             const bool isChecking = !checkingKey.empty();
@@ -75,7 +75,7 @@ void OutputTemplateModel::Add(std::int16_t Index, bool isFormatted, TextView che
 
 void OutputTemplateModel::ToFormattedString(const OutputSinkRef& formattedStr, const ImplementorRef& implementor,
                                             const ReferenceModelRef& model, bool shortenedVersion, bool isFootnote) {
-    procedure(*this, u"OutputTemplateModel.ToFormattedString",
+    procedure(*this, u"ToFormattedString",
               {{u"formattedStr", formattedStr},
                {u"implementor", implementor ? implementor->hostObject() : nullptr},
                {u"model", model},
@@ -121,17 +121,16 @@ std::vector<bool> OutputTemplateModel::checkingArray(Implementor& implementor, c
 }
 
 Text OutputTemplateModel::getNotes(const ReferenceModelRef& model, bool isFootnote) const {
-    return procedure(*this, u"OutputTemplateModel.getNotes", {{u"model", model}, {u"isFootnote", isFootnote}},
-                     [&]() -> Text {
-                         if (!isFootnote || object(model).value(kHasNoteField) != kTrue) {
-                             return {};
-                         }
-                         Text notes = model->value(kNoteField);
-                         if (!notes.empty() && !endsWith(notes, kFullStop)) {
-                             notes += kFullStop;
-                         }
-                         return notes;
-                     });
+    return procedure(*this, u"getNotes", {{u"model", model}, {u"isFootnote", isFootnote}}, [&]() -> Text {
+        if (!isFootnote || object(model).value(kHasNoteField) != kTrue) {
+            return {};
+        }
+        Text notes = model->value(kNoteField);
+        if (!notes.empty() && !endsWith(notes, kFullStop)) {
+            notes += kFullStop;
+        }
+        return notes;
+    });
 }
 
 bool OutputTemplateModel::isBlankString(TextView output) const {

@@ -51,6 +51,7 @@ public:
     void ToFormattedString(const OutputSinkRef& formattedStr, const ImplementorRef& implementor,
                            const ReferenceModelRef& model, bool shortenedVersion, bool isFootnote);
 
+    TextView className() const override { return u"OutputTemplateModel"; }
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:

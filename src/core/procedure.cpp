@@ -6,8 +6,10 @@
 
 namespace quorvel {
 
-void reportCurrentException(VBWPROTECTOR& protector, TextView procedure, const Instrumented* failed) noexcept {
-    const auto report = [&](const RuntimeError& error) { protector.reportError(error, procedure, failed); };
+void reportCurrentException(const Instrumented& failed, TextView procedure) noexcept {
+    const auto report = [&](const RuntimeError& error) {
+        VBWPROTECTOR::ofThisApartment().reportError(error, failed, procedure);
+    };
     try {
         try {
             throw;

@@ -12,16 +12,16 @@ namespace quorvel {
 /// Parameters of a procedure that has none.
 inline constexpr std::initializer_list<Parameter> kNoParameters = {};
 
-/// Reports the exception in flight as an error of the procedure. Only inside a catch block.
-void reportCurrentException(VBWPROTECTOR& protector, TextView procedure, const Instrumented* failed) noexcept;
+/// Reports the exception in flight as an error of a procedure of `failed`. Only inside a catch block.
+void reportCurrentException(const Instrumented& failed, TextView procedure) noexcept;
 
 namespace detail {
 
 class ProcedureReport {
 public:
-    ProcedureReport(VBWPROTECTOR& protector, TextView name, std::initializer_list<Parameter> parameters)
-        : mProtector(protector) {
-        mProtector.vbwProcIn(name, parameters);
+    ProcedureReport(const Instrumented& self, TextView name, std::initializer_list<Parameter> parameters)
+        : mProtector(VBWPROTECTOR::ofThisApartment()) {
+        mProtector.vbwProcIn(self, name, parameters);
     }
     ProcedureReport(const ProcedureReport&) = delete;
     ProcedureReport& operator=(const ProcedureReport&) = delete;
@@ -31,37 +31,23 @@ private:
     VBWPROTECTOR& mProtector;
 };
 
-template <class Body>
-std::invoke_result_t<Body&> procedure(const Instrumented* self, const Name& name,
-                                      std::initializer_list<Parameter> parameters, Body&& body) noexcept {
-    using Result = std::invoke_result_t<Body&>;
-    VBWPROTECTOR& protector = VBWPROTECTOR::ofThisApartment();
-    const ProcedureReport report(protector, name, parameters);
-    try {
-        return body();
-    } catch (...) {
-        reportCurrentException(protector, name, self);
-    }
-    return Result();
-}
-
 }  // namespace detail
 
-/// Runs the body of a member of `self`. `name` is the class name, a full stop and the procedure's own
-/// name, with "[Get]" or "[Let]" behind a property's.
+/// Runs the body of a procedure of `self`, an object or a module. `name` is the procedure's own name,
+/// with "[Get]" or "[Let]" behind a property's; reports put the class name of `self` in front of it.
 /// @return what the body returns; after an error the empty value of that type, while variables that
 /// the body filled before keep what they hold.
 template <class Body>
 std::invoke_result_t<Body&> procedure(const Instrumented& self, const Name& name,
                                       std::initializer_list<Parameter> parameters, Body&& body) noexcept {
-    return detail::procedure(&self, name, parameters, body);
-}
-
-/// The same for a procedure of a module, whose name stands in the place of the class name.
-template <class Body>
-std::invoke_result_t<Body&> moduleProcedure(const Name& name, std::initializer_list<Parameter> parameters,
-                                            Body&& body) noexcept {
-    return detail::procedure(nullptr, name, parameters, body);
+    using Result = std::invoke_result_t<Body&>;
+    const detail::ProcedureReport report(self, name, parameters);
+    try {
+        return body();
+    } catch (...) {
+        reportCurrentException(self, name);
+    }
+    return Result();
 }
 
 }  // namespace quorvel

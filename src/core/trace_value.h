@@ -55,7 +55,7 @@ public:
     consteval Name(const char16_t (&literal)[N]) : mText(literal, N - 1) {}
     explicit Name(TextView text) : mText(text) {}
 
-    operator TextView() const { return mText; }
+    constexpr operator TextView() const { return mText; }
 
 private:
     TextView mText;

@@ -26,6 +26,11 @@ StartUp& startUpState() {
     return state;
 }
 
+/// The procedure's whole name: "QuorvelTemplate.OutputTemplateYear.Reset".
+Text nameOf(const Instrumented& self, TextView procedure) {
+    return concatenate({kLibraryPrefix, self.className(), u".", procedure});
+}
+
 Text decimal(std::int32_t number) {
     char digits[12];
     const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
@@ -121,13 +126,12 @@ Text VBWPROTECTOR::parameterList(std::initializer_list<Parameter> parameters) {
     return list;
 }
 
-void VBWPROTECTOR::reportEntry(TextView procedure, std::initializer_list<Parameter> parameters) noexcept {
+void VBWPROTECTOR::reportEntry(const Instrumented& self, TextView procedure,
+                               std::initializer_list<Parameter> parameters) noexcept {
     try {
         const Text list = parameterList(parameters);
         if (hasService()) {
-            forward([&](ErrorReportService& service) {
-                service.vbwProcIn(concatenate({kLibraryPrefix, procedure}), list);
-            });
+            forward([&](ErrorReportService& service) { service.vbwProcIn(nameOf(self, procedure), list); });
         }
     } catch (...) {  // NOLINT(bugprone-empty-catch): no memory is left for the list
     }
@@ -149,7 +153,7 @@ void VBWPROTECTOR::vbwReportToFile(TextView text) noexcept {
     }
 }
 
-void VBWPROTECTOR::reportError(const RuntimeError& error, TextView procedure, const Instrumented* failed) noexcept {
+void VBWPROTECTOR::reportError(const RuntimeError& error, const Instrumented& failed, TextView procedure) noexcept {
     // A step that fails, or that loses the service, does not keep the next one from being tried.
     const auto step = [this](auto report) {
         if (hasService()) {
@@ -160,14 +164,12 @@ void VBWPROTECTOR::reportError(const RuntimeError& error, TextView procedure, co
     step([](ErrorReportService& service) { service.vbwOpenDumpFile(); });
     step([&](ErrorReportService& service) {
         service.vbwReportToFile(concatenate({u"Run-time error ", decimal(error.number()), u": ", error.description(),
-                                             u" in ", kLibraryPrefix, procedure, u"\r\n"}));
+                                             u" in ", nameOf(failed, procedure), u"\r\n"}));
     });
     vbwReportToFile(kBanner);
-    if (failed != nullptr) {
-        try {
-            failed->dumpVariables(*this);
-        } catch (...) {  // NOLINT(bugprone-empty-catch): the dump ends where memory does
-        }
+    try {
+        failed.dumpVariables(*this);
+    } catch (...) {  // NOLINT(bugprone-empty-catch): the dump ends where memory does
     }
     if (mSwitches.vbwTraceVariables) {
         dumpOwnVariables();

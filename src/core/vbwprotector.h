@@ -44,9 +44,9 @@ public:
         }
     }
 
-    void vbwProcIn(TextView procedure, std::initializer_list<Parameter> parameters) {
+    void vbwProcIn(const Instrumented& self, TextView procedure, std::initializer_list<Parameter> parameters) {
         if (mSwitches.vbwTraceProc && hasService()) {
-            reportEntry(procedure, parameters);
+            reportEntry(self, procedure, parameters);
         }
     }
     void vbwProcOut() {
@@ -56,9 +56,8 @@ public:
     }
     void vbwReportVariable(TextView name, const TraceValue& value) noexcept;
     void vbwReportToFile(TextView text) noexcept;
-    /// The trap: reports an error of the procedure with the variables of the object that failed
-    /// (null: a module procedure, which has none).
-    void reportError(const RuntimeError& error, TextView procedure, const Instrumented* failed) noexcept;
+    /// The trap: reports an error of the procedure with the variables of the object that failed.
+    void reportError(const RuntimeError& error, const Instrumented& failed, TextView procedure) noexcept;
     /// The last object of the thread is going away: tells the service and lets go of it.
     void vbwExitThread() noexcept;
     /// Lets go of the service without a word.
@@ -76,7 +75,8 @@ private:
         return !mIsReporting && (mErrorParams != nullptr || findService());
     }
     bool findService() noexcept;
-    void reportEntry(TextView procedure, std::initializer_list<Parameter> parameters) noexcept;
+    void reportEntry(const Instrumented& self, TextView procedure,
+                     std::initializer_list<Parameter> parameters) noexcept;
     void reportExit() noexcept;
     Text parameterList(std::initializer_list<Parameter> parameters);
     void dumpOwnVariables() noexcept;

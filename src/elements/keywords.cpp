@@ -78,25 +78,25 @@ bool isPunctuation(char16_t unit) {
 }  // namespace
 
 void OutputTemplateKeywords::Initialize(const OutputSinkRef& formattedStr) {
-    procedure(*this, u"OutputTemplateKeywords.Initialize", {{u"formattedStr", formattedStr}}, [&] {
+    procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
         mNoiseWords.insert(std::begin(kNoiseWords), std::end(kNoiseWords));
         Reset();
     });
 }
 
 bool OutputTemplateKeywords::hasWords() const {
-    return procedure(*this, u"OutputTemplateKeywords.hasWords", kNoParameters, [&] { return !mWords.empty(); });
+    return procedure(*this, u"hasWords", kNoParameters, [&] { return !mWords.empty(); });
 }
 
 void OutputTemplateKeywords::Reset() {
-    procedure(*this, u"OutputTemplateKeywords.Reset", kNoParameters, [&] {
+    procedure(*this, u"Reset", kNoParameters, [&] {
         mWordSet.clear();
         mWords.clear();
     });
 }
 
 void OutputTemplateKeywords::Parse(TextView str, TextView previousStr) {
-    procedure(*this, u"OutputTemplateKeywords.Parse", {{u"str", str}, {u"previousStr", previousStr}}, [&] {
+    procedure(*this, u"Parse", {{u"str", str}, {u"previousStr", previousStr}}, [&] {
         Reset();
         if (str.empty()) {
             return;
@@ -129,41 +129,39 @@ void OutputTemplateKeywords::Parse(TextView str, TextView previousStr) {
 }
 
 bool OutputTemplateKeywords::Add(TextView word, bool useMinLengthOfKeyword) {
-    return procedure(*this, u"OutputTemplateKeywords.Add",
-                     {{u"word", word}, {u"useMinLengthOfKeyword", useMinLengthOfKeyword}}, [&] {
-                         return (!useMinLengthOfKeyword || word.size() >= kShortestInFreeText) && validKeyword(word) &&
-                                !exists(word) && mWordSet.emplace(word).second;
-                     });
+    return procedure(*this, u"Add", {{u"word", word}, {u"useMinLengthOfKeyword", useMinLengthOfKeyword}}, [&] {
+        return (!useMinLengthOfKeyword || word.size() >= kShortestInFreeText) && validKeyword(word) && !exists(word) &&
+               mWordSet.emplace(word).second;
+    });
 }
 
 bool OutputTemplateKeywords::validKeyword(TextView word) const {
-    return procedure(*this, u"OutputTemplateKeywords.validKeyword", {{u"word", word}}, [&] {
+    return procedure(*this, u"validKeyword", {{u"word", word}}, [&] {
         return word == kMyQuorvelDatabase || (word.size() >= kShortestKeyword && startsWithLowercaseLetter(word) &&
                                               word.find_first_of(kSigns) == TextView::npos);
     });
 }
 
 bool OutputTemplateKeywords::exists(TextView word) const {
-    return procedure(*this, u"OutputTemplateKeywords.exists", {{u"word", word}},
+    return procedure(*this, u"exists", {{u"word", word}},
                      [&] { return mNoiseWords.contains(word) || word.size() < kShortestKeyword; });
 }
 
 void OutputTemplateKeywords::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
                                                bool shortenedVersion) const {
-    procedure(*this, u"OutputTemplateKeywords.ToFormattedString",
+    procedure(*this, u"ToFormattedString",
               {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
               [&] { object(formattedStr).Add(toString(isFootnote, shortenedVersion)); });
 }
 
 Text OutputTemplateKeywords::toString(bool isFootnote, bool shortenedVersion) const {
-    return procedure(*this, u"OutputTemplateKeywords.toString",
-                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
+    return procedure(*this, u"toString", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
                      [&] { return join(mWords, u","); });
 }
 
 /// Puts the two words of the host's own database name together.
 void OutputTemplateKeywords::keepMyQuorvelDatabase(std::vector<Text>& phrases) const {
-    procedure(*this, u"OutputTemplateKeywords.keepMyQuorvelDatabase", {{u"phrases", phrases}}, [&] {
+    procedure(*this, u"keepMyQuorvelDatabase", {{u"phrases", phrases}}, [&] {
         std::size_t kept = 0;
         for (std::size_t i = 0; i < phrases.size(); ++i, ++kept) {
             if (phrases[i] == kMy && i + 1 < phrases.size() && phrases[i + 1] == kQuorvelDatabase) {
@@ -178,17 +176,16 @@ void OutputTemplateKeywords::keepMyQuorvelDatabase(std::vector<Text>& phrases) c
 }
 
 void OutputTemplateKeywords::stripOffPunctuation(Text& word, bool keepQuotes) const {
-    procedure(*this, u"OutputTemplateKeywords.stripOffPunctuation", {{u"word", word}, {u"keepQuotes", keepQuotes}},
-              [&] {
-                  while (!word.empty() && isPunctuation(word.back()) &&
-                         !(keepQuotes && kClosingQuotes.find(word.back()) != TextView::npos)) {
-                      word.pop_back();
-                  }
-              });
+    procedure(*this, u"stripOffPunctuation", {{u"word", word}, {u"keepQuotes", keepQuotes}}, [&] {
+        while (!word.empty() && isPunctuation(word.back()) &&
+               !(keepQuotes && kClosingQuotes.find(word.back()) != TextView::npos)) {
+            word.pop_back();
+        }
+    });
 }
 
 bool OutputTemplateKeywords::startsWithLowercaseLetter(TextView word) const {
-    return procedure(*this, u"OutputTemplateKeywords.startsWithLowercaseLetter", {{u"word", word}},
+    return procedure(*this, u"startsWithLowercaseLetter", {{u"word", word}},
                      [&] { return !word.empty() && word[0] >= u'a' && word[0] <= u'z'; });
 }
 

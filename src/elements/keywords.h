@@ -61,6 +61,7 @@ public:
     /// The keywords with commas between them and no blanks.
     Text toString(bool isFootnote, bool shortenedVersion) const;
 
+    TextView className() const override { return u"OutputTemplateKeywords"; }
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:

@@ -108,7 +108,7 @@ void normalise(Text& text) {
 }  // namespace
 
 void OutputTemplatePage::Initialize(const OutputSinkRef& formattedStr) {
-    procedure(*this, u"OutputTemplatePage.Initialize", {{u"formattedStr", formattedStr}}, [&] {
+    procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
         auto year = std::make_shared<OutputTemplateYear>();
         year->Initialize(nullptr);
         mYearTemplate = std::move(year);
@@ -119,7 +119,7 @@ void OutputTemplatePage::Reset(bool supportsDOI, bool supportsNotes, bool elideZ
                                bool usePagePrefixInCitations, bool shortenedPage, TextView noPageStr,
                                TextView chapterPrefix, TextView chapterPluralPrefix, TextView paraPrefix,
                                TextView paraPluralPrefix, bool addDotToAdvancedPrefix, bool useEnDashForPageRange) {
-    procedure(*this, u"OutputTemplatePage.Reset",
+    procedure(*this, u"Reset",
               {{u"supportsDOI", supportsDOI},
                {u"supportsNotes", supportsNotes},
                {u"elideZero", elideZero},
@@ -163,7 +163,7 @@ void OutputTemplatePage::Reset(const Options& options) {
 }
 
 void OutputTemplatePage::addAdvancedPrefix(std::int32_t pageType, TextView prefix, bool addDotToAdvancedPrefix) {
-    procedure(*this, u"OutputTemplatePage.addAdvancedPrefix",
+    procedure(*this, u"addAdvancedPrefix",
               {{u"pageType", pageType}, {u"prefix", prefix}, {u"addDotToAdvancedPrefix", addDotToAdvancedPrefix}}, [&] {
                   Text word(prefix);
                   const bool hasDot = removeSuffix(word, u".");
@@ -177,7 +177,7 @@ void OutputTemplatePage::addAdvancedPrefix(std::int32_t pageType, TextView prefi
 }
 
 std::shared_ptr<OutputTemplatePage> OutputTemplatePage::Clone() const {
-    return procedure(*this, u"OutputTemplatePage.Clone", kNoParameters, [&] {
+    return procedure(*this, u"Clone", kNoParameters, [&] {
         auto clone = std::make_shared<OutputTemplatePage>();
         CloneImpl(*clone);
         return clone;
@@ -185,7 +185,7 @@ std::shared_ptr<OutputTemplatePage> OutputTemplatePage::Clone() const {
 }
 
 void OutputTemplatePage::CloneImpl(OutputTemplatePage& clone) const {
-    procedure(*this, u"OutputTemplatePage.CloneImpl", kNoParameters, [&] {
+    procedure(*this, u"CloneImpl", kNoParameters, [&] {
         clone.Initialize(nullptr);
         // Without mElideZero and mInCitation, deliberately.
         clone.pageType = pageType;
@@ -203,11 +203,11 @@ void OutputTemplatePage::CloneImpl(OutputTemplatePage& clone) const {
 }
 
 Text OutputTemplatePage::Page() const {
-    return procedure(*this, u"OutputTemplatePage.Page[Get]", kNoParameters, [&] { return joinPages(false); });
+    return procedure(*this, u"Page[Get]", kNoParameters, [&] { return joinPages(false); });
 }
 
 void OutputTemplatePage::Page(TextView theVal) {
-    procedure(*this, u"OutputTemplatePage.Page[Let]", {{u"theVal", theVal}}, [&] {
+    procedure(*this, u"Page[Let]", {{u"theVal", theVal}}, [&] {
         Text text = cleanUp(theVal);
         if (pageType != kEntry && !pagewords::isDoi(text)) {
             normalise(text);
@@ -217,15 +217,15 @@ void OutputTemplatePage::Page(TextView theVal) {
 }
 
 bool OutputTemplatePage::supportsDOI() const {
-    return procedure(*this, u"OutputTemplatePage.supportsDOI[Get]", kNoParameters, [&] { return mSupportsDOI; });
+    return procedure(*this, u"supportsDOI[Get]", kNoParameters, [&] { return mSupportsDOI; });
 }
 
 bool OutputTemplatePage::supportsNotes() const {
-    return procedure(*this, u"OutputTemplatePage.supportsNotes[Get]", kNoParameters, [&] { return mSupportsNotes; });
+    return procedure(*this, u"supportsNotes[Get]", kNoParameters, [&] { return mSupportsNotes; });
 }
 
 void OutputTemplatePage::Parse(Text& text, TextView previousStr) {
-    procedure(*this, u"OutputTemplatePage.Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
+    procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
         text = cleanUp(text);
         Note = kNoNote;
         if (pagewords::isDoi(text)) {
@@ -245,7 +245,7 @@ void OutputTemplatePage::Parse(Text& text, TextView previousStr) {
 
 /// Takes the pages of a text that has neither word nor notes.
 void OutputTemplatePage::parsePage(TextView text) {
-    procedure(*this, u"OutputTemplatePage.parsePage", {{u"text", text}}, [&] {
+    procedure(*this, u"parsePage", {{u"text", text}}, [&] {
         if (const std::optional<pagewords::Range> range = pagewords::range(text)) {
             Text last = lastPageInFull(range->first, range->last);
             if (last == range->first) {
@@ -259,7 +259,7 @@ void OutputTemplatePage::parsePage(TextView text) {
 }
 
 bool OutputTemplatePage::parseFromEnd(Text& text) {
-    return procedure(*this, u"OutputTemplatePage.parseFromEnd", {{u"text", text}}, [&] {
+    return procedure(*this, u"parseFromEnd", {{u"text", text}}, [&] {
         Text cleaned = cleanUp(text);
         normalise(cleaned);
         const TextView whole = cleaned;
@@ -291,7 +291,7 @@ bool OutputTemplatePage::parseFromEnd(Text& text) {
 }
 
 void OutputTemplatePage::parseAndRemoveNotes(Text& text) {
-    procedure(*this, u"OutputTemplatePage.parseAndRemoveNotes", {{u"text", text}}, [&] {
+    procedure(*this, u"parseAndRemoveNotes", {{u"text", text}}, [&] {
         if (const std::optional<pagewords::PageAndNotes> parts = pagewords::pageAndNotes(text)) {
             Note = parts->notes;
             text = Text(parts->page);
@@ -300,7 +300,7 @@ void OutputTemplatePage::parseAndRemoveNotes(Text& text) {
 }
 
 void OutputTemplatePage::parseAndRemovePageType(Text& text) {
-    procedure(*this, u"OutputTemplatePage.parseAndRemovePageType", {{u"text", text}}, [&] {
+    procedure(*this, u"parseAndRemovePageType", {{u"text", text}}, [&] {
         pageType = kPage;
         if (isNoPage(text)) {
             pageType = kNoPage;
@@ -325,34 +325,32 @@ void OutputTemplatePage::parseAndRemovePageType(Text& text) {
 
 void OutputTemplatePage::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
                                            bool shortenedVersion) const {
-    procedure(*this, u"OutputTemplatePage.ToFormattedString",
+    procedure(*this, u"ToFormattedString",
               {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
               [&] { object(formattedStr).Add(toString(isFootnote, shortenedVersion), OutputSink::kPlain); });
 }
 
 void OutputTemplatePage::inCitation(bool theVal) {
-    procedure(*this, u"OutputTemplatePage.inCitation[Let]", {{u"theVal", theVal}}, [&] { mInCitation = theVal; });
+    procedure(*this, u"inCitation[Let]", {{u"theVal", theVal}}, [&] { mInCitation = theVal; });
 }
 
 bool OutputTemplatePage::isNumericPage() const {
-    return procedure(*this, u"OutputTemplatePage.isNumericPage[Get]", kNoParameters,
-                     [&] { return pagewords::isNumeric(mPages.at(0)); });
+    return procedure(*this, u"isNumericPage[Get]", kNoParameters, [&] { return pagewords::isNumeric(mPages.at(0)); });
 }
 
 Text OutputTemplatePage::toString(bool isFootnote, bool shortenedVersion) const {
-    return procedure(*this, u"OutputTemplatePage.toString",
-                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
-                         if (pageType == kNoPage) {
-                             return mNoPageStr;
-                         }
-                         const Text pages = joinPages(true);
-                         const bool hasPrefix = !pages.empty() && !pagewords::isDoi(pages);
-                         return concatenate({hasPrefix ? prefix() : Text(), pages, noteText()});
-                     });
+    return procedure(*this, u"toString", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
+        if (pageType == kNoPage) {
+            return mNoPageStr;
+        }
+        const Text pages = joinPages(true);
+        const bool hasPrefix = !pages.empty() && !pagewords::isDoi(pages);
+        return concatenate({hasPrefix ? prefix() : Text(), pages, noteText()});
+    });
 }
 
 bool OutputTemplatePage::isPlural() const {
-    return procedure(*this, u"OutputTemplatePage.isPlural", kNoParameters, [&] {
+    return procedure(*this, u"isPlural", kNoParameters, [&] {
         // A copy, since the test of a number reports to the host, which may set another page.
         const Text first = mPages.at(0);
         return !mPages.at(1).empty() || !pagewords::list(first).empty() ||
@@ -361,7 +359,7 @@ bool OutputTemplatePage::isPlural() const {
 }
 
 Text OutputTemplatePage::joinPages(bool shortenPage) const {
-    return procedure(*this, u"OutputTemplatePage.joinPages", {{u"shortenPage", shortenPage}}, [&] {
+    return procedure(*this, u"joinPages", {{u"shortenPage", shortenPage}}, [&] {
         // Copies, since the test of a number reports to the host, which may set another page.
         const Text first = mPages.at(0);
         const Text last = mPages.at(1);
@@ -401,11 +399,11 @@ Text OutputTemplatePage::joinRange(TextView firstPage, TextView lastPage, bool s
 }
 
 bool OutputTemplatePage::isPage(TextView text) {
-    return procedure(*this, u"OutputTemplatePage.isPage", {{u"text", text}}, [&] { return isPageImpl(text); });
+    return procedure(*this, u"isPage", {{u"text", text}}, [&] { return isPageImpl(text); });
 }
 
 bool OutputTemplatePage::isPageImpl(TextView text) {
-    return procedure(*this, u"OutputTemplatePage.isPageImpl", {{u"text", text}}, [&] {
+    return procedure(*this, u"isPageImpl", {{u"text", text}}, [&] {
         Text tested = cleanUp(text);
         const bool hasMark = isNoPage(tested) || pagewords::locatorWord(tested).has_value() ||
                              (mSupportsDOI && pagewords::isDoi(tested));

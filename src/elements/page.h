@@ -136,6 +136,7 @@ public:
     /// page, or consists of page numbers that are no years. The element stays as it is.
     bool isPage(TextView text);
 
+    TextView className() const override { return u"OutputTemplatePage"; }
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:

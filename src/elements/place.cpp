@@ -93,7 +93,7 @@ std::vector<Text> column(TextView State::*member) {
 }  // namespace
 
 void OutputTemplatePlace::Initialize(const OutputSinkRef& formattedStr) {
-    procedure(*this, u"OutputTemplatePlace.Initialize", {{u"formattedStr", formattedStr}}, [&] {
+    procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
         mSupportOptions.assign(kVariants, false);
         mSupportOptions.at(kPlain) = true;
     });
@@ -101,7 +101,7 @@ void OutputTemplatePlace::Initialize(const OutputSinkRef& formattedStr) {
 
 void OutputTemplatePlace::Reset(bool supportPlaceNotKnown, bool supportPlaceGuess, bool supportPlaceForSure,
                                 bool expandAbbreviations, bool repeatLocationIfInPublisherName) {
-    procedure(*this, u"OutputTemplatePlace.Reset",
+    procedure(*this, u"Reset",
               {{u"supportPlaceNotKnown", supportPlaceNotKnown},
                {u"supportPlaceGuess", supportPlaceGuess},
                {u"supportPlaceForSure", supportPlaceForSure},
@@ -117,7 +117,7 @@ void OutputTemplatePlace::Reset(bool supportPlaceNotKnown, bool supportPlaceGues
 }
 
 std::shared_ptr<OutputTemplatePlace> OutputTemplatePlace::Clone() const {
-    return procedure(*this, u"OutputTemplatePlace.Clone", kNoParameters, [&] {
+    return procedure(*this, u"Clone", kNoParameters, [&] {
         auto clone = std::make_shared<OutputTemplatePlace>();
         clone->Initialize(nullptr);
         // The options only, deliberately.
@@ -129,14 +129,14 @@ std::shared_ptr<OutputTemplatePlace> OutputTemplatePlace::Clone() const {
 
 void OutputTemplatePlace::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
                                             bool shortenedVersion) const {
-    procedure(*this, u"OutputTemplatePlace.ToFormattedString",
+    procedure(*this, u"ToFormattedString",
               {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
               [&] { object(formattedStr).Add(toString(isFootnote, shortenedVersion, {}), OutputSink::kPlain); });
 }
 
 Text OutputTemplatePlace::toString(bool isFootnote, bool shortenedVersion, TextView publisherStr) const {
     return procedure(
-        *this, u"OutputTemplatePlace.toString",
+        *this, u"toString",
         {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}, {u"publisherStr", publisherStr}}, [&] {
             Text place = toStringImpl(publisherStr);
             switch (placeType) {
@@ -149,7 +149,7 @@ Text OutputTemplatePlace::toString(bool isFootnote, bool shortenedVersion, TextV
 }
 
 Text OutputTemplatePlace::toStringImpl(TextView publisherStr) const {
-    return procedure(*this, u"OutputTemplatePlace.toStringImpl", {{u"publisherStr", publisherStr}}, [&] {
+    return procedure(*this, u"toStringImpl", {{u"publisherStr", publisherStr}}, [&] {
         std::vector<Text> pieces = split(Place, u",");
         for (Text& piece : pieces) {
             piece = Text(trim(piece));
@@ -167,7 +167,7 @@ Text OutputTemplatePlace::toStringImpl(TextView publisherStr) const {
 }
 
 bool OutputTemplatePlace::expandStateAbbreviation(Text& state) const {
-    return procedure(*this, u"OutputTemplatePlace.expandStateAbbreviation", {{u"state", state}}, [&] {
+    return procedure(*this, u"expandStateAbbreviation", {{u"state", state}}, [&] {
         const auto* const found = std::find_if(std::begin(kStates), std::end(kStates),
                                                [&](const State& row) { return row.abbreviation == state; });
         if (found == std::end(kStates)) {
@@ -179,7 +179,7 @@ bool OutputTemplatePlace::expandStateAbbreviation(Text& state) const {
 }
 
 Text OutputTemplatePlace::formatStr(TextView text, TextView publisherStr) {
-    return procedure(*this, u"OutputTemplatePlace.formatStr", {{u"text", text}, {u"publisherStr", publisherStr}}, [&] {
+    return procedure(*this, u"formatStr", {{u"text", text}, {u"publisherStr", publisherStr}}, [&] {
         Text parsed(text);
         Parse(parsed, {});
         return toString(false, false, publisherStr);
@@ -187,12 +187,12 @@ Text OutputTemplatePlace::formatStr(TextView text, TextView publisherStr) {
 }
 
 bool OutputTemplatePlace::Supports(std::int32_t placeType) const {
-    return procedure(*this, u"OutputTemplatePlace.Supports[Get]", {{u"placeType", placeType}},
+    return procedure(*this, u"Supports[Get]", {{u"placeType", placeType}},
                      [&]() -> bool { return mSupportOptions.at(static_cast<std::size_t>(placeType)); });
 }
 
 void OutputTemplatePlace::Parse(Text& text, TextView previousStr) {
-    procedure(*this, u"OutputTemplatePlace.Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
+    procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
         text = cleanUp(text);
         parseAndRemovePlaceType(text);
         Place = text;
@@ -200,7 +200,7 @@ void OutputTemplatePlace::Parse(Text& text, TextView previousStr) {
 }
 
 void OutputTemplatePlace::parseAndRemovePlaceType(Text& text) {
-    procedure(*this, u"OutputTemplatePlace.parseAndRemovePlaceType", {{u"text", text}}, [&] {
+    procedure(*this, u"parseAndRemovePlaceType", {{u"text", text}}, [&] {
         if (text == kNotKnownText) {
             placeType = kNotKnown;
             text.clear();
@@ -221,7 +221,7 @@ void OutputTemplatePlace::parseAndRemovePlaceType(Text& text) {
 }
 
 bool OutputTemplatePlace::isPlace(TextView text) {
-    return procedure(*this, u"OutputTemplatePlace.isPlace", {{u"text", text}}, [&] {
+    return procedure(*this, u"isPlace", {{u"text", text}}, [&] {
         Text remainder = cleanUp(text);
         if (remainder.empty()) {
             return false;
@@ -236,12 +236,11 @@ bool OutputTemplatePlace::isPlace(TextView text) {
 }
 
 std::vector<Text> OutputTemplatePlace::DefaultAbbreviations() const {
-    return procedure(*this, u"OutputTemplatePlace.DefaultAbbreviations[Get]", kNoParameters,
-                     [&] { return column(&State::abbreviation); });
+    return procedure(*this, u"DefaultAbbreviations[Get]", kNoParameters, [&] { return column(&State::abbreviation); });
 }
 
 std::vector<Text> OutputTemplatePlace::States() const {
-    return procedure(*this, u"OutputTemplatePlace.States[Get]", kNoParameters, [&] { return column(&State::name); });
+    return procedure(*this, u"States[Get]", kNoParameters, [&] { return column(&State::name); });
 }
 
 void OutputTemplatePlace::dumpVariables(VBWPROTECTOR& report) const {

@@ -77,6 +77,7 @@ public:
     /// The names of the states, one for each of `DefaultAbbreviations`.
     std::vector<Text> States() const;
 
+    TextView className() const override { return u"OutputTemplatePlace"; }
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:

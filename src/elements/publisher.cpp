@@ -90,7 +90,7 @@ TextView after(TextView text, TextView separator) {
 }  // namespace
 
 void OutputTemplatePublisher::Initialize(const OutputSinkRef& formattedStr) {
-    procedure(*this, u"OutputTemplatePublisher.Initialize", {{u"formattedStr", formattedStr}}, [&] {
+    procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
         mOutputTemplate.Initialize(formattedStr);
         Reset(false, false, false, false, false);
     });
@@ -98,7 +98,7 @@ void OutputTemplatePublisher::Initialize(const OutputSinkRef& formattedStr) {
 
 void OutputTemplatePublisher::Reset(bool supportCoPublisher, bool useAdvancedOptions, bool usePublisherUnknown,
                                     bool shortenUniversityAndPress, bool removePublisherAbbreviations) {
-    procedure(*this, u"OutputTemplatePublisher.Reset",
+    procedure(*this, u"Reset",
               {{u"supportCoPublisher", supportCoPublisher},
                {u"useAdvancedOptions", useAdvancedOptions},
                {u"usePublisherUnknown", usePublisherUnknown},
@@ -120,7 +120,7 @@ void OutputTemplatePublisher::Reset(bool supportCoPublisher, bool useAdvancedOpt
 }
 
 std::shared_ptr<OutputTemplatePublisher> OutputTemplatePublisher::Clone(const OutputSinkRef& formattedStr) const {
-    return procedure(*this, u"OutputTemplatePublisher.Clone", {{u"formattedStr", formattedStr}}, [&] {
+    return procedure(*this, u"Clone", {{u"formattedStr", formattedStr}}, [&] {
         auto clone = std::make_shared<OutputTemplatePublisher>();
         clone->Initialize(formattedStr);
         clone->Reset(mSupportCoPublisher, mSupportAdvancedOptions, mPublisherUnknown == kPublisherUnknown,
@@ -136,7 +136,7 @@ std::shared_ptr<OutputTemplatePublisher> OutputTemplatePublisher::Clone(const Ou
 
 void OutputTemplatePublisher::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
                                                 bool shortenedVersion) {
-    procedure(*this, u"OutputTemplatePublisher.ToFormattedString",
+    procedure(*this, u"ToFormattedString",
               {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
               [&] {
                   mOutputTemplate.ResetReferenceItems();
@@ -145,8 +145,7 @@ void OutputTemplatePublisher::ToFormattedString(const OutputSinkRef& formattedSt
 }
 
 Text OutputTemplatePublisher::toString(bool isFootnote, bool shortenedVersion) {
-    return procedure(*this, u"OutputTemplatePublisher.toString",
-                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
+    return procedure(*this, u"toString", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
                      [&] { return mOutputTemplate.toString(*this, shortenedVersion, isFootnote, false); });
 }
 
@@ -157,7 +156,7 @@ bool OutputTemplatePublisher::ToFormattedStringImpl(bool isFootnote, std::vector
     for (const OutputSinkRef& item : formattedItems) {
         fragments.push_back(item.get());
     }
-    return procedure(*this, u"OutputTemplatePublisher.ToFormattedStringImpl",
+    return procedure(*this, u"ToFormattedStringImpl",
                      {{u"isFootnote", isFootnote},
                       {u"items", items},
                       {u"formattedItems", fragments},
@@ -182,42 +181,39 @@ bool OutputTemplatePublisher::ToFormattedStringImpl(bool isFootnote, std::vector
 }
 
 bool OutputTemplatePublisher::supportCoPublisher() const {
-    return procedure(*this, u"OutputTemplatePublisher.supportCoPublisher[Get]", kNoParameters,
-                     [&] { return mSupportCoPublisher; });
+    return procedure(*this, u"supportCoPublisher[Get]", kNoParameters, [&] { return mSupportCoPublisher; });
 }
 
 bool OutputTemplatePublisher::SupportAdvancedOptions() const {
-    return procedure(*this, u"OutputTemplatePublisher.SupportAdvancedOptions[Get]", kNoParameters,
-                     [&] { return mSupportAdvancedOptions; });
+    return procedure(*this, u"SupportAdvancedOptions[Get]", kNoParameters, [&] { return mSupportAdvancedOptions; });
 }
 
 Text OutputTemplatePublisher::publisher() const {
-    return procedure(*this, u"OutputTemplatePublisher.publisher[Get]", kNoParameters, [&] { return mPublisher; });
+    return procedure(*this, u"publisher[Get]", kNoParameters, [&] { return mPublisher; });
 }
 
 void OutputTemplatePublisher::publisher(TextView theVal) {
-    procedure(*this, u"OutputTemplatePublisher.publisher[Let]", {{u"theVal", theVal}}, [&] { mPublisher = theVal; });
+    procedure(*this, u"publisher[Let]", {{u"theVal", theVal}}, [&] { mPublisher = theVal; });
 }
 
 Text OutputTemplatePublisher::Imprint() const {
-    return procedure(*this, u"OutputTemplatePublisher.Imprint[Get]", kNoParameters, [&] { return mImprint; });
+    return procedure(*this, u"Imprint[Get]", kNoParameters, [&] { return mImprint; });
 }
 
 void OutputTemplatePublisher::Imprint(TextView theVal) {
-    procedure(*this, u"OutputTemplatePublisher.Imprint[Let]", {{u"theVal", theVal}}, [&] { mImprint = theVal; });
+    procedure(*this, u"Imprint[Let]", {{u"theVal", theVal}}, [&] { mImprint = theVal; });
 }
 
 Text OutputTemplatePublisher::CoPublisher() const {
-    return procedure(*this, u"OutputTemplatePublisher.CoPublisher[Get]", kNoParameters, [&] { return mCoPublisher; });
+    return procedure(*this, u"CoPublisher[Get]", kNoParameters, [&] { return mCoPublisher; });
 }
 
 void OutputTemplatePublisher::CoPublisher(TextView theVal) {
-    procedure(*this, u"OutputTemplatePublisher.CoPublisher[Let]", {{u"theVal", theVal}},
-              [&] { mCoPublisher = theVal; });
+    procedure(*this, u"CoPublisher[Let]", {{u"theVal", theVal}}, [&] { mCoPublisher = theVal; });
 }
 
 void OutputTemplatePublisher::Parse(Text& text, TextView previousStr) {
-    procedure(*this, u"OutputTemplatePublisher.Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
+    procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
         Imprint({});
         CoPublisher({});
         copublisherPlace.clear();
@@ -243,30 +239,27 @@ void OutputTemplatePublisher::Parse(Text& text, TextView previousStr) {
 void OutputTemplatePublisher::Add(std::int16_t Index, bool isFormatted, bool isChecking,
                                   const std::vector<Text>& separators) {
     procedure(
-        *this, u"OutputTemplatePublisher.Add",
+        *this, u"Add",
         {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
         [&] { mOutputTemplate.Add(Index, isFormatted, isChecking, separators); });
 }
 
 Text OutputTemplatePublisher::getImprint() const {
-    return procedure(*this, u"OutputTemplatePublisher.getImprint", kNoParameters,
-                     [&] { return targetedReplace(Imprint()); });
+    return procedure(*this, u"getImprint", kNoParameters, [&] { return targetedReplace(Imprint()); });
 }
 
 Text OutputTemplatePublisher::getCopublisher() const {
-    return procedure(*this, u"OutputTemplatePublisher.getCopublisher", kNoParameters,
-                     [&] { return targetedReplace(CoPublisher()); });
+    return procedure(*this, u"getCopublisher", kNoParameters, [&] { return targetedReplace(CoPublisher()); });
 }
 
 Text OutputTemplatePublisher::getCopublisherPlace() const {
-    return procedure(*this, u"OutputTemplatePublisher.getCopublisherPlace", kNoParameters,
-                     [&] { return copublisherPlace; });
+    return procedure(*this, u"getCopublisherPlace", kNoParameters, [&] { return copublisherPlace; });
 }
 
 /// "Doubleday" of "Anchor-Doubleday" stays in the text. A name that itself has a hyphen is split too,
 /// deliberately: the parts are written with the same hyphen between them.
 void OutputTemplatePublisher::parseAndRemoveImprint(Text& text) {
-    procedure(*this, u"OutputTemplatePublisher.parseAndRemoveImprint", {{u"text", text}}, [&] {
+    procedure(*this, u"parseAndRemoveImprint", {{u"text", text}}, [&] {
         const Text second(after(text, kImprintSign));
         if (!second.empty()) {
             Imprint(Text(before(text, kImprintSign)));
@@ -276,7 +269,7 @@ void OutputTemplatePublisher::parseAndRemoveImprint(Text& text) {
 }
 
 void OutputTemplatePublisher::parseAndRemoveCopublisher(Text& text) {
-    procedure(*this, u"OutputTemplatePublisher.parseAndRemoveCopublisher", {{u"text", text}}, [&] {
+    procedure(*this, u"parseAndRemoveCopublisher", {{u"text", text}}, [&] {
         const Text second(trim(after(text, kCopublisherSign)));
         if (second.empty()) {
             return;
@@ -292,7 +285,7 @@ void OutputTemplatePublisher::parseAndRemoveCopublisher(Text& text) {
 }
 
 void OutputTemplatePublisher::parseAndRemovePublisherType(Text& text) {
-    procedure(*this, u"OutputTemplatePublisher.parseAndRemovePublisherType", {{u"text", text}}, [&] {
+    procedure(*this, u"parseAndRemovePublisherType", {{u"text", text}}, [&] {
         PublisherType = kNamed;
         for (const SpecialText& special : kSpecialTexts) {
             if (text == special.text) {
@@ -305,7 +298,7 @@ void OutputTemplatePublisher::parseAndRemovePublisherType(Text& text) {
 }
 
 Text OutputTemplatePublisher::targetedExpansion(TextView text) const {
-    return procedure(*this, u"OutputTemplatePublisher.targetedExpansion", {{u"text", text}}, [&] {
+    return procedure(*this, u"targetedExpansion", {{u"text", text}}, [&] {
         Text result(text);
         for (const Shortening& words : kShortenings) {
             result = targetedReplaceImpl(result, words.shortened, words.full);
@@ -315,7 +308,7 @@ Text OutputTemplatePublisher::targetedExpansion(TextView text) const {
 }
 
 Text OutputTemplatePublisher::targetedReplace(TextView text) const {
-    return procedure(*this, u"OutputTemplatePublisher.targetedReplace", {{u"text", text}}, [&] {
+    return procedure(*this, u"targetedReplace", {{u"text", text}}, [&] {
         Text result(text);
         if (mShortenUniversityAndPress) {
             for (const Shortening& words : kShortenings) {
@@ -335,8 +328,8 @@ Text OutputTemplatePublisher::targetedReplace(TextView text) const {
 /// Replaces a whole word, at most once: at the beginning, else at the end, else the first one between.
 /// A text that is nothing but the word stays, deliberately.
 Text OutputTemplatePublisher::targetedReplaceImpl(TextView text, TextView find, TextView theReplace) const {
-    return procedure(*this, u"OutputTemplatePublisher.targetedReplaceImpl",
-                     {{u"text", text}, {u"find", find}, {u"theReplace", theReplace}}, [&]() -> Text {
+    return procedure(*this, u"targetedReplaceImpl", {{u"text", text}, {u"find", find}, {u"theReplace", theReplace}},
+                     [&]() -> Text {
                          const Text withBlanks = concatenate({u" ", find, u" "});
                          const TextView word = withBlanks;
                          if (startsWith(text, word.substr(1))) {

@@ -89,6 +89,7 @@ public:
     /// @param previousStr not used
     void Parse(Text& text, TextView previousStr);
 
+    TextView className() const override { return u"OutputTemplatePublisher"; }
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:

@@ -7,7 +7,7 @@
 #include "core/dates.h"
 #include "core/letter_case.h"
 #include "core/procedure.h"
-#include "elements/date_text.h"
+#include "elements/date/date_text.h"
 
 namespace quorvel {
 
@@ -61,7 +61,7 @@ bool readsAsYear(TextView remainder) {
 }
 
 void OutputTemplateYear::Initialize(const OutputSinkRef& formattedStr) {
-    procedure(*this, u"OutputTemplateYear.Initialize", {{u"formattedStr", formattedStr}}, [&] {
+    procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
         mSupportOptions.assign(kVariants, false);
         mSupportOptions.at(kPlain) = true;
         mSupportOptions.at(kNoDate) = true;
@@ -70,7 +70,7 @@ void OutputTemplateYear::Initialize(const OutputSinkRef& formattedStr) {
 
 void OutputTemplateYear::Reset(bool supportForthcoming, bool supportInPress, bool supportYearGuess, TextView circa,
                                bool supportYearForSure, TextView noDateString, bool useEnDashForYearRange) {
-    procedure(*this, u"OutputTemplateYear.Reset",
+    procedure(*this, u"Reset",
               {{u"supportForthcoming", supportForthcoming},
                {u"supportInPress", supportInPress},
                {u"supportYearGuess", supportYearGuess},
@@ -91,7 +91,7 @@ void OutputTemplateYear::Reset(bool supportForthcoming, bool supportInPress, boo
 }
 
 std::shared_ptr<OutputTemplateYear> OutputTemplateYear::Clone() const {
-    return procedure(*this, u"OutputTemplateYear.Clone", kNoParameters, [&] {
+    return procedure(*this, u"Clone", kNoParameters, [&] {
         auto clone = std::make_shared<OutputTemplateYear>();
         CloneImpl(*clone);
         return clone;
@@ -99,7 +99,7 @@ std::shared_ptr<OutputTemplateYear> OutputTemplateYear::Clone() const {
 }
 
 void OutputTemplateYear::CloneImpl(OutputTemplateYear& clone) const {
-    procedure(*this, u"OutputTemplateYear.CloneImpl", kNoParameters, [&] {
+    procedure(*this, u"CloneImpl", kNoParameters, [&] {
         clone.Initialize(nullptr);
         // Without mForthcomingStr and museEnDashForYearRange, deliberately.
         clone.mNoDate = mNoDate;
@@ -112,32 +112,31 @@ void OutputTemplateYear::CloneImpl(OutputTemplateYear& clone) const {
 
 void OutputTemplateYear::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
                                            bool shortenedVersion) const {
-    procedure(*this, u"OutputTemplateYear.ToFormattedString",
+    procedure(*this, u"ToFormattedString",
               {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
               [&] { object(formattedStr).Add(toString(isFootnote, shortenedVersion), OutputSink::kPlain); });
 }
 
 Text OutputTemplateYear::toString(bool isFootnote, bool shortenedVersion) const {
-    return procedure(*this, u"OutputTemplateYear.toString",
-                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
-                         Text result;
-                         switch (yearType) {
-                             case kNoDate: result = mNoDate; break;
-                             case kGuessed: result = concatenate({u"[", Year, u"?]"}); break;
-                             case kCirca: result = concatenate({u"[", mCirca, u" ", Year, u"]"}); break;
-                             case kSupplied: result = concatenate({u"[", Year, u"]"}); break;
-                             case kNotYetPublished: result = mForthcomingStr; break;
-                             default: result = Year; break;
-                         }
-                         if (museEnDashForYearRange == kTrue) {
-                             std::replace(result.begin(), result.end(), u'-', kEnDash);
-                         }
-                         return result;
-                     });
+    return procedure(*this, u"toString", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
+        Text result;
+        switch (yearType) {
+            case kNoDate: result = mNoDate; break;
+            case kGuessed: result = concatenate({u"[", Year, u"?]"}); break;
+            case kCirca: result = concatenate({u"[", mCirca, u" ", Year, u"]"}); break;
+            case kSupplied: result = concatenate({u"[", Year, u"]"}); break;
+            case kNotYetPublished: result = mForthcomingStr; break;
+            default: result = Year; break;
+        }
+        if (museEnDashForYearRange == kTrue) {
+            std::replace(result.begin(), result.end(), u'-', kEnDash);
+        }
+        return result;
+    });
 }
 
 Text OutputTemplateYear::formatStr(TextView text) {
-    return procedure(*this, u"OutputTemplateYear.formatStr", {{u"text", text}}, [&] {
+    return procedure(*this, u"formatStr", {{u"text", text}}, [&] {
         Text parsed(text);
         Parse(parsed, {});
         return toString(false, false);
@@ -145,12 +144,12 @@ Text OutputTemplateYear::formatStr(TextView text) {
 }
 
 bool OutputTemplateYear::Supports(std::int32_t code) const {
-    return procedure(*this, u"OutputTemplateYear.Supports[Get]", {{u"code", code}},
+    return procedure(*this, u"Supports[Get]", {{u"code", code}},
                      [&]() -> bool { return mSupportOptions.at(static_cast<std::size_t>(code)); });
 }
 
 void OutputTemplateYear::Parse(Text& text, TextView previousStr) {
-    procedure(*this, u"OutputTemplateYear.Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
+    procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
         text = cleanUp(text);
         parseAndRemoveYearType(text);
         if (std::optional<Text> year = yearOfDate(text)) {
@@ -162,7 +161,7 @@ void OutputTemplateYear::Parse(Text& text, TextView previousStr) {
 }
 
 void OutputTemplateYear::parseAndRemoveYearType(Text& text) {
-    procedure(*this, u"OutputTemplateYear.parseAndRemoveYearType", {{u"text", text}}, [&] {
+    procedure(*this, u"parseAndRemoveYearType", {{u"text", text}}, [&] {
         if (isOneOf(text, kNoDateMarkers)) {
             yearType = kNoDate;
             text.clear();
@@ -195,7 +194,7 @@ void OutputTemplateYear::parseAndRemoveYearType(Text& text) {
 }
 
 bool OutputTemplateYear::isYear(TextView text) {
-    return procedure(*this, u"OutputTemplateYear.isYear", {{u"text", text}}, [&] {
+    return procedure(*this, u"isYear", {{u"text", text}}, [&] {
         Text remainder(trim(text));
         if (remainder.empty()) {
             return false;

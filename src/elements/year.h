@@ -76,6 +76,7 @@ public:
     /// Whether a text reads as a year or a range of years; the element stays as it is.
     bool isYear(TextView text);
 
+    TextView className() const override { return u"OutputTemplateYear"; }
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:

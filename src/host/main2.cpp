@@ -70,17 +70,16 @@ Main2::~Main2() {
 }
 
 STDMETHODIMP Main2::buildSubformProxy(IDispatch** result) {
-    return call(result, [&] { return procedure(*this, u"Main2.buildSubformProxy", kNoParameters, cannotCreate); });
+    return call(result, [&] { return procedure(*this, u"buildSubformProxy", kNoParameters, cannotCreate); });
 }
 
 STDMETHODIMP Main2::buildModelTemplate(IDispatch** result) {
-    return call(result,
-                [&] { return procedure(*this, u"Main2.buildModelTemplate", kNoParameters, make<ModelAdapter>); });
+    return call(result, [&] { return procedure(*this, u"buildModelTemplate", kNoParameters, make<ModelAdapter>); });
 }
 
 STDMETHODIMP Main2::buildCitationTemplate(IDispatch** result) {
     return call(result,
-                [&] { return procedure(*this, u"Main2.buildCitationTemplate", kNoParameters, make<CitationAdapter>); });
+                [&] { return procedure(*this, u"buildCitationTemplate", kNoParameters, make<CitationAdapter>); });
 }
 
 STDMETHODIMP Main2::build(short* whichType, IDispatch** formattedString, IDispatch** result) {
@@ -88,7 +87,7 @@ STDMETHODIMP Main2::build(short* whichType, IDispatch** formattedString, IDispat
     const ComPtr<IDispatch> sink(formattedString != nullptr ? *formattedString : nullptr);
     return call(result, [&] {
         const auto reported = std::make_shared<HostReference>(sink.get());
-        return procedure(*this, u"Main2.build", {{u"whichType", code}, {u"formattedString", reported}}, [&] {
+        return procedure(*this, u"build", {{u"whichType", code}, {u"formattedString", reported}}, [&] {
             ComPtr<IDispatch> element = createElement(code);
             // Late-bound on purpose: on the empty reference of an unknown code this is the error that is
             // reported.

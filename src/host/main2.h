@@ -16,6 +16,7 @@ public:
     STDMETHODIMP buildCitationTemplate(IDispatch** result) override;
     STDMETHODIMP build(short* whichType, IDispatch** formattedString, IDispatch** result) override;
 
+    TextView className() const override { return u"Main2"; }
     /// The class has no variables.
     void dumpVariables(VBWPROTECTOR& /*report*/) const override {}
 

@@ -9,6 +9,8 @@ namespace quorvel::host {
 
 namespace {
 
+constexpr Module kModule{u"OutputTemplate"};
+
 OutputSinkRef sinkOf(const Variant& value) {
     Variant object;
     return SUCCEEDED(convert(value, VT_DISPATCH, object)) ? HostSink::of(object.pdispVal) : nullptr;
@@ -20,26 +22,25 @@ bool fillSlotArrays(Implementor& implementor, bool isFootnote, VARIANT* items, V
                     bool shortenedVersion) {
     bool nothingToAssemble = true;
     // Named after the assembly, since an array that is missing or too small is no fault of the element.
-    moduleProcedure(u"OutputTemplate.ToFormattedStringImpl",
-                    {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
-                        if (items == nullptr || formattedItems == nullptr) {
-                            throw RuntimeError(ErrorNumber::ArgumentNotOptional);
-                        }
-                        std::vector<Text> texts = textsOf(*items);
-                        std::vector<OutputSinkRef> fragments;
-                        for (const Variant& item : elementsOf(*formattedItems)) {
-                            fragments.push_back(sinkOf(item));
-                        }
-                        const bool outcome =
-                            implementor.ToFormattedStringImpl(isFootnote, texts, fragments, shortenedVersion);
-                        std::vector<Variant> results;
-                        for (const Text& text : texts) {
-                            results.emplace_back(TextView(text));
-                        }
-                        // The fragments were filled where they are.
-                        assignElements(*items, results);
-                        nothingToAssemble = outcome;
-                    });
+    procedure(
+        kModule, u"ToFormattedStringImpl", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}}, [&] {
+            if (items == nullptr || formattedItems == nullptr) {
+                throw RuntimeError(ErrorNumber::ArgumentNotOptional);
+            }
+            std::vector<Text> texts = textsOf(*items);
+            std::vector<OutputSinkRef> fragments;
+            for (const Variant& item : elementsOf(*formattedItems)) {
+                fragments.push_back(sinkOf(item));
+            }
+            const bool outcome = implementor.ToFormattedStringImpl(isFootnote, texts, fragments, shortenedVersion);
+            std::vector<Variant> results;
+            for (const Text& text : texts) {
+                results.emplace_back(TextView(text));
+            }
+            // The fragments were filled where they are.
+            assignElements(*items, results);
+            nothingToAssemble = outcome;
+        });
     return nothingToAssemble;
 }
 

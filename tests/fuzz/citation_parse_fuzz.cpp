@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "core/letter_case.h"
-#include "elements/citation.h"
+#include "elements/citation/citation.h"
 #include "fuzz_input.h"
 #include "support/recording_model.h"
 #include "support/recording_sink.h"

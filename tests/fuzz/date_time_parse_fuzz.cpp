@@ -1,4 +1,4 @@
-#include "elements/date_time.h"
+#include "elements/date/date_time.h"
 #include "fuzz_input.h"
 #include "support/recording_sink.h"
 

@@ -1,4 +1,4 @@
-#include "elements/title.h"
+#include "elements/title/title.h"
 #include "fuzz_input.h"
 #include "support/recording_sink.h"
 #include "support/style_presets.h"

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "elements/author.h"
+#include "elements/author/author.h"
 #include "host/com/arguments.h"
 #include "host/com/com_object.h"
 #include "host/host_sink.h"
@@ -87,7 +87,7 @@ public:
         return call(result, [&] { return mAuthor->authors(); });
     }
     STDMETHODIMP put_authors(VARIANT values) override {
-        return call([&] { trapped(u"OutputTemplateAuthor.authors[Let]", [&] { mAuthor->authors(textsOf(values)); }); });
+        return call([&] { trapped(*mAuthor, u"authors[Let]", [&] { mAuthor->authors(textsOf(values)); }); });
     }
     STDMETHODIMP get_authorsForQVDb(BSTR* result) override {
         return call(result, [&] { return mAuthor->authorsForQVDb(); });
@@ -98,12 +98,12 @@ public:
     STDMETHODIMP get_Anthologies(VARIANT index, VARIANT* result) override {
         return call(result, [&] {
             Variant roles;
-            trapped(u"OutputTemplateAuthor.Anthologies[Get]", [&] { roles = anthologies(index); });
+            trapped(*mAuthor, u"Anthologies[Get]", [&] { roles = anthologies(index); });
             return roles;
         });
     }
     STDMETHODIMP put_Anthologies(VARIANT index, VARIANT values) override {
-        return call([&] { trapped(u"OutputTemplateAuthor.Anthologies[Let]", [&] { setAnthologies(index, values); }); });
+        return call([&] { trapped(*mAuthor, u"Anthologies[Let]", [&] { setAnthologies(index, values); }); });
     }
     STDMETHODIMP get_editor(BSTR* result) override {
         return call(result, [&] { return mAuthor->editor(); });

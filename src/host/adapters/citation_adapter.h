@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "elements/citation.h"
+#include "elements/citation/citation.h"
 #include "host/com/arguments.h"
 #include "host/com/com_object.h"
 #include "host/com/element_access.h"
@@ -83,7 +83,7 @@ public:
     }
     STDMETHODIMP Add(short Index, VARIANT_BOOL isFormatted, BSTR checkingKey, VARIANT separators) override {
         return call([&] {
-            trapped(u"OutputTemplateCitation.Add",
+            trapped(mCitation, u"Add",
                     [&] { mCitation.Add(Index, asBool(isFormatted), view(checkingKey), textsOf(separators)); });
         });
     }

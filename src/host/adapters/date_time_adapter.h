@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "elements/date_time.h"
+#include "elements/date/date_time.h"
 #include "host/com/com_object.h"
 #include "host/host_sink.h"
 #include "host/interfaces.h"

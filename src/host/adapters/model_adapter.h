@@ -22,7 +22,7 @@ public:
     }
     STDMETHODIMP Add(short Index, VARIANT_BOOL isFormatted, BSTR checkingKey, VARIANT separators) override {
         return call([&] {
-            trapped(u"OutputTemplateModel.Add",
+            trapped(mModel, u"Add",
                     [&] { mModel.Add(Index, asBool(isFormatted), view(checkingKey), textsOf(separators)); });
         });
     }

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "elements/title.h"
+#include "elements/title/title.h"
 #include "host/com/com_object.h"
 #include "host/com/element_access.h"
 #include "host/host_sink.h"

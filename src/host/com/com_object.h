@@ -197,11 +197,11 @@ protected:
     /// Inside `call`, around the reading of arguments that may be of several types: what fails there is
     /// reported as an error of the procedure, and the member does nothing.
     template <class Body>
-    static void trapped(const Name& procedure, Body&& body) noexcept {
+    static void trapped(const Instrumented& element, const Name& procedure, Body&& body) noexcept {
         try {
             body();
         } catch (...) {
-            reportCurrentException(VBWPROTECTOR::ofThisApartment(), procedure, nullptr);
+            reportCurrentException(element, procedure);
         }
     }
 

@@ -46,21 +46,28 @@ bool isPointerTo(const TYPEDESC& description) {
     return target.vt != VT_USERDEFINED;
 }
 
-/// "OutputTemplateYear.Supports[Get]" for the property Supports of _OutputTemplateYear.
+/// The name of a member, or of the interface itself.
+Text documentedName(ITypeInfo* info, MEMBERID member) {
+    BSTR name = nullptr;
+    info->GetDocumentation(member, &name, nullptr, nullptr, nullptr);
+    Text result(view(name));
+    SysFreeString(name);
+    return result;
+}
+
+/// "OutputTemplateYear" for _OutputTemplateYear.
+Text classNameOf(ITypeInfo* info) {
+    Text name = documentedName(info, MEMBERID_NIL);
+    removePrefix(name, u"_");
+    return name;
+}
+
+/// "Supports[Get]" for the property Supports.
 Text procedureName(ITypeInfo* info, const FUNCDESC& function) {
-    BSTR interfaceName = nullptr;
-    BSTR memberName = nullptr;
-    info->GetDocumentation(MEMBERID_NIL, &interfaceName, nullptr, nullptr, nullptr);
-    info->GetDocumentation(function.memid, &memberName, nullptr, nullptr, nullptr);
-    TextView className = view(interfaceName);
-    className.remove_prefix(className.starts_with(u'_') ? 1 : 0);
     const TextView suffix = function.invkind == INVOKE_PROPERTYGET   ? TextView(u"[Get]")
                             : function.invkind == INVOKE_PROPERTYPUT ? TextView(u"[Let]")
                                                                      : TextView();
-    Text name = concatenate({className, u".", view(memberName), suffix});
-    SysFreeString(interfaceName);
-    SysFreeString(memberName);
-    return name;
+    return documentedName(info, function.memid).append(suffix);
 }
 
 ComPtr<ITypeInfo> typeInfoOf(REFIID iid) {
@@ -328,6 +335,7 @@ bool DispatchTable::readMembers() {
     if (!info || FAILED(info->GetTypeAttr(&attributes))) {
         return false;
     }
+    mClassName = classNameOf(info.get());
     const UINT count = attributes->cFuncs;
     info->ReleaseTypeAttr(attributes);
     for (UINT i = 0; i < count; ++i) {
@@ -387,7 +395,8 @@ HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DI
                                                                                 : member->resultType,
               value);
     const auto fail = [&](ErrorNumber number) {
-        moduleProcedure(Name(member->procedure), kNoParameters, [&] { throw RuntimeError(number); });
+        procedure(Module(Name(mClassName)), Name(member->procedure), kNoParameters,
+                  [&] { throw RuntimeError(number); });
     };
     Call call(*member, parameters);
     if (call.hasSurplus()) {

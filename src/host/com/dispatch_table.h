@@ -41,6 +41,7 @@ private:
     struct Member {
         DISPID id = DISPID_UNKNOWN;
         INVOKEKIND kind = INVOKE_FUNC;
+        /// As reports name it: "Supports[Get]".
         Text procedure;
         std::size_t vtableOffset = 0;
         VARTYPE resultType = VT_VOID;
@@ -54,6 +55,7 @@ private:
     const Member* find(DISPID id, WORD flags) const;
 
     ComPtr<ITypeInfo> mDispatchInfo;
+    Text mClassName;
     std::vector<Member> mMembers;
 };
 

@@ -13,17 +13,20 @@ const Text kBannerReport =
     u"vbwReportToFile: \r\n**************************\r\n* MODULE LEVEL VARIABLES *\r\n**************************\r\n";
 constexpr TraceSwitches kAllOn = {.vbwTraceProc = true, .vbwTraceParameters = true, .vbwTraceVariables = true};
 
+constexpr Module kModule{u"Module"};
+
 /// A class whose dump holds each kind of field.
 class Sample final : public Instrumented {
 public:
     /// Fails after it filled its result in part.
     Text fail(Text& partial, const std::function<void()>& failure) const {
-        return procedure(*this, u"Sample.fail", {{u"partial", partial}, {u"depth", std::int16_t{-2}}}, [&] {
+        return procedure(*this, u"fail", {{u"partial", partial}, {u"depth", std::int16_t{-2}}}, [&] {
             partial = u"partial";
             failure();
             return Text(u"whole");
         });
     }
+    TextView className() const override { return u"Sample"; }
     void dumpVariables(VBWPROTECTOR& report) const override {
         report.vbwReportVariable(u"mFlag", true);
         report.vbwReportVariable(u"mInteger", std::int16_t{-2});
@@ -47,9 +50,9 @@ void throwSubscript() {
 class Procedure : public ReportingTest {
 protected:
     static Text nested() {
-        return moduleProcedure(u"Module.outer", kNoParameters, [] {
-            return moduleProcedure(u"Module.inner[Get]", {{u"key", TextView(u"k")}, {u"code", std::int32_t{7}}},
-                                   [] { return Text(u"done"); });
+        return procedure(kModule, u"outer", kNoParameters, [] {
+            return procedure(kModule, u"inner[Get]", {{u"key", TextView(u"k")}, {u"code", std::int32_t{7}}},
+                             [] { return Text(u"done"); });
         });
     }
 };

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "elements/author_layout.h"
+#include "elements/author/layout.h"
 #include "support/author_reading.h"
 #include "support/shown.h"
 

@@ -1,4 +1,4 @@
-#include "elements/citation.h"
+#include "elements/citation/citation.h"
 
 #include "support/author_reading.h"
 #include "support/recording_model.h"

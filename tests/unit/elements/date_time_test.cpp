@@ -1,8 +1,8 @@
-#include "elements/date_time.h"
+#include "elements/date/date_time.h"
 
 #include <gtest/gtest.h>
 
-#include "elements/date_text.h"
+#include "elements/date/date_text.h"
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
 

@@ -2,13 +2,13 @@
 
 #include <functional>
 
-#include "elements/author.h"
-#include "elements/date_time.h"
+#include "elements/author/author.h"
+#include "elements/date/date_time.h"
 #include "elements/keywords.h"
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
-#include "elements/title.h"
+#include "elements/title/title.h"
 #include "elements/year.h"
 #include "support/recording_service.h"
 #include "support/recording_sink.h"

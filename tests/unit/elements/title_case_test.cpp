@@ -1,8 +1,8 @@
-#include "elements/title_case.h"
+#include "elements/title/case.h"
 
 #include <gtest/gtest.h>
 
-#include "elements/title.h"
+#include "elements/title/title.h"
 #include "support/recording_sink.h"
 
 namespace quorvel {

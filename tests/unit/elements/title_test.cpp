@@ -1,11 +1,11 @@
-#include "elements/title.h"
+#include "elements/title/title.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-#include "elements/title_short.h"
-#include "elements/title_types.h"
+#include "elements/title/short.h"
+#include "elements/title/types.h"
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
 #include "support/shown.h"

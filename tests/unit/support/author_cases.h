@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/text.h"
-#include "elements/author.h"
+#include "elements/author/author.h"
 
 /// Lists of persons as they were printed, with the persons that they name.
 namespace quorvel::authorcases {

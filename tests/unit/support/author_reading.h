@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "elements/author.h"
+#include "elements/author/author.h"
 #include "support/recording_sink.h"
 #include "support/style_presets.h"
 

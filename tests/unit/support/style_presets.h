@@ -3,7 +3,7 @@
 #include <array>
 
 #include "core/text.h"
-#include "elements/author.h"
+#include "elements/author/author.h"
 
 /// The author settings that a host passes for its four styles, each with the section of the manual from
 /// which it comes.

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "elements/title_case.h"
+#include "elements/title/case.h"
 
 namespace quorvel::test {
 

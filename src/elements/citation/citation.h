@@ -1,0 +1,190 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "core/implementor.h"
+#include "core/instrumented.h"
+#include "core/output_sink.h"
+#include "core/output_template.h"
+#include "core/output_template_model.h"
+#include "core/reference_model.h"
+#include "core/text.h"
+#include "elements/author/author.h"
+#include "elements/citation/fields.h"
+#include "elements/title/title.h"
+#include "elements/year.h"
+
+namespace quorvel {
+
+/// The short citation of a reference.
+///
+///   style                 output                                          manual
+///   author and date       (Smith & Jones, 2005, p. 12)                    APA 6 6.11-6.20
+///   author and page       (Smith and Jones 12)                            MLA 7 6.2-6.4
+///   short note            Smith and Jones, Short Title, 12.               Turabian 7 16.4
+///   journal               (JAMA. 2004;291(20):2432)                       AMA 10 3.3
+///
+/// Without author the title stands first, or the periodical, or the web site; without date "n.d.". What is
+/// cited comes from the host's model, under the names of citation_fields.h, or from a citation that
+/// `Parse` read.
+///
+/// The style's author and title elements write their parts; they are copied or only asked, never changed.
+class OutputTemplateCitation final : public Instrumented {
+public:
+    /// How the first author's first names are written (`firstNameCommand`). Other values count as 0.
+    enum FirstNameCommand : std::int16_t {
+        /// Last names only.
+        kLastNames = 0,
+        /// With initials, since another author in the list has the same last name (MLA 7 6.4.2, APA 6 6.14).
+        kInitials = 1,
+        /// With first names in full, since the initials are the same as well.
+        kFirstNames = 2,
+        /// No author: the sentence names him, "(2005, p. 12)".
+        kNamedInTheSentence = 3,
+    };
+
+    /// The slots of a layout made with `ResetLikeModelTemplate`, where no implementor fills them. The first two
+    /// have fonts.
+    enum Slot : std::int16_t {
+        kName = 0,
+        kTitle = 1,
+        kYear = 2,
+        /// The volume alone, with its prefix.
+        kVolume = 3,
+        /// The page, with its volume before it.
+        kLocator = 4,
+        kLastSlot = kLocator,
+    };
+
+    /// The style's options, as `Reset` takes them.
+    struct Options {
+        Text SEPAR;
+        bool useNoDate = false;
+        Text volPrefix;
+        bool useAuthorOrPeriodicalTitle = false;
+        bool useTitle = false;
+        bool useOriginalYear = false;
+        bool titleIsQuoted = false;
+        bool useEmailKey = false;
+        bool useDegree = false;
+        bool supportsSubwork = false;
+        bool useWebsiteWhenNoAuthorAndDate = false;
+        bool journalCentric = false;
+        Text PSEPR;
+        Text YSEPR;
+        Text VSEPR;
+    };
+
+    /// @param formattedStr the maker of sinks
+    /// @param useMultiPartWork the volume that is cited is written
+    /// @param keyToInternalIndex the model's fields by name
+    /// @param authorModelOutputTemplate, titleModelOutputTemplate the style's elements; without them authors and
+    ///        titles are written as the model has them
+    /// @param multiVolModelOutputTemplate kept for the host; the volume is written by the citation itself
+    void Initialize(const OutputSinkRef& formattedStr, bool useMultiPartWork,
+                    const KeyToInternalIndexRef& keyToInternalIndex,
+                    const std::shared_ptr<OutputTemplateAuthor>& authorModelOutputTemplate,
+                    const std::shared_ptr<OutputTemplateTitle>& titleModelOutputTemplate,
+                    const HostObjectRef& multiVolModelOutputTemplate);
+
+    /// The citation gets a layout of the host's instead of the style's own, as short notes need: `Add` registers
+    /// its slots. The options stay; a later `Reset` gives the own layout back.
+    /// @param maxIndex the highest slot
+    /// @param callback fills the slots; empty: they are the ones of Slot
+    void ResetLikeModelTemplate(std::int16_t maxIndex, const ImplementorRef& callback);
+
+    /// The options of the style in force; what `Parse` read stays.
+    /// @param SEPAR between the author and a title
+    /// @param useNoDate a missing year is "n.d."
+    /// @param volPrefix before a volume: "vol. ". A volume that a colon joins to its page has none.
+    /// @param useAuthorOrPeriodicalTitle without author the periodical stands first rather than the title
+    /// @param useTitle the title always follows the author; otherwise only where the citation has no year
+    ///        and there are other works by the author
+    /// @param useOriginalYear "1900/1953"
+    /// @param titleIsQuoted the titles of parts of works stand in quotation marks
+    /// @param useEmailKey a communication by e-mail is called so
+    /// @param useDegree the academic degree follows the name of who communicated
+    /// @param supportsSubwork the title is that of the part that is cited, not of the whole work
+    /// @param useWebsiteWhenNoAuthorAndDate without author and year the web site stands alone
+    /// @param journalCentric a work in a periodical is cited by that
+    /// @param PSEPR before the page or the volume with its page
+    /// @param YSEPR before the year; empty: citations have no year
+    /// @param VSEPR between volume and page
+    void Reset(TextView SEPAR, bool useNoDate, TextView volPrefix, bool useAuthorOrPeriodicalTitle, bool useTitle,
+               bool useOriginalYear, bool titleIsQuoted, bool useEmailKey, bool useDegree, bool supportsSubwork,
+               bool useWebsiteWhenNoAuthorAndDate, bool journalCentric, TextView PSEPR, TextView YSEPR, TextView VSEPR);
+    void Reset(const Options& options);
+
+    /// Reads a citation in any of the forms above.
+    /// @param text is consumed
+    /// @param previousStr the citation before, for "Ibid."
+    void Parse(Text& text, TextView previousStr);
+
+    /// Writes the citation.
+    /// @param model empty: what `Parse` read is written
+    /// @param firstNameCommand one of FirstNameCommand
+    /// @param hasOtherTitlesByAuthor the list has several works by the author
+    /// @param shouldReadFromModel False: what `Parse` read is written, and the model is not looked at
+    void ToFormattedString(const OutputSinkRef& formattedStr, const ReferenceModelRef& model,
+                           std::int16_t firstNameCommand, bool hasOtherTitlesByAuthor, bool shouldReadFromModel);
+    Text toString(const ReferenceModelRef& model, std::int16_t firstNameCommand, bool hasOtherTitlesByAuthor);
+    /// The form for a work that was cited before: the authors as their minimal form has them, and no title
+    /// where the author alone tells the work.
+    void ToMinimalFormattedString(const OutputSinkRef& formattedStr, const ReferenceModelRef& model,
+                                  std::int16_t firstNameCommand, bool hasOtherTitlesByAuthor);
+
+    /// Gives the model what `Parse` read: author, title, year and the like where the model has none, the volume
+    /// and page that are cited in any case.
+    /// @param modelType the host's number for the kind of reference, for its reports
+    /// @param authorTemplate reads the author where the model had none
+    /// @param multiVolTemplate kept for the host
+    void MergeFieldsWithModel(const ReferenceModelRef& model, std::int16_t modelType,
+                              const std::shared_ptr<OutputTemplateAuthor>& authorTemplate,
+                              const HostObjectRef& multiVolTemplate);
+
+    /// The year that `Parse` read.
+    Text Year() const;
+    void Year(TextView theVal);
+
+    /// Registers the next slot of a layout begun with `ResetLikeModelTemplate`, as `OutputTemplateModel::Add`.
+    void Add(std::int16_t Index, bool isFormatted, TextView checkingKey, const std::vector<Text>& separators);
+
+    TextView className() const override { return u"OutputTemplateCitation"; }
+    void dumpVariables(VBWPROTECTOR& report) const override;
+
+private:
+    class Slots;
+
+    CitationFields fieldsOf(const ReferenceModelRef& model, bool shouldReadFromModel) const;
+    void write(const OutputSinkRef& formattedStr, const ReferenceModelRef& model, std::int16_t firstNameCommand,
+               bool hasOtherTitlesByAuthor, bool shouldReadFromModel, bool isMinimal);
+    void layOut();
+
+    std::shared_ptr<OutputTemplateAuthor> personsIn(TextView text) const;
+    Text nameOf(const CitationFields& fields, std::int16_t firstNameCommand, bool isMinimal) const;
+    Text communicatorOf(const CitationFields& fields) const;
+    Text yearOf(const CitationFields& fields);
+    void fill(Slots& slots, const CitationFields& fields, std::int16_t firstNameCommand, bool hasOtherTitlesByAuthor,
+              bool isMinimal);
+    void addTitle(Slots& slots, std::int16_t slot, const CitationFields& fields) const;
+    void addLocator(Slots& slots, const CitationFields& fields) const;
+
+    bool mUseMultiPartWork = false;
+    std::shared_ptr<OutputTemplateAuthor> mAuthorModelOutputTemplate;
+    std::shared_ptr<OutputTemplateTitle> mTitleModelOutputTemplate;
+    HostObjectRef mMultiVolModelOutputTemplate;
+    std::shared_ptr<OutputTemplateYear> mYearTemplate;
+    std::shared_ptr<outputTemplate> mOutputTemplate;
+    std::shared_ptr<outputTemplate> mElectronicOutputTemplate;
+    std::shared_ptr<OutputTemplateModel> mModelTemplate;
+    OutputSinkRef mFormattedStr;
+    CitationFieldIndexes mIndexes;
+    Options mOptions;
+    bool mIsLikeModelTemplate = false;
+    ImplementorRef mCallback;
+    CitationFields mFields;
+};
+
+}  // namespace quorvel
