@@ -35,10 +35,10 @@ struct AuthorRecord {
 ///   Wegener DT, Petty RE                        AMA 10 3.7
 ///
 /// The members are kept in several files by what they do: author.cpp (life and properties),
-/// author_output.cpp (writing), author_parse.cpp (the order of reading), author_residue.cpp (text of
-/// other elements), author_editors.cpp (tags), author_institutions.cpp (corporate authors),
-/// author_persons.cpp (from pieces of a list to persons), author_names.cpp (from a name to its parts),
-/// author_keywords.cpp (lists as other texts).
+/// output.cpp (writing), parse.cpp (the order of reading), residue.cpp (text of
+/// other elements), editors.cpp (tags), institutions.cpp (corporate authors),
+/// persons.cpp (from pieces of a list to persons), names.cpp (from a name to its parts),
+/// keywords.cpp (lists as other texts).
 class OutputTemplateAuthor final : public Instrumented, public Implementor {
 public:
     /// Values of `AuthorType`. They are part of the interface.
@@ -145,7 +145,7 @@ public:
     /// The list as text, or as RTF.
     /// @param isMinimal, isCitation the thresholds of the minimal form or of the citation count
     /// @param forceNoInitials first names are written in full; afterwards they are initials, whatever
-    ///        they were before (see author_output.cpp)
+    ///        they were before (see output.cpp)
     Text toString(bool isFootnote, bool shortenedVersion, bool isMinimal = false, bool isCitation = false,
                   bool forceNoInitials = false, bool isRTF = false);
 

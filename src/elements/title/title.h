@@ -58,7 +58,7 @@ public:
 
     /// Writes the title to the sink.
     /// @param isFootnote matters to prematter alone
-    /// @param shortenedVersion the short title (title_short.h), without translation and describing text
+    /// @param shortenedVersion the short title (title/short.h), without translation and describing text
     void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
     bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
                                bool shortenedVersion) override;

@@ -5,8 +5,8 @@
 
 #include "core/text.h"
 
-/// What words of titles can be, and the lists that say so. The names are title_names.h; the lexicon
-/// (title_lexicon.h) is made from both and answers for a word with all its classes at once.
+/// What words of titles can be, and the lists that say so. The names are names.h; the lexicon
+/// (lexicon.h) is made from both and answers for a word with all its classes at once.
 namespace quorvel::titlewords {
 
 /// Each class is one bit.
@@ -86,7 +86,7 @@ enum WordClass : std::uint64_t {
     kShipPrefix = 1ULL << 43U,
     /// Months that are words, too.
     kAmbiguousMonth = 1ULL << 44U,
-    /// The names of title_names.h.
+    /// The names of names.h.
     kPlace = 1ULL << 45U,
     kName = 1ULL << 46U,
     kGivenName = 1ULL << 47U,
