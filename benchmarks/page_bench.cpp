@@ -8,7 +8,7 @@ namespace {
 OutputTemplatePage turabianPage() {
     OutputTemplatePage page;
     page.Initialize(nullptr);
-    page.Reset(false, true, true, false, false, true, u"n.p.", u"chap.", u"chaps.", u"par.", u"pars.", true, true);
+    page.Reset({false, true, true, false, false, true, u"n.p.", u"chap.", u"chaps.", u"par.", u"pars.", true, true});
     return page;
 }
 

@@ -17,7 +17,7 @@ void parseAndWrite(OutputTemplatePublisher& publisher, const std::shared_ptr<Nul
 OutputTemplatePublisher mlaPublisher(const std::shared_ptr<NullSink>& sink) {
     OutputTemplatePublisher publisher;
     publisher.Initialize(sink);
-    publisher.Reset(true, true, false, true, true);
+    publisher.Reset({true, true, false, true, true});
     return publisher;
 }
 

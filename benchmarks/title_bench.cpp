@@ -10,7 +10,7 @@ namespace {
 std::shared_ptr<OutputTemplateTitle> titleIn(std::int16_t format, bool sentenceCapitalization) {
     auto title = std::make_shared<OutputTemplateTitle>();
     title->Initialize(std::make_shared<NullSink>());
-    title->Reset(format, nullptr, sentenceCapitalization, true, u"", true, u"", true, u"");
+    title->Reset({format, nullptr, sentenceCapitalization, true, u"", true, u"", true, u""});
     return title;
 }
 

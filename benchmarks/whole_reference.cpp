@@ -30,14 +30,14 @@ struct StyleOptions {
     OutputTemplateAuthor::Options authors;
     std::int16_t format;
     bool sentenceCapitalization;
-    OutputTemplatePage::Options page;
+    PageOptions page;
     bool shortens;
     // Before the year, the page, and the pieces of the rest.
     TextView beforeYear, beforePage, betweenPieces;
 };
 
 StyleOptions optionsOf(Style::Name name) {
-    OutputTemplatePage::Options page;
+    PageOptions page;
     switch (name) {
         case Style::kMla:
             page.shortenedPage = true;
@@ -126,14 +126,14 @@ Style::Style(Name name) : mFields(std::make_shared<NoFields>()) {
         // Journals keep their capitals.
         const bool isSentence = options.sentenceCapitalization && title == &mTitle;
         title->Initialize(sink);
-        title->Reset(options.format, nullptr, isSentence, true, u"", true, u"", true, u"");
+        title->Reset({options.format, nullptr, isSentence, true, u"", true, u"", true, u""});
     }
     mPlace.Initialize(sink);
-    mPlace.Reset(true, true, true, false, true);
+    mPlace.Reset({true, true, true, false, true});
     mPublisher.Initialize(sink);
-    mPublisher.Reset(true, true, false, options.shortens, true);
+    mPublisher.Reset({true, true, false, options.shortens, true});
     mYear.Initialize(sink);
-    mYear.Reset(true, false, true, u"c.", true, u"n.d.", true);
+    mYear.Reset({true, false, true, u"c.", true, u"n.d.", true});
     mPage.Initialize(sink);
     mPage.Reset(options.page);
 

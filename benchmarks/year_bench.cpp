@@ -8,7 +8,7 @@ namespace {
 OutputTemplateYear mlaYear() {
     OutputTemplateYear year;
     year.Initialize(nullptr);
-    year.Reset(true, false, true, u"c.", true, u"n.d.", false);
+    year.Reset({true, false, true, u"c.", true, u"n.d.", false});
     return year;
 }
 

@@ -11,7 +11,7 @@ namespace quorvel::CommonModelProcessingFunctions {
 
 namespace {
 
-constexpr Module kModule{u"CommonModelProcessingFunctions"};
+constexpr StandardModule kModule{u"CommonModelProcessingFunctions"};
 
 constexpr TextView kOmissionPoints = u". . .";
 constexpr TextView kOutputTypeKey = u"outputType";

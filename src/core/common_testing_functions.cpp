@@ -11,7 +11,7 @@ namespace quorvel::CommonTestingFunctions {
 
 namespace {
 
-constexpr Module kModule{u"CommonTestingFunctions"};
+constexpr StandardModule kModule{u"CommonTestingFunctions"};
 
 struct MonthKey {
     TextView key;

@@ -20,9 +20,9 @@ protected:
 };
 
 /// A module: procedures under one name that belong to no object and have no variables.
-class Module final : public Instrumented {
+class StandardModule final : public Instrumented {
 public:
-    constexpr explicit Module(const Name& name) : mName(name) {}
+    constexpr explicit StandardModule(const Name& name) : mName(name) {}
 
     TextView className() const override { return mName; }
     void dumpVariables(VBWPROTECTOR& /*report*/) const override {}

@@ -312,11 +312,6 @@ void outputTemplate::dumpVariables(VBWPROTECTOR& report) const {
     // Held, since the host may replace them between two of the reports.
     const OutputSinkRef formattedStr = mFormattedStr;
     const std::vector<OutputSinkRef> fragments = mFormattedItems;
-    std::vector<TraceValue::Object> formattedItems;
-    formattedItems.reserve(fragments.size());
-    for (const OutputSinkRef& fragment : fragments) {
-        formattedItems.push_back(fragment.get());
-    }
     report.vbwReportVariable(u"mMaxReferenceItems", mMaxReferenceItems);
     report.vbwReportVariable(u"mReferenceItems", referenceItems);
     report.vbwReportVariable(u"mIndexToFormatted", mIndexToFormatted);
@@ -324,7 +319,7 @@ void outputTemplate::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mItems", mItems);
     report.vbwReportVariable(u"mSeparatorFonts", mSeparatorFonts);
     report.vbwReportVariable(u"mFormattedStr", formattedStr);
-    report.vbwReportVariable(u"mFormattedItems", formattedItems);
+    report.vbwReportVariable(u"mFormattedItems", fragments);
 }
 
 }  // namespace quorvel

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <type_traits>
 
 #include "core/instrumented.h"
@@ -9,9 +8,6 @@
 /// reports entry, parameters and exit, and traps what the body throws.
 namespace quorvel {
 
-/// Parameters of a procedure that has none.
-inline constexpr std::initializer_list<Parameter> kNoParameters = {};
-
 /// Reports the exception in flight as an error of a procedure of `failed`. Only inside a catch block.
 void reportCurrentException(const Instrumented& failed, TextView procedure) noexcept;
 
@@ -19,7 +15,7 @@ namespace detail {
 
 class ProcedureReport {
 public:
-    ProcedureReport(const Instrumented& self, TextView name, std::initializer_list<Parameter> parameters)
+    ProcedureReport(const Instrumented& self, TextView name, const ParameterList& parameters)
         : mProtector(VBWPROTECTOR::ofThisApartment()) {
         mProtector.vbwProcIn(self, name, parameters);
     }
@@ -38,8 +34,8 @@ private:
 /// @return what the body returns; after an error the empty value of that type, while variables that
 /// the body filled before keep what they hold.
 template <class Body>
-std::invoke_result_t<Body&> procedure(const Instrumented& self, const Name& name,
-                                      std::initializer_list<Parameter> parameters, Body&& body) noexcept {
+std::invoke_result_t<Body&> procedure(const Instrumented& self, const Name& name, const ParameterList& parameters,
+                                      Body&& body) noexcept {
     using Result = std::invoke_result_t<Body&>;
     const detail::ProcedureReport report(self, name, parameters);
     try {

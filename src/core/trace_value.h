@@ -1,12 +1,16 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <memory>
+#include <span>
 #include <variant>
 #include <vector>
 
 #include "core/host_object.h"
+#include "core/output_sink.h"
 #include "core/text.h"
 
 namespace quorvel {
@@ -19,7 +23,7 @@ public:
     using Object = const HostObject*;
     using Storage =
         std::variant<bool, std::int16_t, std::int32_t, float, TextView, Object, const std::vector<bool>*,
-                     const std::vector<std::int16_t>*, const std::vector<Text>*, const std::vector<Object>*>;
+                     const std::vector<std::int16_t>*, const std::vector<Text>*, const std::vector<OutputSinkRef>*>;
 
     TraceValue(bool value) : mStorage(value) {}
     TraceValue(std::int16_t value) : mStorage(value) {}
@@ -33,7 +37,8 @@ public:
     template <class T>
     TraceValue(const std::shared_ptr<T>& value) : mStorage(hostObject(value.get())) {}
     TraceValue(Object value) : mStorage(value) {}
-    TraceValue(const std::vector<Object>& value) : mStorage(&value) {}
+    /// The fragments of an assembly; the plain slots' are empty.
+    TraceValue(const std::vector<OutputSinkRef>& value) : mStorage(&value) {}
     TraceValue(const void*) = delete;
 
     const Storage& storage() const { return mStorage; }
@@ -66,5 +71,24 @@ struct Parameter {
     Name name;
     TraceValue value;
 };
+
+/// The parameters of a call: a braced list, or an array that was made from a table of options. Borrowed for
+/// the length of the call.
+class ParameterList {
+public:
+    ParameterList(std::initializer_list<Parameter> list) : mList(list.begin(), list.size()) {}
+    template <std::size_t N>
+    ParameterList(const std::array<Parameter, N>& list) : mList(list) {}
+
+    bool empty() const { return mList.empty(); }
+    auto begin() const { return mList.begin(); }
+    auto end() const { return mList.end(); }
+
+private:
+    std::span<const Parameter> mList;
+};
+
+/// Of a procedure that has none.
+inline constexpr std::initializer_list<Parameter> kNoParameters = {};
 
 }  // namespace quorvel

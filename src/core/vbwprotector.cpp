@@ -105,8 +105,8 @@ void VBWPROTECTOR::forward(Report&& report) noexcept {
     }
 }
 
-Text VBWPROTECTOR::parameterList(std::initializer_list<Parameter> parameters) {
-    if (parameters.size() == 0) {
+Text VBWPROTECTOR::parameterList(const ParameterList& parameters) {
+    if (parameters.empty()) {
         return u"()";
     }
     Text list;
@@ -126,8 +126,7 @@ Text VBWPROTECTOR::parameterList(std::initializer_list<Parameter> parameters) {
     return list;
 }
 
-void VBWPROTECTOR::reportEntry(const Instrumented& self, TextView procedure,
-                               std::initializer_list<Parameter> parameters) noexcept {
+void VBWPROTECTOR::reportEntry(const Instrumented& self, TextView procedure, const ParameterList& parameters) noexcept {
     try {
         const Text list = parameterList(parameters);
         if (hasService()) {

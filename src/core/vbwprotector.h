@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <memory>
 
 #include "core/error_report_service.h"
@@ -44,7 +43,7 @@ public:
         }
     }
 
-    void vbwProcIn(const Instrumented& self, TextView procedure, std::initializer_list<Parameter> parameters) {
+    void vbwProcIn(const Instrumented& self, TextView procedure, const ParameterList& parameters) {
         if (mSwitches.vbwTraceProc && hasService()) {
             reportEntry(self, procedure, parameters);
         }
@@ -75,10 +74,9 @@ private:
         return !mIsReporting && (mErrorParams != nullptr || findService());
     }
     bool findService() noexcept;
-    void reportEntry(const Instrumented& self, TextView procedure,
-                     std::initializer_list<Parameter> parameters) noexcept;
+    void reportEntry(const Instrumented& self, TextView procedure, const ParameterList& parameters) noexcept;
     void reportExit() noexcept;
-    Text parameterList(std::initializer_list<Parameter> parameters);
+    Text parameterList(const ParameterList& parameters);
     void dumpOwnVariables() noexcept;
     template <class Report>
     void forward(Report&& report) noexcept;

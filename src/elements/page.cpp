@@ -115,51 +115,27 @@ void OutputTemplatePage::Initialize(const OutputSinkRef& formattedStr) {
     });
 }
 
-void OutputTemplatePage::Reset(bool supportsDOI, bool supportsNotes, bool elideZero, bool usePagePrefix,
-                               bool usePagePrefixInCitations, bool shortenedPage, TextView noPageStr,
-                               TextView chapterPrefix, TextView chapterPluralPrefix, TextView paraPrefix,
-                               TextView paraPluralPrefix, bool addDotToAdvancedPrefix, bool useEnDashForPageRange) {
-    procedure(*this, u"Reset",
-              {{u"supportsDOI", supportsDOI},
-               {u"supportsNotes", supportsNotes},
-               {u"elideZero", elideZero},
-               {u"usePagePrefix", usePagePrefix},
-               {u"usePagePrefixInCitations", usePagePrefixInCitations},
-               {u"shortenedPage", shortenedPage},
-               {u"noPageStr", noPageStr},
-               {u"chapterPrefix", chapterPrefix},
-               {u"chapterPluralPrefix", chapterPluralPrefix},
-               {u"paraPrefix", paraPrefix},
-               {u"paraPluralPrefix", paraPluralPrefix},
-               {u"addDotToAdvancedPrefix", addDotToAdvancedPrefix},
-               {u"useEnDashForPageRange", useEnDashForPageRange}},
-              [&] {
-                  mSupportsDOI = supportsDOI;
-                  mSupportsNotes = supportsNotes;
-                  mElideZero = elideZero;
-                  mUsePagePrefixInCitations = usePagePrefixInCitations;
-                  mShortenedPage = shortenedPage;
-                  mNoPageStr = noPageStr;
-                  mPageRangeSeparator = useEnDashForPageRange ? kEnDashText : kHyphen;
-                  mPrefixes.at(kPage) = usePagePrefix ? kPagePrefix : TextView();
-                  mPluralPrefixes.at(kPage) = usePagePrefix ? kPagePluralPrefix : TextView();
-                  mPrefixes.at(kChapter) = concatenate({chapterPrefix, u" "});
-                  mPluralPrefixes.at(kChapter) = concatenate({chapterPluralPrefix, u" "});
-                  mPrefixes.at(kParagraph) = concatenate({paraPrefix, u" "});
-                  mPluralPrefixes.at(kParagraph) = concatenate({paraPluralPrefix, u" "});
-                  mPrefixes.at(kLine) = kLinePrefix;
-                  mPluralPrefixes.at(kLine) = kLinePluralPrefix;
-                  for (const AdvancedPrefix& advanced : kAdvancedPrefixes) {
-                      addAdvancedPrefix(advanced.type, advanced.prefix, addDotToAdvancedPrefix);
-                  }
-              });
-}
-
-void OutputTemplatePage::Reset(const Options& options) {
-    Reset(options.supportsDOI, options.supportsNotes, options.elideZero, options.usePagePrefix,
-          options.usePagePrefixInCitations, options.shortenedPage, options.noPageStr, options.chapterPrefix,
-          options.chapterPluralPrefix, options.paraPrefix, options.paraPluralPrefix, options.addDotToAdvancedPrefix,
-          options.useEnDashForPageRange);
+void OutputTemplatePage::Reset(const PageOptions& options) {
+    procedure(*this, u"Reset", reported(kPageOptions, options), [&] {
+        mSupportsDOI = options.supportsDOI;
+        mSupportsNotes = options.supportsNotes;
+        mElideZero = options.elideZero;
+        mUsePagePrefixInCitations = options.usePagePrefixInCitations;
+        mShortenedPage = options.shortenedPage;
+        mNoPageStr = options.noPageStr;
+        mPageRangeSeparator = options.useEnDashForPageRange ? kEnDashText : kHyphen;
+        mPrefixes.at(kPage) = options.usePagePrefix ? kPagePrefix : TextView();
+        mPluralPrefixes.at(kPage) = options.usePagePrefix ? kPagePluralPrefix : TextView();
+        mPrefixes.at(kChapter) = concatenate({options.chapterPrefix, u" "});
+        mPluralPrefixes.at(kChapter) = concatenate({options.chapterPluralPrefix, u" "});
+        mPrefixes.at(kParagraph) = concatenate({options.paraPrefix, u" "});
+        mPluralPrefixes.at(kParagraph) = concatenate({options.paraPluralPrefix, u" "});
+        mPrefixes.at(kLine) = kLinePrefix;
+        mPluralPrefixes.at(kLine) = kLinePluralPrefix;
+        for (const AdvancedPrefix& advanced : kAdvancedPrefixes) {
+            addAdvancedPrefix(advanced.type, advanced.prefix, options.addDotToAdvancedPrefix);
+        }
+    });
 }
 
 void OutputTemplatePage::addAdvancedPrefix(std::int32_t pageType, TextView prefix, bool addDotToAdvancedPrefix) {

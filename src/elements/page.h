@@ -5,11 +5,55 @@
 #include <vector>
 
 #include "core/instrumented.h"
+#include "core/options.h"
 #include "core/output_sink.h"
 #include "core/text.h"
 #include "elements/year.h"
 
 namespace quorvel {
+
+/// What a style says of pages and other locators.
+struct PageOptions {
+    /// A DOI may stand in place of pages.
+    bool supportsDOI = false;
+    /// Note numbers are written.
+    bool supportsNotes = false;
+    /// A shortened last page loses a 0 in its last digit but one: "101–8".
+    bool elideZero = false;
+    /// "p. " and "pp. " stand before pages.
+    bool usePagePrefix = false;
+    /// They do so inside citations too.
+    bool usePagePrefixInCitations = false;
+    /// The last page of a range is shortened.
+    bool shortenedPage = false;
+    /// What stands for a missing page: "n. pag."
+    Text noPageStr;
+    /// The words before one and several chapters and paragraphs, without a blank behind.
+    Text chapterPrefix;
+    Text chapterPluralPrefix;
+    Text paraPrefix;
+    Text paraPluralPrefix;
+    /// The abbreviations of the types 4 to 14 end in a full stop.
+    bool addDotToAdvancedPrefix = false;
+    /// Ranges are written with U+2013 instead of "-".
+    bool useEnDashForPageRange = false;
+};
+
+inline constexpr std::tuple kPageOptions{
+    Option{u"supportsDOI", &PageOptions::supportsDOI},
+    Option{u"supportsNotes", &PageOptions::supportsNotes},
+    Option{u"elideZero", &PageOptions::elideZero},
+    Option{u"usePagePrefix", &PageOptions::usePagePrefix},
+    Option{u"usePagePrefixInCitations", &PageOptions::usePagePrefixInCitations},
+    Option{u"shortenedPage", &PageOptions::shortenedPage},
+    Option{u"noPageStr", &PageOptions::noPageStr},
+    Option{u"chapterPrefix", &PageOptions::chapterPrefix},
+    Option{u"chapterPluralPrefix", &PageOptions::chapterPluralPrefix},
+    Option{u"paraPrefix", &PageOptions::paraPrefix},
+    Option{u"paraPluralPrefix", &PageOptions::paraPluralPrefix},
+    Option{u"addDotToAdvancedPrefix", &PageOptions::addDotToAdvancedPrefix},
+    Option{u"useEnDashForPageRange", &PageOptions::useEnDashForPageRange},
+};
 
 /// Where in a work something stands: a page, a range of pages or another locator, with the numbers of
 /// notes (element type code 7).
@@ -54,23 +98,6 @@ public:
     /// The value of `Note` when there is none.
     static constexpr TextView kNoNote = u"__UNINITIALIZED__";
 
-    /// The settings of a style, under the names of `Reset`'s arguments.
-    struct Options {
-        bool supportsDOI = false;
-        bool supportsNotes = false;
-        bool elideZero = false;
-        bool usePagePrefix = false;
-        bool usePagePrefixInCitations = false;
-        bool shortenedPage = false;
-        TextView noPageStr;
-        TextView chapterPrefix;
-        TextView chapterPluralPrefix;
-        TextView paraPrefix;
-        TextView paraPluralPrefix;
-        bool addDotToAdvancedPrefix = false;
-        bool useEnDashForPageRange = false;
-    };
-
     /// One of LocatorType; a value above 14 or below -1 formats as a page.
     std::int32_t pageType = kPage;
     /// The numbers of the notes, as "3" or "3-4"; kNoNote, or empty, when there are none.
@@ -80,22 +107,7 @@ public:
     void Initialize(const OutputSinkRef& formattedStr);
 
     /// The options of the style in force; the parsed page stays.
-    /// @param supportsDOI a DOI may stand in place of pages
-    /// @param supportsNotes note numbers are written
-    /// @param elideZero a shortened last page loses a 0 in its last digit but one: "101–8"
-    /// @param usePagePrefix "p. " and "pp. " stand before pages
-    /// @param usePagePrefixInCitations they do so inside citations too
-    /// @param shortenedPage the last page of a range is shortened
-    /// @param noPageStr what stands for a missing page: "n. pag."
-    /// @param chapterPrefix, chapterPluralPrefix, paraPrefix, paraPluralPrefix the words before one and
-    ///        several chapters and paragraphs, without a blank behind
-    /// @param addDotToAdvancedPrefix the abbreviations of the types 4 to 14 end in a full stop
-    /// @param useEnDashForPageRange ranges are written with U+2013 instead of "-"
-    void Reset(bool supportsDOI, bool supportsNotes, bool elideZero, bool usePagePrefix, bool usePagePrefixInCitations,
-               bool shortenedPage, TextView noPageStr, TextView chapterPrefix, TextView chapterPluralPrefix,
-               TextView paraPrefix, TextView paraPluralPrefix, bool addDotToAdvancedPrefix, bool useEnDashForPageRange);
-    /// The same with the settings as one value.
-    void Reset(const Options& options);
+    void Reset(const PageOptions& options);
 
     /// A copy of the page and of the options but `elideZero`; it is not inside a citation.
     std::shared_ptr<OutputTemplatePage> Clone() const;

@@ -99,21 +99,14 @@ void OutputTemplatePlace::Initialize(const OutputSinkRef& formattedStr) {
     });
 }
 
-void OutputTemplatePlace::Reset(bool supportPlaceNotKnown, bool supportPlaceGuess, bool supportPlaceForSure,
-                                bool expandAbbreviations, bool repeatLocationIfInPublisherName) {
-    procedure(*this, u"Reset",
-              {{u"supportPlaceNotKnown", supportPlaceNotKnown},
-               {u"supportPlaceGuess", supportPlaceGuess},
-               {u"supportPlaceForSure", supportPlaceForSure},
-               {u"expandAbbreviations", expandAbbreviations},
-               {u"repeatLocationIfInPublisherName", repeatLocationIfInPublisherName}},
-              [&] {
-                  mSupportOptions.at(kNotKnown) = supportPlaceNotKnown;
-                  mSupportOptions.at(kGuessed) = supportPlaceGuess;
-                  mSupportOptions.at(kSupplied) = supportPlaceForSure;
-                  mExpandAbbreviations = expandAbbreviations;
-                  mRepeatLocationIfInPublisherName = repeatLocationIfInPublisherName;
-              });
+void OutputTemplatePlace::Reset(const PlaceOptions& options) {
+    procedure(*this, u"Reset", reported(kPlaceOptions, options), [&] {
+        mSupportOptions.at(kNotKnown) = options.supportPlaceNotKnown;
+        mSupportOptions.at(kGuessed) = options.supportPlaceGuess;
+        mSupportOptions.at(kSupplied) = options.supportPlaceForSure;
+        mExpandAbbreviations = options.expandAbbreviations;
+        mRepeatLocationIfInPublisherName = options.repeatLocationIfInPublisherName;
+    });
 }
 
 std::shared_ptr<OutputTemplatePlace> OutputTemplatePlace::Clone() const {
@@ -121,8 +114,8 @@ std::shared_ptr<OutputTemplatePlace> OutputTemplatePlace::Clone() const {
         auto clone = std::make_shared<OutputTemplatePlace>();
         clone->Initialize(nullptr);
         // The options only, deliberately.
-        clone->Reset(mSupportOptions.at(kNotKnown), mSupportOptions.at(kGuessed), mSupportOptions.at(kSupplied),
-                     mExpandAbbreviations, mRepeatLocationIfInPublisherName);
+        clone->Reset({mSupportOptions.at(kNotKnown), mSupportOptions.at(kGuessed), mSupportOptions.at(kSupplied),
+                      mExpandAbbreviations, mRepeatLocationIfInPublisherName});
         return clone;
     });
 }

@@ -5,10 +5,33 @@
 #include <vector>
 
 #include "core/instrumented.h"
+#include "core/options.h"
 #include "core/output_sink.h"
 #include "core/text.h"
 
 namespace quorvel {
+
+/// What a style says of places.
+struct PlaceOptions {
+    /// "n.p." is offered.
+    bool supportPlaceNotKnown = false;
+    /// "[Paris?]" is offered.
+    bool supportPlaceGuess = false;
+    /// "[Paris]" is offered.
+    bool supportPlaceForSure = false;
+    /// A two-letter state is written out in full.
+    bool expandAbbreviations = false;
+    /// The state is kept although the publisher's name holds it.
+    bool repeatLocationIfInPublisherName = false;
+};
+
+inline constexpr std::tuple kPlaceOptions{
+    Option{u"supportPlaceNotKnown", &PlaceOptions::supportPlaceNotKnown},
+    Option{u"supportPlaceGuess", &PlaceOptions::supportPlaceGuess},
+    Option{u"supportPlaceForSure", &PlaceOptions::supportPlaceForSure},
+    Option{u"expandAbbreviations", &PlaceOptions::expandAbbreviations},
+    Option{u"repeatLocationIfInPublisherName", &PlaceOptions::repeatLocationIfInPublisherName},
+};
 
 /// The place of publication and the way it is known (element type code 15).
 ///
@@ -38,13 +61,7 @@ public:
     void Initialize(const OutputSinkRef& formattedStr);
 
     /// The options of the style in force; the parsed place stays.
-    /// @param supportPlaceNotKnown "n.p." is offered
-    /// @param supportPlaceGuess "[Paris?]" is offered
-    /// @param supportPlaceForSure "[Paris]" is offered
-    /// @param expandAbbreviations a two-letter state is written out in full
-    /// @param repeatLocationIfInPublisherName the state is kept although the publisher's name holds it
-    void Reset(bool supportPlaceNotKnown, bool supportPlaceGuess, bool supportPlaceForSure, bool expandAbbreviations,
-               bool repeatLocationIfInPublisherName);
+    void Reset(const PlaceOptions& options);
 
     /// A copy of the options; its place is an empty plain one.
     std::shared_ptr<OutputTemplatePlace> Clone() const;

@@ -8,17 +8,15 @@ namespace quorvel {
 
 namespace {
 
-enum Slot : std::int16_t { kImprintSlot, kPublisherSlot, kCopublisherPlaceSlot, kCopublisherSlot };
+/// A text of a special kind stands in the publisher's slot.
+enum Slot : std::size_t { kImprintSlot, kPublisherSlot, kCopublisherPlaceSlot, kCopublisherSlot };
 
-constexpr std::size_t kSlots = 4;
-
-/// The separators of each slot: in front of the output, before each later slot, at the end.
-constexpr TextView kLayout[kSlots][kSlots + 1] = {
-    {u"", u"-", u"; ", u"; ", u""},
-    {u"", u"; ", u"; ", u""},
-    {u"", u": ", u""},
-    {u"", u""},
-};
+constexpr SlotLayout kLayout({
+    {kPlainSlot, {u"", u"-", u"; ", u"; ", u""}},
+    {kPlainSlot, {u"", u"; ", u"; ", u""}},
+    {kPlainSlot, {u"", u": ", u""}},
+    {kPlainSlot, {u"", u""}},
+});
 
 // What stands between the parts of a text; the blanks around the last two mean nothing.
 constexpr TextView kImprintSign = u"-";
@@ -91,40 +89,23 @@ TextView after(TextView text, TextView separator) {
 
 void OutputTemplatePublisher::Initialize(const OutputSinkRef& formattedStr) {
     procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
-        mOutputTemplate.Initialize(formattedStr);
-        Reset(false, false, false, false, false);
+        makeAssembly(formattedStr);
+        Reset({});
     });
 }
 
-void OutputTemplatePublisher::Reset(bool supportCoPublisher, bool useAdvancedOptions, bool usePublisherUnknown,
-                                    bool shortenUniversityAndPress, bool removePublisherAbbreviations) {
-    procedure(*this, u"Reset",
-              {{u"supportCoPublisher", supportCoPublisher},
-               {u"useAdvancedOptions", useAdvancedOptions},
-               {u"usePublisherUnknown", usePublisherUnknown},
-               {u"shortenUniversityAndPress", shortenUniversityAndPress},
-               {u"removePublisherAbbreviations", removePublisherAbbreviations}},
-              [&] {
-                  mSupportCoPublisher = supportCoPublisher;
-                  mSupportAdvancedOptions = useAdvancedOptions;
-                  mPublisherUnknown = usePublisherUnknown ? kPublisherUnknown : kNoPublisher;
-                  mShortenUniversityAndPress = shortenUniversityAndPress;
-                  mRemovePublisherAbbreviations = removePublisherAbbreviations;
-                  mOutputTemplate.Reset(kCopublisherSlot);
-                  for (std::size_t slot = 0; slot < kSlots; ++slot) {
-                      const TextView* const separators = kLayout[slot];
-                      Add(static_cast<std::int16_t>(slot), false, false,
-                          std::vector<Text>(separators, separators + kSlots + 1 - slot));
-                  }
-              });
+void OutputTemplatePublisher::Reset(const PublisherOptions& options) {
+    procedure(*this, u"Reset", reported(kPublisherOptions, options), [&] {
+        mOptions = options;
+        layOut(kLayout);
+    });
 }
 
 std::shared_ptr<OutputTemplatePublisher> OutputTemplatePublisher::Clone(const OutputSinkRef& formattedStr) const {
     return procedure(*this, u"Clone", {{u"formattedStr", formattedStr}}, [&] {
         auto clone = std::make_shared<OutputTemplatePublisher>();
         clone->Initialize(formattedStr);
-        clone->Reset(mSupportCoPublisher, mSupportAdvancedOptions, mPublisherUnknown == kPublisherUnknown,
-                     mShortenUniversityAndPress, mRemovePublisherAbbreviations);
+        clone->Reset(PublisherOptions(mOptions));
         clone->PublisherType = PublisherType;
         clone->copublisherPlace = copublisherPlace;
         clone->mPublisher = mPublisher;
@@ -134,58 +115,35 @@ std::shared_ptr<OutputTemplatePublisher> OutputTemplatePublisher::Clone(const Ou
     });
 }
 
-void OutputTemplatePublisher::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
-                                                bool shortenedVersion) {
-    procedure(*this, u"ToFormattedString",
-              {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
-              [&] {
-                  mOutputTemplate.ResetReferenceItems();
-                  mOutputTemplate.ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote);
-              });
-}
-
 Text OutputTemplatePublisher::toString(bool isFootnote, bool shortenedVersion) {
     return procedure(*this, u"toString", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
-                     [&] { return mOutputTemplate.toString(*this, shortenedVersion, isFootnote, false); });
+                     [&] { return assembledText(isFootnote, shortenedVersion); });
 }
 
-bool OutputTemplatePublisher::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
-                                                    std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
-    std::vector<TraceValue::Object> fragments;
-    fragments.reserve(formattedItems.size());
-    for (const OutputSinkRef& item : formattedItems) {
-        fragments.push_back(item.get());
+bool OutputTemplatePublisher::fillSlots(bool /*isFootnote*/, std::vector<Text>& items,
+                                        std::vector<OutputSinkRef>& /*formattedItems*/, bool /*shortenedVersion*/) {
+    if (isSpecial()) {
+        items.at(kPublisherSlot) = specialText();
+        return false;
     }
-    return procedure(*this, u"ToFormattedStringImpl",
-                     {{u"isFootnote", isFootnote},
-                      {u"items", items},
-                      {u"formattedItems", fragments},
-                      {u"shortenedVersion", shortenedVersion}},
-                     [&] {
-                         if (isSpecial()) {
-                             items.at(kPublisherSlot) = specialText();
-                             return false;
-                         }
-                         // All before the first goes into its slot: the reports reach the host, which may
-                         // empty the slots meanwhile.
-                         Text imprint = getImprint();
-                         Text name = targetedReplace(publisher());
-                         Text place = getCopublisherPlace();
-                         Text copublisher = getCopublisher();
-                         items.at(kImprintSlot) = std::move(imprint);
-                         items.at(kPublisherSlot) = std::move(name);
-                         items.at(kCopublisherPlaceSlot) = std::move(place);
-                         items.at(kCopublisherSlot) = std::move(copublisher);
-                         return false;
-                     });
+    // All before the first goes into its slot: the reports reach the host, which may empty the slots meanwhile.
+    Text imprint = getImprint();
+    Text name = targetedReplace(publisher());
+    Text place = getCopublisherPlace();
+    Text copublisher = getCopublisher();
+    items.at(kImprintSlot) = std::move(imprint);
+    items.at(kPublisherSlot) = std::move(name);
+    items.at(kCopublisherPlaceSlot) = std::move(place);
+    items.at(kCopublisherSlot) = std::move(copublisher);
+    return false;
 }
 
 bool OutputTemplatePublisher::supportCoPublisher() const {
-    return procedure(*this, u"supportCoPublisher[Get]", kNoParameters, [&] { return mSupportCoPublisher; });
+    return procedure(*this, u"supportCoPublisher[Get]", kNoParameters, [&] { return mOptions.supportCoPublisher; });
 }
 
 bool OutputTemplatePublisher::SupportAdvancedOptions() const {
-    return procedure(*this, u"SupportAdvancedOptions[Get]", kNoParameters, [&] { return mSupportAdvancedOptions; });
+    return procedure(*this, u"SupportAdvancedOptions[Get]", kNoParameters, [&] { return mOptions.useAdvancedOptions; });
 }
 
 Text OutputTemplatePublisher::publisher() const {
@@ -234,14 +192,6 @@ void OutputTemplatePublisher::Parse(Text& text, TextView previousStr) {
             CoPublisher(targetedExpansion(CoPublisher()));
         }
     });
-}
-
-void OutputTemplatePublisher::Add(std::int16_t Index, bool isFormatted, bool isChecking,
-                                  const std::vector<Text>& separators) {
-    procedure(
-        *this, u"Add",
-        {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
-        [&] { mOutputTemplate.Add(Index, isFormatted, isChecking, separators); });
 }
 
 Text OutputTemplatePublisher::getImprint() const {
@@ -310,12 +260,12 @@ Text OutputTemplatePublisher::targetedExpansion(TextView text) const {
 Text OutputTemplatePublisher::targetedReplace(TextView text) const {
     return procedure(*this, u"targetedReplace", {{u"text", text}}, [&] {
         Text result(text);
-        if (mShortenUniversityAndPress) {
+        if (mOptions.shortenUniversityAndPress) {
             for (const Shortening& words : kShortenings) {
                 result = targetedReplaceImpl(result, words.full, words.shortened);
             }
         }
-        if (mRemovePublisherAbbreviations) {
+        if (mOptions.removePublisherAbbreviations) {
             removePrefix(result, kArticle);
             for (const TextView abbreviation : kAbbreviations) {
                 removeSuffix(result, abbreviation);
@@ -355,7 +305,7 @@ Text OutputTemplatePublisher::specialText() const {
         case kInPreparation: return Text(kInPreparationText);
         case kSubmitted: return Text(kSubmittedText);
         case kAuthor: return Text(kAuthorText);
-        default: return mPublisherUnknown;
+        default: return Text(mOptions.usePublisherUnknown ? kPublisherUnknown : kNoPublisher);
     }
 }
 
@@ -365,11 +315,11 @@ void OutputTemplatePublisher::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mPublisher", mPublisher);
     report.vbwReportVariable(u"mImprint", mImprint);
     report.vbwReportVariable(u"mCoPublisher", mCoPublisher);
-    report.vbwReportVariable(u"mSupportAdvancedOptions", mSupportAdvancedOptions);
-    report.vbwReportVariable(u"mSupportCoPublisher", mSupportCoPublisher);
-    report.vbwReportVariable(u"mShortenUniversityAndPress", mShortenUniversityAndPress);
-    report.vbwReportVariable(u"mRemovePublisherAbbreviations", mRemovePublisherAbbreviations);
-    report.vbwReportVariable(u"mPublisherUnknown", mPublisherUnknown);
+    report.vbwReportVariable(u"mSupportAdvancedOptions", mOptions.useAdvancedOptions);
+    report.vbwReportVariable(u"mSupportCoPublisher", mOptions.supportCoPublisher);
+    report.vbwReportVariable(u"mShortenUniversityAndPress", mOptions.shortenUniversityAndPress);
+    report.vbwReportVariable(u"mRemovePublisherAbbreviations", mOptions.removePublisherAbbreviations);
+    report.vbwReportVariable(u"mPublisherUnknown", mOptions.usePublisherUnknown ? kPublisherUnknown : kNoPublisher);
     report.vbwReportVariable(u"mOutputTemplate", HostObjectRef());
 }
 

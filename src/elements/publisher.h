@@ -4,13 +4,34 @@
 #include <memory>
 #include <vector>
 
-#include "core/implementor.h"
-#include "core/instrumented.h"
+#include "core/assembled_element.h"
+#include "core/options.h"
 #include "core/output_sink.h"
-#include "core/output_template.h"
 #include "core/text.h"
 
 namespace quorvel {
+
+/// What a style says of publishers.
+struct PublisherOptions {
+    /// Forms offer a co-publisher.
+    bool supportCoPublisher = false;
+    /// Forms offer an imprint and the special kinds.
+    bool useAdvancedOptions = false;
+    /// A missing publisher is "Publisher unknown" instead of "n.p."
+    bool usePublisherUnknown = false;
+    /// "University" is written "U", "Press" "P", both together "UP".
+    bool shortenUniversityAndPress = false;
+    /// A leading "The" and words such as "Inc." and "Co." are left out.
+    bool removePublisherAbbreviations = false;
+};
+
+inline constexpr std::tuple kPublisherOptions{
+    Option{u"supportCoPublisher", &PublisherOptions::supportCoPublisher},
+    Option{u"useAdvancedOptions", &PublisherOptions::useAdvancedOptions},
+    Option{u"usePublisherUnknown", &PublisherOptions::usePublisherUnknown},
+    Option{u"shortenUniversityAndPress", &PublisherOptions::shortenUniversityAndPress},
+    Option{u"removePublisherAbbreviations", &PublisherOptions::removePublisherAbbreviations},
+};
 
 /// The publisher, with its imprint and co-publisher where it has them (element type code 5).
 ///
@@ -28,7 +49,7 @@ namespace quorvel {
 /// style that offers no imprints or co-publishers.
 ///
 /// Styles: MLA 7 5.5.2, 5.5.17-18, 7.5, APA 6 6.30, 7.09, Turabian 7 17.1.6, AMA 10 3.12.
-class OutputTemplatePublisher final : public Implementor, public Instrumented {
+class OutputTemplatePublisher final : public AssembledElement {
 public:
     /// Values of `PublisherType`. They are part of the interface.
     enum PublisherKind : std::int32_t {
@@ -49,28 +70,14 @@ public:
     void Initialize(const OutputSinkRef& formattedStr);
 
     /// The options of the style in force; the parsed publisher stays.
-    /// @param supportCoPublisher forms offer a co-publisher
-    /// @param useAdvancedOptions forms offer an imprint and the special kinds
-    /// @param usePublisherUnknown a missing publisher is "Publisher unknown" instead of "n.p."
-    /// @param shortenUniversityAndPress "University" is written "U", "Press" "P", both together "UP"
-    /// @param removePublisherAbbreviations a leading "The" and words such as "Inc." and "Co." are left out
-    void Reset(bool supportCoPublisher, bool useAdvancedOptions, bool usePublisherUnknown,
-               bool shortenUniversityAndPress, bool removePublisherAbbreviations);
+    void Reset(const PublisherOptions& options);
 
     /// A copy of the options and of the parsed publisher.
     /// @param formattedStr the host's sink for the copy
     std::shared_ptr<OutputTemplatePublisher> Clone(const OutputSinkRef& formattedStr) const;
 
-    /// Writes the publisher to the sink; the same in notes and in shortened form.
-    void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
-
     /// The publisher as the style writes it, as plain text.
     Text toString(bool isFootnote, bool shortenedVersion);
-
-    /// Fills the slots 0 imprint, 1 publisher or the text of a special kind, 2 place of the co-publisher,
-    /// 3 co-publisher.
-    bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
-                               bool shortenedVersion) override;
 
     bool supportCoPublisher() const;
     bool SupportAdvancedOptions() const;
@@ -93,7 +100,8 @@ public:
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:
-    void Add(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
+    bool fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                   bool shortenedVersion) override;
 
     Text getImprint() const;
     Text getCopublisher() const;
@@ -111,12 +119,7 @@ private:
     Text mPublisher;
     Text mImprint;
     Text mCoPublisher;
-    bool mSupportAdvancedOptions = false;
-    bool mSupportCoPublisher = false;
-    bool mShortenUniversityAndPress = false;
-    bool mRemovePublisherAbbreviations = false;
-    Text mPublisherUnknown;
-    outputTemplate mOutputTemplate;
+    PublisherOptions mOptions;
 };
 
 }  // namespace quorvel

@@ -68,26 +68,17 @@ void OutputTemplateYear::Initialize(const OutputSinkRef& formattedStr) {
     });
 }
 
-void OutputTemplateYear::Reset(bool supportForthcoming, bool supportInPress, bool supportYearGuess, TextView circa,
-                               bool supportYearForSure, TextView noDateString, bool useEnDashForYearRange) {
-    procedure(*this, u"Reset",
-              {{u"supportForthcoming", supportForthcoming},
-               {u"supportInPress", supportInPress},
-               {u"supportYearGuess", supportYearGuess},
-               {u"circa", circa},
-               {u"supportYearForSure", supportYearForSure},
-               {u"noDateString", noDateString},
-               {u"useEnDashForYearRange", useEnDashForYearRange}},
-              [&] {
-                  mSupportOptions.at(kSupplied) = supportYearForSure;
-                  mSupportOptions.at(kCirca) = !circa.empty();
-                  mSupportOptions.at(kGuessed) = supportYearGuess;
-                  mSupportOptions.at(kNotYetPublished) = supportForthcoming || supportInPress;
-                  mNoDate = noDateString;
-                  mForthcomingStr = supportInPress ? kInPress : kForthcoming;
-                  mCirca = circa;
-                  museEnDashForYearRange = useEnDashForYearRange ? kTrue : kFalse;
-              });
+void OutputTemplateYear::Reset(const YearOptions& options) {
+    procedure(*this, u"Reset", reported(kYearOptions, options), [&] {
+        mSupportOptions.at(kSupplied) = options.supportYearForSure;
+        mSupportOptions.at(kCirca) = !options.circa.empty();
+        mSupportOptions.at(kGuessed) = options.supportYearGuess;
+        mSupportOptions.at(kNotYetPublished) = options.supportForthcoming || options.supportInPress;
+        mNoDate = options.noDateString;
+        mForthcomingStr = options.supportInPress ? kInPress : kForthcoming;
+        mCirca = options.circa;
+        museEnDashForYearRange = options.useEnDashForYearRange ? kTrue : kFalse;
+    });
 }
 
 std::shared_ptr<OutputTemplateYear> OutputTemplateYear::Clone() const {

@@ -5,10 +5,38 @@
 #include <vector>
 
 #include "core/instrumented.h"
+#include "core/options.h"
 #include "core/output_sink.h"
 #include "core/text.h"
 
 namespace quorvel {
+
+/// What a style says of years.
+struct YearOptions {
+    /// Works not yet published are offered, as "In press" with the next option and as "forthcoming" otherwise.
+    bool supportForthcoming = false;
+    bool supportInPress = false;
+    /// "[1990?]" is offered.
+    bool supportYearGuess = false;
+    /// The word before an approximate year, "c." or "ca."; empty when the style has none.
+    Text circa;
+    /// "[1990]" is offered.
+    bool supportYearForSure = false;
+    /// What stands for a missing date: "n.d.", "date unknown".
+    Text noDateString;
+    /// Ranges are written with U+2013 instead of "-".
+    bool useEnDashForYearRange = false;
+};
+
+inline constexpr std::tuple kYearOptions{
+    Option{u"supportForthcoming", &YearOptions::supportForthcoming},
+    Option{u"supportInPress", &YearOptions::supportInPress},
+    Option{u"supportYearGuess", &YearOptions::supportYearGuess},
+    Option{u"circa", &YearOptions::circa},
+    Option{u"supportYearForSure", &YearOptions::supportYearForSure},
+    Option{u"noDateString", &YearOptions::noDateString},
+    Option{u"useEnDashForYearRange", &YearOptions::useEnDashForYearRange},
+};
 
 /// The year of publication and the way it is known (element type code 6).
 ///
@@ -42,15 +70,7 @@ public:
     void Initialize(const OutputSinkRef& formattedStr);
 
     /// The options of the style in force; the parsed year stays.
-    /// @param supportForthcoming, supportInPress works not yet published are offered, as "In press" when
-    ///        the latter is set and as "forthcoming" otherwise
-    /// @param supportYearGuess "[1990?]" is offered
-    /// @param circa the word before an approximate year, "c." or "ca."; empty when the style has none
-    /// @param supportYearForSure "[1990]" is offered
-    /// @param noDateString what stands for a missing date: "n.d.", "date unknown"
-    /// @param useEnDashForYearRange ranges are written with U+2013 instead of "-"
-    void Reset(bool supportForthcoming, bool supportInPress, bool supportYearGuess, TextView circa,
-               bool supportYearForSure, TextView noDateString, bool useEnDashForYearRange);
+    void Reset(const YearOptions& options);
 
     /// A copy of the year and of the options but the word for works not yet published and the en dash,
     /// which a copy lacks until its own `Reset`.

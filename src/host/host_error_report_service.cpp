@@ -31,10 +31,10 @@ struct ToVariant {
     Variant operator()(const std::vector<bool>* values) const { return arrayOfFlags(*values); }
     Variant operator()(const std::vector<std::int16_t>* values) const { return arrayOf(*values); }
     Variant operator()(const std::vector<Text>* values) const { return arrayOfTexts(*values); }
-    Variant operator()(const std::vector<TraceValue::Object>* objects) const {
+    Variant operator()(const std::vector<OutputSinkRef>* fragments) const {
         std::vector<Variant> variants;
-        for (const TraceValue::Object object : *objects) {
-            variants.emplace_back(dispatchOf(object));
+        for (const OutputSinkRef& fragment : *fragments) {
+            variants.emplace_back(dispatchOf(fragment.get()));
         }
         return arrayOfVariants(std::move(variants));
     }

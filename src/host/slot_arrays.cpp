@@ -9,7 +9,7 @@ namespace quorvel::host {
 
 namespace {
 
-constexpr Module kModule{u"OutputTemplate"};
+constexpr StandardModule kModule{u"OutputTemplate"};
 
 OutputSinkRef sinkOf(const Variant& value) {
     Variant object;

@@ -12,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     OutputTemplatePage page;
     page.Initialize(nullptr);
-    const OutputTemplatePage::Options style = {
+    const PageOptions style = {
         .supportsDOI = (options & 1) != 0,
         .supportsNotes = (options & 2) != 0,
         .elideZero = (options & 4) != 0,

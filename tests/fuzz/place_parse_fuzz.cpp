@@ -10,7 +10,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     OutputTemplatePlace place;
     place.Initialize(nullptr);
-    place.Reset((options & 1) != 0, (options & 2) != 0, (options & 4) != 0, (options & 8) != 0, (options & 16) != 0);
+    place.Reset({(options & 1) != 0, (options & 2) != 0, (options & 4) != 0, (options & 8) != 0, (options & 16) != 0});
     Text remainder = text;
     place.Parse(remainder, {});
     require(place.Place == remainder);

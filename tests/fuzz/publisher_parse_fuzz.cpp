@@ -12,8 +12,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto sink = std::make_shared<RecordingSink>();
     OutputTemplatePublisher publisher;
     publisher.Initialize(sink);
-    publisher.Reset((options & 1) != 0, (options & 2) != 0, (options & 4) != 0, (options & 8) != 0,
-                    (options & 16) != 0);
+    publisher.Reset(
+        {(options & 1) != 0, (options & 2) != 0, (options & 4) != 0, (options & 8) != 0, (options & 16) != 0});
     Text remainder = text;
     publisher.Parse(remainder, {});
     publisher.ToFormattedString(sink, (options & 32) != 0, (options & 64) != 0);
@@ -23,7 +23,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // Nothing that was read is lost in a style that shortens nothing: only blanks, and a separator that
     // joins nothing, may go.
-    publisher.Reset(false, false, false, false, false);
+    publisher.Reset({false, false, false, false, false});
     const Text full = publisher.toString(false, false);
     if (publisher.PublisherType == OutputTemplatePublisher::kNamed) {
         const auto letters = [](const Text& from) {

@@ -18,8 +18,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     OutputTemplateTitle title;
     title.Initialize(std::make_shared<RecordingSink>());
-    title.Reset(static_cast<std::int16_t>((options & 7) - 1), author, (options & 8) != 0, (options & 16) != 0, u"",
-                (options & 32) != 0, u"", true, u"");
+    title.Reset({static_cast<std::int16_t>((options & 7) - 1), author, (options & 8) != 0, (options & 16) != 0, u"",
+                 (options & 32) != 0, u"", true, u""});
     title.IsChapterOrWebsite((options & 64) != 0);
     Text remainder = text;
     title.Parse(remainder, (options & 128) != 0 ? u"Introduction" : u"");

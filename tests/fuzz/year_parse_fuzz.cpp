@@ -23,8 +23,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     OutputTemplateYear year;
     year.Initialize(nullptr);
     const bool hasCirca = (options & 1) != 0;
-    year.Reset((options & 2) != 0, (options & 4) != 0, (options & 8) != 0, hasCirca ? u"ca." : u"", (options & 16) != 0,
-               u"n.d.", (options & 32) != 0);
+    year.Reset({(options & 2) != 0, (options & 4) != 0, (options & 8) != 0, hasCirca ? u"ca." : u"",
+                (options & 16) != 0, u"n.d.", (options & 32) != 0});
     Text remainder = text;
     year.Parse(remainder, {});
     const Text written = year.toString(false, false);

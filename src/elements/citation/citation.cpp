@@ -411,7 +411,12 @@ Text OutputTemplateCitation::yearOf(const CitationFields& fields) {
     const std::shared_ptr<OutputTemplateYear> year = held(mYearTemplate);
     Text remainder = fields.year.empty() ? Text(citationtext::kNoDate) : fields.year;
     // A range has the dash with which the style's own year element wrote it.
-    year->Reset(true, false, true, kCirca, true, citationtext::kNoDate, contains(remainder, TextView(&kEnDash, 1)));
+    year->Reset({.supportForthcoming = true,
+                 .supportYearGuess = true,
+                 .circa = Text(kCirca),
+                 .supportYearForSure = true,
+                 .noDateString = Text(citationtext::kNoDate),
+                 .useEnDashForYearRange = contains(remainder, TextView(&kEnDash, 1))});
     year->Parse(remainder, {});
     Text result;
     switch (year->yearType) {

@@ -16,27 +16,16 @@ namespace {
 constexpr std::int16_t kLastSlot = OutputTemplateDateTime::kTimeZone;
 
 /// The separators of each slot: in front of the output, before each later slot, at the end.
-struct Layout {
-    std::array<TextView, 4> date;
-    std::array<TextView, 3> time;
-    std::array<TextView, 2> zone;
-};
-
-constexpr Layout kJoined = {
-    {u"", u", ", u", ", u""},
-    {u"", u" ", u""},
-    {u"", u""},
-};
-constexpr Layout kParenthesized = {
-    {u"", u" (", u" (", u""},
-    {u"(", u" ", u")"},
-    {u"(", u")"},
-};
-
-template <std::size_t N>
-std::vector<Text> texts(const std::array<TextView, N>& separators) {
-    return {separators.begin(), separators.end()};
-}
+constexpr SlotLayout kJoined({
+    {kPlainSlot, {u"", u", ", u", ", u""}},
+    {kPlainSlot, {u"", u" ", u""}},
+    {kPlainSlot, {u"", u""}},
+});
+constexpr SlotLayout kParenthesized({
+    {kPlainSlot, {u"", u" (", u" (", u""}},
+    {kPlainSlot, {u"(", u" ", u")"}},
+    {kPlainSlot, {u"(", u")"}},
+});
 
 // What joins a date and a time: "on September 1, 2011, at 10:23 a.m."
 constexpr TextView kJoiningWords[] = {u"on", u"at"};
@@ -126,28 +115,19 @@ Text withShortMonths(const Text& pattern) {
 void OutputTemplateDateTime::Initialize(const OutputSinkRef& formattedString) {
     procedure(*this, u"Initialize", {{u"formattedString", formattedString}}, [&] {
         mFormattedStr = formattedString;
-        mOutputTemplate.Initialize(formattedString);
+        makeAssembly(formattedString);
         Reset();
     });
 }
 
-void OutputTemplateDateTime::Reset(TextView dateFormat, bool parenthesize, bool useShortMonths) {
-    procedure(*this, u"Reset",
-              {{u"dateFormat", dateFormat}, {u"parenthesize", parenthesize}, {u"useShortMonths", useShortMonths}}, [&] {
-                  mDateFormat = dateFormat.empty() ? kDefaultDateFormat : dateFormat;
-                  mParenthesize = parenthesize;
-                  mUseShortMonths = useShortMonths;
-                  const Layout& layout = parenthesize ? kParenthesized : kJoined;
-                  mOutputTemplate.Reset(kLastSlot);
-                  Add(kDate, texts(layout.date));
-                  Add(kTime, texts(layout.time));
-                  Add(kTimeZone, texts(layout.zone));
-              });
-}
-
-void OutputTemplateDateTime::Add(std::int16_t index, const std::vector<Text>& separators) {
-    procedure(*this, u"Add", {{u"index", index}, {u"separators", separators}},
-              [&] { mOutputTemplate.Add(index, false, false, separators); });
+void OutputTemplateDateTime::Reset(const DateTimeOptions& options) {
+    procedure(*this, u"Reset", reported(kDateTimeOptions, options), [&] {
+        mOptions = options;
+        if (mOptions.dateFormat.empty()) {
+            mOptions.dateFormat = DateTimeOptions().dateFormat;
+        }
+        layOut(mOptions.parenthesize ? kParenthesized : kJoined);
+    });
 }
 
 std::shared_ptr<OutputTemplateDateTime> OutputTemplateDateTime::Clone() const {
@@ -155,7 +135,7 @@ std::shared_ptr<OutputTemplateDateTime> OutputTemplateDateTime::Clone() const {
         auto clone = std::make_shared<OutputTemplateDateTime>();
         clone->Initialize(OutputSinkRef(mFormattedStr));
         // By value: the host's sink may have given us other options by then.
-        clone->Reset(Text(mDateFormat), mParenthesize, mUseShortMonths);
+        clone->Reset(DateTimeOptions(mOptions));
         clone->mValues = mValues;
         return clone;
     });
@@ -171,35 +151,14 @@ void OutputTemplateDateTime::value(std::int16_t index, TextView theVal) {
               [&] { mValues.at(static_cast<std::size_t>(index)) = theVal; });
 }
 
-void OutputTemplateDateTime::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
-                                               bool shortenedVersion) {
-    procedure(*this, u"ToFormattedString",
-              {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
-              [&] {
-                  mOutputTemplate.ResetReferenceItems();
-                  mOutputTemplate.ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote);
-              });
-}
-
-bool OutputTemplateDateTime::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
-                                                   std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
-    std::vector<TraceValue::Object> fragments;
-    fragments.reserve(formattedItems.size());
-    for (const OutputSinkRef& item : formattedItems) {
-        fragments.push_back(item.get());
-    }
-    return procedure(*this, u"ToFormattedStringImpl",
-                     {{u"isFootnote", isFootnote},
-                      {u"items", items},
-                      {u"formattedItems", fragments},
-                      {u"shortenedVersion", shortenedVersion}},
-                     [&] {
-                         const Text date = formattedDate(Text(mValues.at(kDate)));
-                         items.at(kDate) = date;
-                         items.at(kTime) = withHalfOfDay(mValues.at(kTime));
-                         items.at(kTimeZone) = mValues.at(kTimeZone);
-                         return false;
-                     });
+bool OutputTemplateDateTime::fillSlots(bool /*isFootnote*/, std::vector<Text>& items,
+                                       std::vector<OutputSinkRef>& /*formattedItems*/, bool /*shortenedVersion*/) {
+    // Formatting reports, and the host may empty the slots meanwhile.
+    Text date = formattedDate(Text(mValues.at(kDate)));
+    items.at(kDate) = std::move(date);
+    items.at(kTime) = withHalfOfDay(mValues.at(kTime));
+    items.at(kTimeZone) = mValues.at(kTimeZone);
+    return false;
 }
 
 /// Only a complete date goes through the pattern: without its day, "June 2010" would become "June, 2010", and seasons
@@ -207,11 +166,11 @@ bool OutputTemplateDateTime::ToFormattedStringImpl(bool isFootnote, std::vector<
 Text OutputTemplateDateTime::formattedDate(const Text& date) const {
     const std::optional<Text> complete = completeDate(date);
     if (!complete) {
-        const std::optional<MonthsAndYear> dayless = monthsAndYear(date, mUseShortMonths);
+        const std::optional<MonthsAndYear> dayless = monthsAndYear(date, mOptions.useShortMonths);
         if (!dayless) {
             return date;
         }
-        const Text pattern = toLower(mDateFormat);
+        const Text pattern = toLower(mOptions.dateFormat);
         if (!contains(pattern, kShortMonth)) {
             return date;
         }
@@ -219,14 +178,14 @@ Text OutputTemplateDateTime::formattedDate(const Text& date) const {
         return isYearFirst ? concatenate({dayless->year, u", ", dayless->months})
                            : concatenate({dayless->months, u" ", dayless->year});
     }
-    Text pattern = mUseShortMonths ? withShortMonths(mDateFormat) : mDateFormat;
+    Text pattern = mOptions.useShortMonths ? withShortMonths(mOptions.dateFormat) : mOptions.dateFormat;
     return CommonTestingFunctions::FormatDate(*complete, pattern);
 }
 
 Text OutputTemplateDateTime::toString(bool isFootnote, bool shortenedVersion, bool isRTF) {
     return procedure(*this, u"toString",
                      {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}, {u"isRTF", isRTF}},
-                     [&] { return mOutputTemplate.toString(*this, shortenedVersion, isFootnote, isRTF); });
+                     [&] { return assembledText(isFootnote, shortenedVersion, isRTF); });
 }
 
 Text OutputTemplateDateTime::formatStr(TextView text) {
@@ -258,9 +217,9 @@ void OutputTemplateDateTime::Parse(Text& text, TextView secondaryText) {
 void OutputTemplateDateTime::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mFormattedStr", mFormattedStr);
     report.vbwReportVariable(u"mOutputTemplate", HostObjectRef());
-    report.vbwReportVariable(u"mDateFormat", mDateFormat);
-    report.vbwReportVariable(u"mParenthesize", mParenthesize);
-    report.vbwReportVariable(u"mUseShortMonths", mUseShortMonths);
+    report.vbwReportVariable(u"mDateFormat", mOptions.dateFormat);
+    report.vbwReportVariable(u"mParenthesize", mOptions.parenthesize);
+    report.vbwReportVariable(u"mUseShortMonths", mOptions.useShortMonths);
     report.vbwReportVariable(u"mValues", mValues);
 }
 

@@ -5,13 +5,28 @@
 #include <memory>
 #include <vector>
 
-#include "core/implementor.h"
-#include "core/instrumented.h"
+#include "core/assembled_element.h"
+#include "core/options.h"
 #include "core/output_sink.h"
-#include "core/output_template.h"
 #include "core/text.h"
 
 namespace quorvel {
+
+/// How a style writes dates.
+struct DateTimeOptions {
+    /// The pattern of complete dates (see Dates::format); empty: this one.
+    Text dateFormat = u"mmmm d, yyyy";
+    /// The time stands in parentheses instead of after ", ".
+    bool parenthesize = false;
+    /// The months of the pattern are abbreviated as in MLA 7 (7.2).
+    bool useShortMonths = false;
+};
+
+inline constexpr std::tuple kDateTimeOptions{
+    Option{u"dateFormat", &DateTimeOptions::dateFormat},
+    Option{u"parenthesize", &DateTimeOptions::parenthesize},
+    Option{u"useShortMonths", &DateTimeOptions::useShortMonths},
+};
 
 /// A date with a time of day and its zone, each of which may be missing (element type code 17).
 ///
@@ -29,7 +44,7 @@ namespace quorvel {
 /// is not made of these parts alone is kept whole as the date.
 ///
 /// Styles: MLA 7 5.6.2, APA 6 6.28, Turabian 7 17.5.2, AMA 10 3.15.
-class OutputTemplateDateTime final : public Implementor, public Instrumented {
+class OutputTemplateDateTime final : public AssembledElement {
 public:
     /// Indexes of `value`. They are part of the interface.
     enum Value : std::int16_t {
@@ -38,18 +53,12 @@ public:
         kTimeZone = 2,
     };
 
-    /// The pattern of dates where the style names none.
-    static constexpr TextView kDefaultDateFormat = u"mmmm d, yyyy";
-
     /// Makes the assembly and lays it out for the default options.
     /// @param formattedString the host's sink; a clone of it serves `toString`
     void Initialize(const OutputSinkRef& formattedString);
 
     /// The options of the style in force; the parsed values stay.
-    /// @param dateFormat the pattern of complete dates (see Dates::format); empty: the default
-    /// @param parenthesize the time stands in parentheses instead of after ", "
-    /// @param useShortMonths the months of the pattern are abbreviated as in MLA 7 (7.2)
-    void Reset(TextView dateFormat = kDefaultDateFormat, bool parenthesize = false, bool useShortMonths = false);
+    void Reset(const DateTimeOptions& options = {});
 
     /// A copy of the options and values.
     std::shared_ptr<OutputTemplateDateTime> Clone() const;
@@ -57,11 +66,6 @@ public:
     /// The part as it was read, by Value; any other index is reported and empty.
     Text value(std::int16_t index) const;
     void value(std::int16_t index, TextView theVal);
-
-    /// Writes the parts that are there to the sink; the same in notes and in shortened form.
-    void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
-    bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
-                               bool shortenedVersion) override;
 
     /// The whole output as plain text or as RTF.
     Text toString(bool isFootnote, bool shortenedVersion, bool isRTF);
@@ -79,15 +83,12 @@ public:
     void dumpVariables(VBWPROTECTOR& report) const override;
 
 private:
-    void Add(std::int16_t index, const std::vector<Text>& separators);
-
+    bool fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                   bool shortenedVersion) override;
     Text formattedDate(const Text& date) const;
 
     OutputSinkRef mFormattedStr;
-    outputTemplate mOutputTemplate;
-    Text mDateFormat;
-    bool mParenthesize = false;
-    bool mUseShortMonths = false;
+    DateTimeOptions mOptions;
     std::vector<Text> mValues = std::vector<Text>(3);
 };
 

@@ -30,7 +30,17 @@ enum Slot : std::size_t {
     kDescriptionSlot = 3,
     kAfterMarkSlot = 4
 };
-constexpr std::int16_t kLastSlot = kAfterMarkSlot;
+
+/// The texts that the style gives.
+enum StyleText : std::uint8_t { kBeforeDescription };
+
+constexpr SlotLayout kLayout({
+    {kPlainSlot, {u"", u"", u"", u"", u"", u""}},
+    {kFormattedSlot, {u"", u" ", kBeforeDescription, u" ", u""}},
+    {kPlainSlot, {u"", kBeforeDescription, u" ", u""}},
+    {kPlainSlot, {u"", u"", u""}},
+    {kPlainSlot, {u"", u""}},
+});
 
 bool isQuestionOrExclamation(char16_t unit) {
     return unit == u'?' || unit == u'!';
@@ -53,19 +63,9 @@ void addItalic(OutputSink& sink, TextView text, std::span<const Range> roman) {
 
 }  // namespace
 
-void OutputTemplateTitle::layOut() {
-    const Text comma = titletypes::usesBrackets(mFormat) ? u" " : u", ";
-    held(mOutputTemplate)->Reset(kLastSlot);
-    Add(kLeadInSlot, false, {u"", u"", u"", u"", u"", u""});
-    Add(kTitleSlot, true, {u"", u" ", comma, u" ", u""});
-    Add(kTranslationSlot, false, {u"", comma, u" ", u""});
-    Add(kDescriptionSlot, false, {u"", u"", u""});
-    Add(kAfterMarkSlot, false, {u"", u""});
-}
-
-void OutputTemplateTitle::Add(std::int16_t Index, bool isFormatted, const std::vector<Text>& separators) {
-    procedure(*this, u"Add", {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"separators", separators}},
-              [&] { held(mOutputTemplate)->Add(Index, isFormatted, false, separators); });
+void OutputTemplateTitle::layOutForFormat() {
+    const TextView beforeDescription = titletypes::usesBrackets(mFormat) ? u" " : u", ";
+    layOut(kLayout, std::span(&beforeDescription, 1));
 }
 
 // Writing.
@@ -86,47 +86,37 @@ bool OutputTemplateTitle::isPart() const {
     return mIsChapterOrWebsite || titletypes::isPart(mTitleType);
 }
 
-void OutputTemplateTitle::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
-    procedure(*this, u"ToFormattedString",
-              {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
-              [&] {
-                  if (isPrematter(mTitleType)) {
-                      ToFormattedStringPrematter(formattedStr, isFootnote, shortenedVersion);
-                      return;
-                  }
-                  const std::shared_ptr<outputTemplate> assembly = mOutputTemplate;
-                  object(assembly).ResetReferenceItems();
-                  assembly->ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote);
-              });
+void OutputTemplateTitle::write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
+    if (isPrematter(mTitleType)) {
+        ToFormattedStringPrematter(formattedStr, isFootnote, shortenedVersion);
+    } else {
+        AssembledElement::write(formattedStr, isFootnote, shortenedVersion);
+    }
 }
 
-bool OutputTemplateTitle::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
-                                                std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
-    return procedure(
-        *this, u"ToFormattedStringImpl",
-        {{u"isFootnote", isFootnote}, {u"items", items}, {u"shortenedVersion", shortenedVersion}}, [&] {
-            const bool hasTitle = !mValues.at(kTitle).empty() || !mValues.at(kSubtitle).empty();
-            const TextView text = titletypes::describingText(mTitleType, mFormat, hasTitle);
-            const bool isBare = text.empty() || titletypes::isLeadIn(text) || !titletypes::usesBrackets(mFormat);
-            const Text description = isBare ? Text(text) : concatenate({u"[", text, u"]"});
-            if (!hasTitle) {
-                items.at(kLeadInSlot) = description;
-                return false;
-            }
-            const Text translation = mValues.at(kTranslation);
-            const Text typed = wholeTitle(shortenedVersion);
-            TitleText read = titlecase::readTitle(typed);
-            Text title = formatRule(read);
-            if (!shortenedVersion) {
-                items.at(kTranslationSlot) = translation.empty() ? Text() : concatenate({u"[", translation, u"]"});
-                items.at(kDescriptionSlot) = description;
-                movePunctuation(items, title);
-            }
-            // A copy: the host may ask for a new layout while it is written to.
-            const OutputSinkRef fragment = formattedItems.at(kTitleSlot);
-            addTitle(fragment, title, read.words, isPart());
-            return false;
-        });
+bool OutputTemplateTitle::fillSlots(bool /*isFootnote*/, std::vector<Text>& items,
+                                    std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
+    const bool hasTitle = !mValues.at(kTitle).empty() || !mValues.at(kSubtitle).empty();
+    const TextView text = titletypes::describingText(mTitleType, mFormat, hasTitle);
+    const bool isBare = text.empty() || titletypes::isLeadIn(text) || !titletypes::usesBrackets(mFormat);
+    const Text description = isBare ? Text(text) : concatenate({u"[", text, u"]"});
+    if (!hasTitle) {
+        items.at(kLeadInSlot) = description;
+        return false;
+    }
+    const Text translation = mValues.at(kTranslation);
+    const Text typed = wholeTitle(shortenedVersion);
+    TitleText read = titlecase::readTitle(typed);
+    Text title = formatRule(read);
+    if (!shortenedVersion) {
+        items.at(kTranslationSlot) = translation.empty() ? Text() : concatenate({u"[", translation, u"]"});
+        items.at(kDescriptionSlot) = description;
+        movePunctuation(items, title);
+    }
+    // A copy: the host may ask for a new layout while it is written to.
+    const OutputSinkRef fragment = formattedItems.at(kTitleSlot);
+    addTitle(fragment, title, read.words, isPart());
+    return false;
 }
 
 void OutputTemplateTitle::movePunctuation(std::vector<Text>& items, TextView title) {
@@ -249,10 +239,8 @@ void OutputTemplateTitle::ToFormattedStringPrematterImpl(const OutputSinkRef& fo
 
 Text OutputTemplateTitle::toString(bool isFootnote, bool shortenedVersion, bool isRTF) {
     return procedure(*this, u"toString",
-                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}, {u"isRTF", isRTF}}, [&] {
-                         const std::shared_ptr<outputTemplate> assembly = mOutputTemplate;
-                         return object(assembly).toString(*this, shortenedVersion, isFootnote, isRTF);
-                     });
+                     {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}, {u"isRTF", isRTF}},
+                     [&] { return assembledText(isFootnote, shortenedVersion, isRTF); });
 }
 
 Text OutputTemplateTitle::formatStr(TextView text) {

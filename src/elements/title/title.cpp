@@ -19,46 +19,31 @@ constexpr TextView kSubtitleSeparator = u": ";
 void OutputTemplateTitle::Initialize(const OutputSinkRef& formattedStr) {
     procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
         mPrematterTypes = titletypes::prematterTypes();
-        mOutputTemplate = std::make_shared<outputTemplate>();
-        layOut();
+        makeAssembly(formattedStr);
+        layOutForFormat();
         mFormattedStr = object(formattedStr).Clone();
-        held(mOutputTemplate)->Initialize(formattedStr);
     });
 }
 
-void OutputTemplateTitle::Reset(std::int16_t format, const std::shared_ptr<OutputTemplateAuthor>& authorTemplate,
-                                bool sentenceCapitalization, bool capitalizeHyphenatedWord, TextView BookAndArticleRule,
-                                bool capitalizeSubtitle, TextView chapterAndWebsiteRule,
-                                bool UnItalicizeSpeciesAndNamesOfShips, TextView titleTypes) {
-    procedure(*this, u"Reset",
-              {{u"format", format},
-               {u"authorTemplate", authorTemplate},
-               {u"sentenceCapitalization", sentenceCapitalization},
-               {u"capitalizeHyphenatedWord", capitalizeHyphenatedWord},
-               {u"BookAndArticleRule", BookAndArticleRule},
-               {u"capitalizeSubtitle", capitalizeSubtitle},
-               {u"chapterAndWebsiteRule", chapterAndWebsiteRule},
-               {u"UnItalicizeSpeciesAndNamesOfShips", UnItalicizeSpeciesAndNamesOfShips},
-               {u"titleTypes", titleTypes}},
-              [&] {
-                  mFormat = format;
-                  mSentenceCapitalization = sentenceCapitalization;
-                  mCapitalizeHyphenatedWord = capitalizeHyphenatedWord;
-                  mBookAndArticleRule = BookAndArticleRule;
-                  mCapitalizeSubtitle = capitalizeSubtitle;
-                  mChapterAndWebsiteRule = chapterAndWebsiteRule;
-                  mUnItalicizeSpeciesAndNamesOfShips = UnItalicizeSpeciesAndNamesOfShips;
-                  setTitleTypes(titleTypes);
-                  layOut();
-                  // A copy with the new settings and the persons that were read: the host goes on using its own.
-                  const std::vector<Text> persons =
-                      mAuthorTemplate ? held(mAuthorTemplate)->authors() : std::vector<Text>();
-                  mAuthorTemplate = authorTemplate ? authorTemplate->Clone() : nullptr;
-                  if (mAuthorTemplate) {
-                      held(mAuthorTemplate)->ClearAuthors();
-                      held(mAuthorTemplate)->authors(persons);
-                  }
-              });
+void OutputTemplateTitle::Reset(const TitleOptions& options) {
+    procedure(*this, u"Reset", reported(kTitleOptions, options), [&] {
+        mFormat = options.format;
+        mSentenceCapitalization = options.sentenceCapitalization;
+        mCapitalizeHyphenatedWord = options.capitalizeHyphenatedWord;
+        mBookAndArticleRule = options.BookAndArticleRule;
+        mCapitalizeSubtitle = options.capitalizeSubtitle;
+        mChapterAndWebsiteRule = options.chapterAndWebsiteRule;
+        mUnItalicizeSpeciesAndNamesOfShips = options.UnItalicizeSpeciesAndNamesOfShips;
+        setTitleTypes(options.titleTypes);
+        layOutForFormat();
+        // A copy with the new settings and the persons that were read: the host goes on using its own.
+        const std::vector<Text> persons = mAuthorTemplate ? held(mAuthorTemplate)->authors() : std::vector<Text>();
+        mAuthorTemplate = options.authorTemplate ? options.authorTemplate->Clone() : nullptr;
+        if (mAuthorTemplate) {
+            held(mAuthorTemplate)->ClearAuthors();
+            held(mAuthorTemplate)->authors(persons);
+        }
+    });
 }
 
 std::shared_ptr<OutputTemplateTitle> OutputTemplateTitle::Clone() const {
@@ -298,7 +283,7 @@ bool OutputTemplateTitle::prematterHasTitle() const {
 
 void OutputTemplateTitle::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mFormat", mFormat);
-    report.vbwReportVariable(u"mOutputTemplate", mOutputTemplate);
+    report.vbwReportVariable(u"mOutputTemplate", HostObjectRef());
     report.vbwReportVariable(u"mValues", mValues);
     report.vbwReportVariable(u"mTitleType", mTitleType);
     report.vbwReportVariable(u"mIsChapterOrWebsite", mIsChapterOrWebsite);

@@ -5,15 +5,48 @@
 #include <span>
 #include <vector>
 
-#include "core/implementor.h"
-#include "core/instrumented.h"
+#include "core/assembled_element.h"
+#include "core/options.h"
 #include "core/output_sink.h"
-#include "core/output_template.h"
 #include "core/text.h"
 #include "elements/author/author.h"
 #include "elements/title/case.h"
 
 namespace quorvel {
+
+/// What a style says of titles.
+struct TitleOptions {
+    /// The style code: -1 and 2 MLA, 0 AMA, 1 APA, 3 Turabian.
+    std::int16_t format = 0;
+    /// The style's author element, which writes the author of a work with prematter; the title keeps a copy.
+    /// Empty: such an author is not written.
+    std::shared_ptr<OutputTemplateAuthor> authorTemplate;
+    /// Sentence case instead of heading case.
+    bool sentenceCapitalization = false;
+    /// The part behind a hyphen is capitalised in headings.
+    bool capitalizeHyphenatedWord = false;
+    /// What the form tells about the capitalisation in force; see `chapterAndWebsiteRule`.
+    Text BookAndArticleRule;
+    /// The first word behind ": " is capitalised in sentence case.
+    bool capitalizeSubtitle = false;
+    Text chapterAndWebsiteRule;
+    /// Species and ships inside an italic title are roman.
+    bool UnItalicizeSpeciesAndNamesOfShips = false;
+    /// The title types that the style offers, separated by commas.
+    Text titleTypes;
+};
+
+inline constexpr std::tuple kTitleOptions{
+    Option{u"format", &TitleOptions::format},
+    Option{u"authorTemplate", &TitleOptions::authorTemplate},
+    Option{u"sentenceCapitalization", &TitleOptions::sentenceCapitalization},
+    Option{u"capitalizeHyphenatedWord", &TitleOptions::capitalizeHyphenatedWord},
+    Option{u"BookAndArticleRule", &TitleOptions::BookAndArticleRule},
+    Option{u"capitalizeSubtitle", &TitleOptions::capitalizeSubtitle},
+    Option{u"chapterAndWebsiteRule", &TitleOptions::chapterAndWebsiteRule},
+    Option{u"UnItalicizeSpeciesAndNamesOfShips", &TitleOptions::UnItalicizeSpeciesAndNamesOfShips},
+    Option{u"titleTypes", &TitleOptions::titleTypes},
+};
 
 /// The title of a work, of a part of a work, or of prematter (element type codes 1, 2 and 3).
 ///
@@ -28,7 +61,7 @@ namespace quorvel {
 /// are. Works stand in italics, parts of works in quotation marks or plain, as the style has it.
 ///
 /// Styles: MLA 7 3.6, 5.5.8, APA 6 4.15, 4.21, 6.29, Turabian 7 22.3, 17.1.2, AMA 10 3.9, 10.2.
-class OutputTemplateTitle final : public Instrumented, public Implementor {
+class OutputTemplateTitle final : public AssembledElement {
 public:
     /// Indexes of `value`. They are part of the interface.
     enum Value : std::int16_t { kTitle = 0, kSubtitle = 1, kTranslation = 2 };
@@ -37,31 +70,13 @@ public:
     void Initialize(const OutputSinkRef& formattedStr);
 
     /// The options of the style in force; the parsed title stays.
-    /// @param format the style code: -1 and 2 MLA, 0 AMA, 1 APA, 3 Turabian
-    /// @param authorTemplate the style's author element, which writes the author of a work with prematter; it
-    ///        is copied. Empty: such an author is not written.
-    /// @param sentenceCapitalization sentence case instead of heading case
-    /// @param capitalizeHyphenatedWord the part behind a hyphen is capitalised in headings
-    /// @param BookAndArticleRule, chapterAndWebsiteRule what the form tells about the capitalisation in force
-    /// @param capitalizeSubtitle the first word behind ": " is capitalised in sentence case
-    /// @param UnItalicizeSpeciesAndNamesOfShips species and ships inside an italic title are roman
-    /// @param titleTypes the title types that the style offers, separated by commas
-    void Reset(std::int16_t format, const std::shared_ptr<OutputTemplateAuthor>& authorTemplate,
-               bool sentenceCapitalization, bool capitalizeHyphenatedWord, TextView BookAndArticleRule,
-               bool capitalizeSubtitle, TextView chapterAndWebsiteRule, bool UnItalicizeSpeciesAndNamesOfShips,
-               TextView titleTypes);
+    void Reset(const TitleOptions& options);
 
     /// A copy of options and values.
     std::shared_ptr<OutputTemplateTitle> Clone() const;
     /// The same in heading capitalisation.
     std::shared_ptr<OutputTemplateTitle> CloneForHeadingCapitalization() const;
 
-    /// Writes the title to the sink.
-    /// @param isFootnote matters to prematter alone
-    /// @param shortenedVersion the short title (title/short.h), without translation and describing text
-    void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
-    bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
-                               bool shortenedVersion) override;
     /// Writes a foreword, introduction, preface or afterword with the work that it belongs to.
     void ToFormattedStringPrematter(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion);
     Text toString(bool isFootnote, bool shortenedVersion, bool isRTF = false);
@@ -153,8 +168,12 @@ public:
 
 private:
     void CloneImpl(OutputTemplateTitle& clone) const;
-    void Add(std::int16_t Index, bool isFormatted, const std::vector<Text>& separators);
-    void layOut();
+    /// The note's form matters to prematter alone; shortened is the short title (title/short.h), without
+    /// translation and describing text.
+    void write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
+    bool fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                   bool shortenedVersion) override;
+    void layOutForFormat();
     titlecase::Rules rules() const;
     // The members of these names for a title that has been read.
     Text formatRule(titlecase::TitleText& title) const;
@@ -182,7 +201,6 @@ private:
     void ToFormattedStringPrematterImpl(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion);
 
     std::int16_t mFormat = 0;
-    std::shared_ptr<outputTemplate> mOutputTemplate;
     std::vector<Text> mValues = std::vector<Text>(3);
     Text mTitleType;
     bool mIsChapterOrWebsite = false;

@@ -21,7 +21,7 @@ public:
         return call([&] { mDateTime->Initialize(HostSink::of(formattedString)); });
     }
     STDMETHODIMP Reset(BSTR dateFormat, VARIANT_BOOL parenthesize, VARIANT_BOOL useShortMonths) override {
-        return call([&] { mDateTime->Reset(view(dateFormat), asBool(parenthesize), asBool(useShortMonths)); });
+        return call([&] { mDateTime->Reset({Text(view(dateFormat)), asBool(parenthesize), asBool(useShortMonths)}); });
     }
     STDMETHODIMP Clone(IDispatch** result) override {
         return call(result, [&] { return adapterOf<DateTimeAdapter>(mDateTime->Clone()); });

@@ -24,10 +24,10 @@ public:
                        BSTR paraPluralPrefix, VARIANT_BOOL addDotToAdvancedPrefix,
                        VARIANT_BOOL useEnDashForPageRange) override {
         return call([&] {
-            mPage->Reset(asBool(supportsDOI), asBool(supportsNotes), asBool(elideZero), asBool(usePagePrefix),
-                         asBool(usePagePrefixInCitations), asBool(shortenedPage), view(noPageStr), view(chapterPrefix),
-                         view(chapterPluralPrefix), view(paraPrefix), view(paraPluralPrefix),
-                         asBool(addDotToAdvancedPrefix), asBool(useEnDashForPageRange));
+            mPage->Reset({asBool(supportsDOI), asBool(supportsNotes), asBool(elideZero), asBool(usePagePrefix),
+                          asBool(usePagePrefixInCitations), asBool(shortenedPage), Text(view(noPageStr)),
+                          Text(view(chapterPrefix)), Text(view(chapterPluralPrefix)), Text(view(paraPrefix)),
+                          Text(view(paraPluralPrefix)), asBool(addDotToAdvancedPrefix), asBool(useEnDashForPageRange)});
         });
     }
     STDMETHODIMP Clone(IDispatch** result) override {

@@ -22,8 +22,8 @@ public:
                        VARIANT_BOOL supportPlaceForSure, VARIANT_BOOL expandAbbreviations,
                        VARIANT_BOOL repeatLocationIfInPublisherName) override {
         return call([&] {
-            mPlace->Reset(asBool(supportPlaceNotKnown), asBool(supportPlaceGuess), asBool(supportPlaceForSure),
-                          asBool(expandAbbreviations), asBool(repeatLocationIfInPublisherName));
+            mPlace->Reset({asBool(supportPlaceNotKnown), asBool(supportPlaceGuess), asBool(supportPlaceForSure),
+                           asBool(expandAbbreviations), asBool(repeatLocationIfInPublisherName)});
         });
     }
     STDMETHODIMP Clone(IDispatch** result) override {

@@ -24,8 +24,8 @@ public:
                        VARIANT_BOOL usePublisherUnknown, VARIANT_BOOL shortenUniversityAndPress,
                        VARIANT_BOOL removePublisherAbbreviations) override {
         return call([&] {
-            mPublisher->Reset(asBool(supportCoPublisher), asBool(useAdvancedOptions), asBool(usePublisherUnknown),
-                              asBool(shortenUniversityAndPress), asBool(removePublisherAbbreviations));
+            mPublisher->Reset({asBool(supportCoPublisher), asBool(useAdvancedOptions), asBool(usePublisherUnknown),
+                               asBool(shortenUniversityAndPress), asBool(removePublisherAbbreviations)});
         });
     }
     STDMETHODIMP Clone(IDispatch* formattedStr, IDispatch** result) override {

@@ -25,10 +25,10 @@ public:
                        BSTR chapterAndWebsiteRule, VARIANT_BOOL UnItalicizeSpeciesAndNamesOfShips,
                        BSTR titleTypes) override {
         return call([&] {
-            mTitle->Reset(format, ElementAccess::elementOf<OutputTemplateAuthor>(authorTemplate),
-                          asBool(sentenceCapitalization), asBool(capitalizeHyphenatedWord), view(BookAndArticleRule),
-                          asBool(capitalizeSubtitle), view(chapterAndWebsiteRule),
-                          asBool(UnItalicizeSpeciesAndNamesOfShips), view(titleTypes));
+            mTitle->Reset(
+                {format, ElementAccess::elementOf<OutputTemplateAuthor>(authorTemplate), asBool(sentenceCapitalization),
+                 asBool(capitalizeHyphenatedWord), Text(view(BookAndArticleRule)), asBool(capitalizeSubtitle),
+                 Text(view(chapterAndWebsiteRule)), asBool(UnItalicizeSpeciesAndNamesOfShips), Text(view(titleTypes))});
         });
     }
     STDMETHODIMP Clone(IDispatch** result) override {

@@ -22,8 +22,9 @@ public:
                        BSTR circa, VARIANT_BOOL supportYearForSure, BSTR noDateString,
                        VARIANT_BOOL useEnDashForYearRange) override {
         return call([&] {
-            mYear->Reset(asBool(supportForthcoming), asBool(supportInPress), asBool(supportYearGuess), view(circa),
-                         asBool(supportYearForSure), view(noDateString), asBool(useEnDashForYearRange));
+            mYear->Reset({asBool(supportForthcoming), asBool(supportInPress), asBool(supportYearGuess),
+                          Text(view(circa)), asBool(supportYearForSure), Text(view(noDateString)),
+                          asBool(useEnDashForYearRange)});
         });
     }
     STDMETHODIMP Clone(IDispatch** result) override {

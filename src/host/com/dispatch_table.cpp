@@ -395,7 +395,7 @@ HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DI
                                                                                 : member->resultType,
               value);
     const auto fail = [&](ErrorNumber number) {
-        procedure(Module(Name(mClassName)), Name(member->procedure), kNoParameters,
+        procedure(StandardModule(Name(mClassName)), Name(member->procedure), kNoParameters,
                   [&] { throw RuntimeError(number); });
     };
     Call call(*member, parameters);

@@ -13,7 +13,7 @@ const Text kBannerReport =
     u"vbwReportToFile: \r\n**************************\r\n* MODULE LEVEL VARIABLES *\r\n**************************\r\n";
 constexpr TraceSwitches kAllOn = {.vbwTraceProc = true, .vbwTraceParameters = true, .vbwTraceVariables = true};
 
-constexpr Module kModule{u"Module"};
+constexpr StandardModule kModule{u"Module"};
 
 /// A class whose dump holds each kind of field.
 class Sample final : public Instrumented {
@@ -37,7 +37,7 @@ public:
         report.vbwReportVariable(u"mFlags", std::vector<bool>{true, false});
         report.vbwReportVariable(u"mIntegers", std::vector<std::int16_t>{1, 2});
         report.vbwReportVariable(u"mTexts", std::vector<Text>{u"a", u""});
-        report.vbwReportVariable(u"mObjects", std::vector<TraceValue::Object>{nullptr});
+        report.vbwReportVariable(u"mObjects", std::vector<OutputSinkRef>{nullptr});
     }
 };
 

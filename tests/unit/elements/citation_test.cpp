@@ -97,7 +97,7 @@ protected:
 
     void use(const Style& style) {
         title->Initialize(std::make_shared<RecordingSink>());
-        title->Reset(style.format, nullptr, style.format < 2, true, u"", true, u"", true, u"");
+        title->Reset({style.format, nullptr, style.format < 2, true, u"", true, u"", true, u""});
         citation.Initialize(std::make_shared<RecordingSink>(), true, keys, test::authorWith(style.authors), title,
                             nullptr);
         citation.Reset(style.options);

@@ -11,20 +11,16 @@ namespace {
 
 using DateTime = OutputTemplateDateTime;
 
-struct Options {
-    TextView dateFormat = DateTime::kDefaultDateFormat;
-    bool parenthesize = false;
-    bool useShortMonths = false;
-};
+using Options = DateTimeOptions;
 
-constexpr Options kDefault = {};
-constexpr Options kApa = {u"yyyy, mmmm d", true, false};
-constexpr Options kMla = {u"d mmmm yyyy", false, true};
+const Options kDefault = {};
+const Options kApa = {u"yyyy, mmmm d", true, false};
+const Options kMla = {u"d mmmm yyyy", false, true};
 
 std::shared_ptr<DateTime> dateTimeOf(const Options& options, const OutputSinkRef& sink) {
     auto dateTime = std::make_shared<DateTime>();
     dateTime->Initialize(sink);
-    dateTime->Reset(options.dateFormat, options.parenthesize, options.useShortMonths);
+    dateTime->Reset(options);
     return dateTime;
 }
 
@@ -162,7 +158,7 @@ TEST(DateTime, ReadsATimeThatTheHostKeepsApart) {
     };
     for (const Case& c : kCases) {
         SCOPED_TRACE(testing::PrintToString(Text(c.text)));
-        const auto dateTime = dateTimeOf({DateTime::kDefaultDateFormat, true, false});
+        const auto dateTime = dateTimeOf({.parenthesize = true});
         Text text(c.text);
         dateTime->Parse(text, c.secondaryText);
         EXPECT_EQ(dateTime->toString(false, false, false), c.written);
@@ -189,11 +185,11 @@ TEST(DateTime, ReadsItsOwnOutput) {
         for (const bool parenthesize : {false, true}) {
             for (const bool useShortMonths : {false, true}) {
                 for (const TextView date : kDates) {
-                    check({format, parenthesize, useShortMonths}, date, u"", u"");
+                    check({Text(format), parenthesize, useShortMonths}, date, u"", u"");
                     for (const TextView time : kTimes) {
                         for (const TextView zone : kZones) {
                             if (!time.empty()) {
-                                check({format, parenthesize, useShortMonths}, date, time, zone);
+                                check({Text(format), parenthesize, useShortMonths}, date, time, zone);
                             }
                         }
                     }
@@ -251,7 +247,7 @@ TEST_F(DateTimeReports, WorksWithDefaultOptionsBeforeAnyReset) {
     EXPECT_EQ(dateTime.formatStr(u"1 Sept. 2011, 10:23 am"), u"September 1, 2011, 10:23 a.m.");
     EXPECT_TRUE(contains(dateTime.toString(false, false, true), u"{\\f0 September 1, 2011}"));
     EXPECT_EQ(sink->plain(), u"the host's own text");
-    dateTime.Reset(u"", true);
+    dateTime.Reset({u"", true});
     EXPECT_EQ(dateTime.toString(false, false, false), u"September 1, 2011 (10:23 a.m.)");
     EXPECT_TRUE(service().errors().empty());
 }
@@ -261,7 +257,7 @@ TEST(DateTime, ACloneHasOptionsAndValues) {
     dateTime->formatStr(u"1 Sept. 2011, 10:23 am ET");
     const auto clone = dateTime->Clone();
     EXPECT_EQ(clone->toString(false, false, false), u"2011, September 1 (10:23 a.m. ET)");
-    clone->Reset(kMla.dateFormat, kMla.parenthesize, kMla.useShortMonths);
+    clone->Reset(kMla);
     EXPECT_EQ(clone->formatStr(u"May 5, 2011"), u"5 May 2011");
     EXPECT_EQ(dateTime->toString(false, false, false), u"2011, September 1 (10:23 a.m. ET)");
 }
@@ -300,7 +296,7 @@ TEST(DateTime, TheHostMayChangeItWhileItWrites) {
     int turn = 0;
     sink->onCall([&] {
         const bool odd = ++turn % 2 == 1;
-        dateTime->Reset(odd ? u"d mmm yyyy" : u"a pattern that is much longer than the others, yyyy", odd, !odd);
+        dateTime->Reset({odd ? u"d mmm yyyy" : u"a pattern that is much longer than the others, yyyy", odd, !odd});
         Text text = odd ? u"" : u"May 5, 2011, 12:57:58 p.m. Pacific Daylight Time, and so on";
         dateTime->Parse(text, {});
         dateTime->Clone()->formatStr(u"May 5, 2011, 12:57");

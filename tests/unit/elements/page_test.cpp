@@ -11,7 +11,7 @@ namespace {
 
 using Page = OutputTemplatePage;
 
-Page::Options mla() {
+PageOptions mla() {
     return {.supportsNotes = true,
             .shortenedPage = true,
             .noPageStr = u"n. pag.",
@@ -22,7 +22,7 @@ Page::Options mla() {
             .addDotToAdvancedPrefix = true};
 }
 
-Page::Options apa() {
+PageOptions apa() {
     return {.supportsDOI = true,
             .usePagePrefix = true,
             .noPageStr = u"no page",
@@ -34,14 +34,14 @@ Page::Options apa() {
             .useEnDashForPageRange = true};
 }
 
-Page::Options turabian() {
-    Page::Options options = mla();
+PageOptions turabian() {
+    PageOptions options = mla();
     options.elideZero = true;
     options.useEnDashForPageRange = true;
     return options;
 }
 
-Page pageWith(const Page::Options& options) {
+Page pageWith(const PageOptions& options) {
     Page page;
     page.Initialize(nullptr);
     page.Reset(options);
@@ -180,7 +180,7 @@ TEST(Page, KnowsTheLocatorTypes) {
         EXPECT_EQ(page.pageType, c.type);
         EXPECT_EQ(page.Page(), c.page);
         EXPECT_EQ(formatted(page, c.withDots), c.withDots);
-        Page::Options options = mla();
+        PageOptions options = mla();
         options.addDotToAdvancedPrefix = false;
         page.Reset(options);
         EXPECT_EQ(page.toString(false, false), c.withoutDots);
@@ -269,7 +269,7 @@ TEST(Page, LeavesThePrefixOutOfCitations) {
     page.inCitation(true);
     page.inCitation(false);
     EXPECT_EQ(page.toString(false, false), u"p. 12");
-    Page::Options options = apa();
+    PageOptions options = apa();
     options.usePagePrefixInCitations = true;
     page.Reset(options);
     page.inCitation(true);

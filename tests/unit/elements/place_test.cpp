@@ -14,7 +14,7 @@ using Place = OutputTemplatePlace;
 Place placeWith(bool expandAbbreviations, bool repeatLocation) {
     Place place;
     place.Initialize(nullptr);
-    place.Reset(true, true, true, expandAbbreviations, repeatLocation);
+    place.Reset({true, true, true, expandAbbreviations, repeatLocation});
     return place;
 }
 
@@ -55,7 +55,7 @@ TEST(Place, ReadsAndWritesEachVariant) {
         EXPECT_EQ(text, c.place);
         EXPECT_EQ(place.toString(false, false, {}), c.written);
         EXPECT_EQ(place.toString(true, true, {}), c.written);
-        place.Reset(false, false, false, false, true);
+        place.Reset({false, false, false, false, true});
         EXPECT_EQ(place.toString(false, false, {}), c.writtenPlain);
     }
 }
@@ -142,7 +142,7 @@ TEST(Place, IsPlaceLeavesTheElementAsItIs) {
 
 TEST(Place, ACloneHasTheOptionsAndNoPlace) {
     Place place = placeWith(true, false);
-    place.Reset(true, false, true, true, false);
+    place.Reset({true, false, true, true, false});
     place.formatStr(u"[Portland, OR]", {});
     const auto clone = place.Clone();
     EXPECT_EQ(clone->placeType, Place::kPlain);

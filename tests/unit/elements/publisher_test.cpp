@@ -18,7 +18,7 @@ struct Options {
 };
 
 void reset(Publisher& publisher, const Options& options) {
-    publisher.Reset(true, true, options.usePublisherUnknown, options.shorten, options.removeAbbreviations);
+    publisher.Reset({true, true, options.usePublisherUnknown, options.shorten, options.removeAbbreviations});
 }
 
 Publisher publisherWith(const Options& options) {
@@ -193,7 +193,7 @@ TEST(Publisher, RemovesAbbreviationsAsTheyStand) {
 
 TEST(Publisher, ACloneHasOptionsAndValues) {
     Publisher publisher = publisherWith({true, true, true});
-    publisher.Reset(false, true, true, true, true);
+    publisher.Reset({false, true, true, true, true});
     formatted(publisher, u"Anchor-The Yale University Press Ltd.; London: Oxford University Press");
     const auto clone = publisher.Clone(std::make_shared<RecordingSink>());
     EXPECT_EQ(clone->toString(false, false), u"Anchor- Yale UP ; London: Oxford UP");
@@ -203,7 +203,7 @@ TEST(Publisher, ACloneHasOptionsAndValues) {
     EXPECT_EQ(formatted(*clone, u"n.p."), u"Publisher unknown");
     EXPECT_EQ(clone->Clone(std::make_shared<RecordingSink>())->PublisherType, Publisher::kUnknown);
     EXPECT_EQ(publisher.publisher(), u"The Yale University Press Ltd.");
-    publisher.Reset(true, false, false, false, false);
+    publisher.Reset({true, false, false, false, false});
     EXPECT_TRUE(publisher.supportCoPublisher());
     EXPECT_FALSE(publisher.SupportAdvancedOptions());
 }
@@ -252,7 +252,7 @@ TEST_F(PublisherReports, BearsAHostThatCallsBack) {
     const auto change = [&] {
         Text other = u"A-B; C: D";
         publisher.Parse(other, {});
-        publisher.Reset(true, true, true, true, true);
+        publisher.Reset({true, true, true, true, true});
         publisher.ToFormattedString(std::make_shared<RecordingSink>(), false, false);
     };
     sink->onCall(change);

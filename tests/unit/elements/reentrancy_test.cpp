@@ -65,7 +65,7 @@ void resetTitle(OutputTemplateTitle& title) {
     const auto author = std::make_shared<OutputTemplateAuthor>();
     author->Initialize(std::make_shared<RecordingSink>());
     author->Reset(test::apaAuthorOptions());
-    title.Reset(2, author, false, true, u"books", true, u"parts", true, u"Introduction,Article");
+    title.Reset({2, author, false, true, u"books", true, u"parts", true, u"Introduction,Article"});
 }
 
 const Case kCases[] = {
@@ -76,26 +76,31 @@ const Case kCases[] = {
      u"Introduction to \u201CThe \u2018Other\u2019 Question,\u201D by Ann Lee [Die andere Frage]", u"A Life"},
     {"publisher",
      [] {
-         return elementOf<OutputTemplatePublisher>(
-             [](auto& publisher) { publisher.Reset(true, true, true, true, true); });
+         return elementOf<OutputTemplatePublisher>([](auto& publisher) {
+             publisher.Reset({true, true, true, true, true});
+         });
      },
      u"Vintage-Knopf; London: Random House Press", u"MIT Press"},
-    {"page",
-     [] { return elementOf<OutputTemplatePage>([](auto& page) { page.Reset(OutputTemplatePage::Options()); }); },
+    {"page", [] { return elementOf<OutputTemplatePage>([](auto& page) { page.Reset(PageOptions()); }); },
      u"pp. 112-15n3", u"chap. 4"},
     {"keywords", [] { return elementOf<OutputTemplateKeywords>([](auto& keywords) { keywords.Reset(); }); },
      u"zebra, the cat and dogs", u"apple"},
     {"year",
      [] {
-         return elementOf<OutputTemplateYear>(
-             [](auto& year) { year.Reset(true, false, true, u"c.", true, u"n.d.", true); });
+         return elementOf<OutputTemplateYear>([](auto& year) {
+             year.Reset({true, false, true, u"c.", true, u"n.d.", true});
+         });
      },
      u"[ca. 1990-95]", u"May 5, 1990"},
     {"place",
-     [] { return elementOf<OutputTemplatePlace>([](auto& place) { place.Reset(true, true, true, true, false); }); },
+     [] { return elementOf<OutputTemplatePlace>([](auto& place) {
+              place.Reset({true, true, true, true, false});
+          }); },
      u"[Lincoln, NE?]", u"n.p."},
     {"date-time",
-     [] { return elementOf<OutputTemplateDateTime>([](auto& dateTime) { dateTime.Reset(u"d mmmm yyyy", true); }); },
+     [] { return elementOf<OutputTemplateDateTime>([](auto& dateTime) {
+              dateTime.Reset({u"d mmmm yyyy", true});
+          }); },
      u"May 5, 2011, 9:15 a.m. PDT", u"June 2010"},
 };
 

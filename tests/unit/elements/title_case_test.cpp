@@ -104,7 +104,7 @@ TEST(TitleCase, TestsOnWords) {
     for (const TextView word : {u"A", u"THE", u"into", u"up", u"via", u"is", u""}) {
         EXPECT_TRUE(title.shouldBeCapitalized(word, false)) << testing::PrintToString(Text(word));
     }
-    title.Reset(1, nullptr, true, true, u"", true, u"", true, u"");
+    title.Reset({1, nullptr, true, true, u"", true, u"", true, u""});
     EXPECT_FALSE(title.shouldBeCapitalized(u"whale", false));
     EXPECT_TRUE(title.shouldBeCapitalized(u"whale", true));
     EXPECT_EQ(title.capitalize(u"e-mail", true), u"e-Mail");

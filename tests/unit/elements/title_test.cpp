@@ -27,8 +27,8 @@ std::shared_ptr<Title> titleIn(std::int16_t format) {
     auto title = std::make_shared<Title>();
     title->Initialize(std::make_shared<RecordingSink>());
     const bool isSentence = format == 0 || format == 1;
-    title->Reset(format, authorElement(), isSentence, format != 0, u"books", format != 0, u"parts", true,
-                 u"Chapter title,Introduction,Interview");
+    title->Reset({format, authorElement(), isSentence, format != 0, u"books", format != 0, u"parts", true,
+                  u"Chapter title,Introduction,Interview"});
     return title;
 }
 
@@ -226,7 +226,7 @@ TEST_F(TitleReports, ReportsWhatIsOutOfRangeAndSurvivesAFailingSink) {
     // The host changes the style while it is written to.
     const auto sink = std::make_shared<RecordingSink>();
     title->Initialize(sink);
-    sink->onCall([&] { title->Reset(1, nullptr, true, true, u"", true, u"", true, u""); });
+    sink->onCall([&] { title->Reset({1, nullptr, true, true, u"", true, u"", true, u""}); });
     title->ToFormattedString(sink, false, false);
     EXPECT_EQ(title->IsSentenceCapitalization(), true);
 }

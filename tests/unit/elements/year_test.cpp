@@ -16,10 +16,10 @@ Year yearOf(Style style) {
     Year year;
     year.Initialize(nullptr);
     switch (style) {
-        case kMla: year.Reset(true, false, true, u"c.", true, u"n.d.", false); break;
-        case kApa: year.Reset(false, true, false, u"ca.", true, u"n.d.", true); break;
-        case kTurabian: year.Reset(true, false, true, u"ca.", true, u"n.d.", true); break;
-        case kAma: year.Reset(false, true, false, u"", false, u"date unknown", false); break;
+        case kMla: year.Reset({true, false, true, u"c.", true, u"n.d.", false}); break;
+        case kApa: year.Reset({false, true, false, u"ca.", true, u"n.d.", true}); break;
+        case kTurabian: year.Reset({true, false, true, u"ca.", true, u"n.d.", true}); break;
+        case kAma: year.Reset({false, true, false, u"", false, u"date unknown", false}); break;
     }
     return year;
 }
@@ -193,7 +193,7 @@ TEST_F(YearReports, SupportsWhatTheStyleOffers) {
 TEST(Year, ResetKeepsWhatWasRead) {
     Year year = yearOf(kMla);
     EXPECT_EQ(year.formatStr(u"In press"), u"forthcoming");
-    year.Reset(true, true, false, u"", false, u"", false);
+    year.Reset({true, true, false, u"", false, u"", false});
     EXPECT_EQ(year.toString(false, false), u"In press");
     EXPECT_FALSE(year.Supports(Year::kSupplied));
     EXPECT_FALSE(year.Supports(Year::kCirca));
@@ -211,7 +211,7 @@ TEST(Year, ACloneLacksTheForthcomingWordAndTheEnDash) {
     EXPECT_EQ(clone->formatStr(u"n.d."), u"n.d.");
     EXPECT_EQ(clone->formatStr(u"forthcoming"), u"");
     EXPECT_EQ(year.Year, u" 1990-1995") << "the clone is not the year";
-    clone->Reset(true, false, true, u"ca.", true, u"n.d.", true);
+    clone->Reset({true, false, true, u"ca.", true, u"n.d.", true});
     EXPECT_EQ(clone->toString(false, false), u"forthcoming");
 }
 

@@ -82,6 +82,8 @@ private:
             return value ? u"True" : u"False";
         } else if constexpr (std::is_same_v<Value, TextView> || std::is_same_v<Value, Text>) {
             return Text(value);
+        } else if constexpr (std::is_same_v<Value, OutputSinkRef>) {
+            return rendered(static_cast<const HostObject*>(value.get()));
         } else if constexpr (std::is_convertible_v<Value, const HostObject*>) {
             // Its address is looked at, so that an object that is gone shows under a sanitizer.
             return value == nullptr ? u"Nothing" : dynamic_cast<const void*>(value) == nullptr ? u"?" : u"object";
