@@ -163,8 +163,7 @@ Text strToSpinNum(TextView text) {
         // Only the first suffix that is there goes.
         static_cast<void>(std::any_of(std::begin(kSuffixesOfOrdinals), std::end(kSuffixesOfOrdinals),
                                       [&](TextView suffix) { return removeSuffix(number, suffix); }));
-        const bool isNumeric = !number.empty() && std::all_of(number.begin(), number.end(), isDigit);
-        return isNumeric ? number : Text();
+        return isDigits(number) ? number : Text();
     });
 }
 

@@ -5,6 +5,7 @@
 
 #include "core/dates.h"
 #include "core/letter_case.h"
+#include "core/months.h"
 #include "core/procedure.h"
 
 namespace quorvel::CommonTestingFunctions {
@@ -13,31 +14,7 @@ namespace {
 
 constexpr StandardModule kModule{u"CommonTestingFunctions"};
 
-struct MonthKey {
-    TextView key;
-    TextView month;
-};
-
-// The single letters, and "ju" for July rather than June, are on purpose.
-constexpr MonthKey kMonthKeys[] = {
-    {u"ja", u"January"},     {u"jan", u"January"},  {u"fe", u"February"}, {u"feb", u"February"}, {u"ma", u"March"},
-    {u"mar", u"March"},      {u"a", u"April"},      {u"ap", u"April"},    {u"apr", u"April"},    {u"m", u"May"},
-    {u"j", u"June"},         {u"jn", u"June"},      {u"jun", u"June"},    {u"jl", u"July"},      {u"ju", u"July"},
-    {u"jul", u"July"},       {u"au", u"August"},    {u"aug", u"August"},  {u"se", u"September"}, {u"sep", u"September"},
-    {u"sept", u"September"}, {u"o", u"October"},    {u"oc", u"October"},  {u"oct", u"October"},  {u"n", u"November"},
-    {u"no", u"November"},    {u"nov", u"November"}, {u"d", u"December"},  {u"de", u"December"},  {u"dec", u"December"},
-};
-constexpr std::size_t kLongestMonthKey = 4;
-
-struct ShortMonth {
-    TextView platform;
-    TextView mla;
-};
-
-constexpr ShortMonth kShortMonths[] = {
-    {u"Jan", u"Jan."}, {u"Feb", u"Feb."},  {u"Mar", u"Mar."}, {u"Apr", u"Apr."}, {u"Jun", u"June"}, {u"Jul", u"July"},
-    {u"Aug", u"Aug."}, {u"Sep", u"Sept."}, {u"Oct", u"Oct."}, {u"Nov", u"Nov."}, {u"Dec", u"Dec."},
-};
+constexpr std::size_t kLongestAbbreviation = 4;
 
 constexpr TextView kRomanDigits = u"IVXLCDMivxlcdm";
 
@@ -46,6 +23,17 @@ Text withoutDay(TextView pattern) {
     Text result = replaceAll(replaceAll(pattern, u"d", u""), u"D", u"");
     result = replaceAll(result, u" ,", u",");
     return Text(trim(result));
+}
+
+bool isAbbreviation(TextView word, const Month& month) {
+    for (TextView rest = month.abbreviations; !rest.empty();) {
+        const TextView abbreviation = before(rest, u" ");
+        if (equalsIgnoringCase(abbreviation, word)) {
+            return true;
+        }
+        rest.remove_prefix(std::min(abbreviation.size() + 1, rest.size()));
+    }
+    return false;
 }
 
 }  // namespace
@@ -98,11 +86,10 @@ Text FormatDate(TextView text, Text& formatString) {
 
 Text convertToLongMonthNameIfNecessary(TextView word) {
     return procedure(kModule, u"convertToLongMonthNameIfNecessary", {{u"word", word}}, [&] {
-        if (word.size() <= kLongestMonthKey) {
-            const Text key = toLower(word);
-            for (const MonthKey& month : kMonthKeys) {
-                if (month.key == key) {
-                    return Text(month.month);
+        if (!word.empty() && word.size() <= kLongestAbbreviation) {
+            for (const Month& month : kMonths) {
+                if (isAbbreviation(word, month)) {
+                    return Text(month.name);
                 }
             }
         }
@@ -116,8 +103,8 @@ void FormatForMLA(Text& formatted, TextView formatString) {
         if (contains(pattern, u"mmmm") || !contains(pattern, u"mmm")) {
             return;
         }
-        for (const ShortMonth& month : kShortMonths) {
-            formatted = replaceAll(formatted, month.platform, month.mla);
+        for (const Month& month : kMonths) {
+            formatted = replaceAll(formatted, month.shortName(), month.mla);
         }
     });
 }

@@ -7,14 +7,6 @@ namespace quorvel {
 
 namespace {
 
-constexpr char16_t upperOfAscii(char16_t unit) {
-    return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
-}
-
-constexpr char16_t lowerOfAscii(char16_t unit) {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
-}
-
 /// What the platform says, which takes its time: Latin letters with accents are asked for once, and general
 /// punctuation, which has no case, not at all.
 template <char16_t (LetterCase::*map)(char16_t) const>
@@ -34,14 +26,6 @@ char16_t mappedByPlatform(char16_t unit) {
     return unit >= u'\u2000' && unit <= u'\u206F' ? unit : (letterCase().*map)(unit);
 }
 
-char16_t upperOf(char16_t unit) {
-    return unit < u'\u0080' ? upperOfAscii(unit) : mappedByPlatform<&LetterCase::toUpper>(unit);
-}
-
-char16_t lowerOf(char16_t unit) {
-    return unit < u'\u0080' ? lowerOfAscii(unit) : mappedByPlatform<&LetterCase::toLower>(unit);
-}
-
 bool isAscii(TextView text) {
     return !anyUnit(text, [](char16_t unit) { return unit >= u'\u0080'; });
 }
@@ -53,27 +37,58 @@ Text mapped(TextView text, Map map) {
     return result;
 }
 
+bool areSameIgnoringCase(char16_t left, char16_t right) {
+    return left == right || toLower(left) == toLower(right);
+}
+
 }  // namespace
 
+namespace lettercase {
+
+char16_t upperBeyondAscii(char16_t unit) {
+    return mappedByPlatform<&LetterCase::toUpper>(unit);
+}
+
+char16_t lowerBeyondAscii(char16_t unit) {
+    return mappedByPlatform<&LetterCase::toLower>(unit);
+}
+
+}  // namespace lettercase
+
 Text toUpper(TextView text) {
-    return isAscii(text) ? mapped(text, upperOfAscii) : mapped(text, upperOf);
+    return isAscii(text) ? mapped(text, lettercase::upperOfAscii)
+                         : mapped(text, [](char16_t unit) { return toUpper(unit); });
 }
 
 Text toLower(TextView text) {
-    return isAscii(text) ? mapped(text, lowerOfAscii) : mapped(text, lowerOf);
+    return isAscii(text) ? mapped(text, lettercase::lowerOfAscii)
+                         : mapped(text, [](char16_t unit) { return toLower(unit); });
 }
 
 bool equalsIgnoringCase(TextView left, TextView right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char16_t a, char16_t b) { return a == b || lowerOf(a) == lowerOf(b); });
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(), areSameIgnoringCase);
 }
 
 bool startsWithIgnoringCase(TextView text, TextView prefix) {
     return equalsIgnoringCase(text.substr(0, prefix.size()), prefix);
 }
 
-bool isCasedLetter(char16_t unit) {
-    return upperOf(unit) != unit || lowerOf(unit) != unit;
+bool endsWithIgnoringCase(TextView text, TextView suffix) {
+    return text.size() >= suffix.size() && equalsIgnoringCase(text.substr(text.size() - suffix.size()), suffix);
+}
+
+std::size_t findIgnoringCase(TextView text, TextView part, std::size_t from) {
+    if (from > text.size()) {
+        return TextView::npos;
+    }
+    const auto* const begin = text.begin() + from;
+    const auto* const found = std::search(begin, text.end(), part.begin(), part.end(), areSameIgnoringCase);
+    const bool isFound = found != text.end() || part.empty();
+    return isFound ? static_cast<std::size_t>(found - text.begin()) : TextView::npos;
+}
+
+bool containsIgnoringCase(TextView text, TextView part) {
+    return findIgnoringCase(text, part) != TextView::npos;
 }
 
 }  // namespace quorvel

@@ -130,6 +130,10 @@ bool consistsOf(TextView text, TextView units) {
     return text.find_first_not_of(units) == TextView::npos;
 }
 
+bool isDigits(TextView text) {
+    return !text.empty() && std::all_of(text.begin(), text.end(), isDigit);
+}
+
 TextView before(TextView text, TextView separator) {
     return text.substr(0, text.find(separator));
 }

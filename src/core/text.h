@@ -19,9 +19,16 @@ inline constexpr char16_t kEnDash = u'\u2013';
 inline constexpr char16_t kLeftDoubleQuotationMark = u'\u201C';
 inline constexpr char16_t kRightDoubleQuotationMark = u'\u201D';
 
-/// True for "0" to "9", the only digits that references are numbered with.
+/// The only digits that references are numbered with.
+inline constexpr TextView kDigits = u"0123456789";
+
 constexpr bool isDigit(char16_t unit) {
     return unit >= u'0' && unit <= u'9';
+}
+
+/// True for "A" to "Z" and "a" to "z". The letters of every script are letter_case.h.
+constexpr bool isAsciiLetter(char16_t unit) {
+    return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
 }
 
 /// Every occurrence of `find` replaced, left to right; an empty `find` changes nothing.
@@ -59,11 +66,30 @@ TextView trim(TextView text, TextView signs = u" ");
 
 /// True when the text holds nothing but these units.
 bool consistsOf(TextView text, TextView units);
+/// True for one digit or more and nothing else.
+bool isDigits(TextView text);
 
 /// True when a table of texts has this one.
 template <std::size_t N>
 bool isOneOf(TextView text, const TextView (&texts)[N]) {
     return std::find(std::begin(texts), std::end(texts), text) != std::end(texts);
+}
+
+template <std::size_t N>
+bool startsWithOneOf(TextView text, const TextView (&prefixes)[N]) {
+    return std::any_of(std::begin(prefixes), std::end(prefixes),
+                       [text](TextView prefix) { return startsWith(text, prefix); });
+}
+
+template <std::size_t N>
+bool endsWithOneOf(TextView text, const TextView (&suffixes)[N]) {
+    return std::any_of(std::begin(suffixes), std::end(suffixes),
+                       [text](TextView suffix) { return endsWith(text, suffix); });
+}
+
+template <std::size_t N>
+bool containsOneOf(TextView text, const TextView (&parts)[N]) {
+    return std::any_of(std::begin(parts), std::end(parts), [text](TextView part) { return contains(text, part); });
 }
 
 /// What stands before the first occurrence of the separator; the whole text when there is none.

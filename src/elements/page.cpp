@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/procedure.h"
+#include "elements/doi.h"
 #include "elements/page_words.h"
 
 namespace quorvel {
@@ -62,7 +63,7 @@ constexpr TextView kSignsBetween = u" ,:;";
 /// The last page of a range in full: "328" for "321-28". What is not shortened stays.
 Text lastPageInFull(TextView first, TextView last) {
     const bool mayBeShortened = first.size() >= kShortestShortened && last.size() < first.size() &&
-                                pagewords::isNumeric(first) && std::all_of(last.begin(), last.end(), isDigit);
+                                pagewords::isNumeric(first) && consistsOf(last, kDigits);
     if (mayBeShortened) {
         Text full = concatenate({first.substr(0, first.size() - last.size()), last});
         if (full > first) {
@@ -74,8 +75,8 @@ Text lastPageInFull(TextView first, TextView last) {
 
 bool isYearOfPrint(TextView text) {
     const TextView year = text.substr(0, kFirstYear.size());
-    return text.size() <= kFirstYear.size() + 1 && year.size() == kFirstYear.size() &&
-           std::all_of(year.begin(), year.end(), isDigit) && year >= kFirstYear && year <= kLastYear;
+    return text.size() <= kFirstYear.size() + 1 && year.size() == kFirstYear.size() && isDigits(year) &&
+           year >= kFirstYear && year <= kLastYear;
 }
 
 /// Whether a text could be a year or a range of years as well as pages.
@@ -185,7 +186,7 @@ Text OutputTemplatePage::Page() const {
 void OutputTemplatePage::Page(TextView theVal) {
     procedure(*this, u"Page[Let]", {{u"theVal", theVal}}, [&] {
         Text text = cleanUp(theVal);
-        if (pageType != kEntry && !pagewords::isDoi(text)) {
+        if (pageType != kEntry && !doi::isDoi(text)) {
             normalise(text);
         }
         parsePage(text);
@@ -204,7 +205,7 @@ void OutputTemplatePage::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
         text = cleanUp(text);
         Note = kNoNote;
-        if (pagewords::isDoi(text)) {
+        if (doi::isDoi(text)) {
             pageType = kPage;
             mPages = {text, {}};
         } else {
@@ -320,7 +321,7 @@ Text OutputTemplatePage::toString(bool isFootnote, bool shortenedVersion) const 
             return mNoPageStr;
         }
         const Text pages = joinPages(true);
-        const bool hasPrefix = !pages.empty() && !pagewords::isDoi(pages);
+        const bool hasPrefix = !pages.empty() && !doi::isDoi(pages);
         return concatenate({hasPrefix ? prefix() : Text(), pages, noteText()});
     });
 }
@@ -381,8 +382,8 @@ bool OutputTemplatePage::isPage(TextView text) {
 bool OutputTemplatePage::isPageImpl(TextView text) {
     return procedure(*this, u"isPageImpl", {{u"text", text}}, [&] {
         Text tested = cleanUp(text);
-        const bool hasMark = isNoPage(tested) || pagewords::locatorWord(tested).has_value() ||
-                             (mSupportsDOI && pagewords::isDoi(tested));
+        const bool hasMark =
+            isNoPage(tested) || pagewords::locatorWord(tested).has_value() || (mSupportsDOI && doi::isDoi(tested));
         normalise(tested);
         mIsPage = hasMark || (isNumbers(tested) && !(mayBeYear(tested) && held(mYearTemplate)->isYear(tested)));
         return mIsPage;

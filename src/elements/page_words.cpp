@@ -47,15 +47,6 @@ constexpr std::size_t kMostLettersInFront = 3;
 
 constexpr TextView kListSign = u", ";
 
-// In any letter case. A bare DOI begins with "10." and the number of its registrant.
-constexpr TextView kDoiWords[] = {
-    u"doi:", u"doi ", u"https://doi.org/", u"http://doi.org/", u"http://dx.doi.org/", u"https://dx.doi.org/"};
-constexpr TextView kDoiDirectory = u"10.";
-
-bool isAsciiLetter(char16_t unit) {
-    return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
-}
-
 bool beginsWithNumber(TextView text) {
     const TextView word = text.substr(0, text.find_first_of(kEndsOfNumber));
     return (word.size() == 1 && isAsciiLetter(word[0])) || isPageNumber(word);
@@ -195,17 +186,6 @@ bool isNumeric(TextView text) {
     }
     const auto others = std::count_if(text.begin(), text.end(), [](char16_t unit) { return !isDigit(unit); });
     return others == 0 || (others == 1 && std::any_of(text.begin(), text.end(), isAsciiLetter));
-}
-
-bool isDoi(TextView text) {
-    const bool isAnnounced = std::any_of(std::begin(kDoiWords), std::end(kDoiWords), [&](TextView word) {
-        return text.size() > word.size() && equalsIgnoringCase(text.substr(0, word.size()), word);
-    });
-    if (isAnnounced || !startsWith(text, kDoiDirectory)) {
-        return isAnnounced;
-    }
-    const std::size_t slash = text.find_first_not_of(u"0123456789.", kDoiDirectory.size());
-    return slash != TextView::npos && slash > kDoiDirectory.size() && text[slash] == u'/' && slash + 1 < text.size();
 }
 
 bool isListOfEntries(TextView text) {

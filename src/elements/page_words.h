@@ -50,9 +50,6 @@ bool isPageNumber(TextView text);
 /// True for digits, two or more, that may hold one letter of A to Z between them.
 bool isNumeric(TextView text);
 
-/// True for a DOI, with or without what announces it.
-bool isDoi(TextView text);
-
 /// True for several entries of a dictionary, each in quotation marks.
 bool isListOfEntries(TextView text);
 

@@ -30,18 +30,14 @@ constexpr TextView kFalse = u"False";
 /// "1990-12" could be a month: a range of numbers stays a range.
 bool isRangeOfNumbers(TextView text) {
     const std::size_t dash = text.find(u'-');
-    const auto isNumber = [](TextView part) {
-        const TextView digits = trim(part);
-        return !digits.empty() && std::all_of(digits.begin(), digits.end(), isDigit);
-    };
-    return dash != TextView::npos && isNumber(text.substr(0, dash)) && isNumber(text.substr(dash + 1));
+    return dash != TextView::npos && isDigits(trim(text.substr(0, dash))) && isDigits(trim(text.substr(dash + 1)));
 }
 
 /// The four digits of the year that a date names, or nothing when the text is no date.
 std::optional<Text> yearOfDate(TextView text) {
     // A number on its own is the commonest year and no date; behind "c." it has a blank in front.
     const TextView year = trim(text);
-    if (std::all_of(year.begin(), year.end(), isDigit) || isRangeOfNumbers(year)) {
+    if (year.empty() || isDigits(year) || isRangeOfNumbers(year)) {
         return std::nullopt;
     }
     const std::optional<DateValue> date = dateWithItsYear(text);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/letter_case.h"
+#include "core/months.h"
 
 namespace quorvel {
 
@@ -16,20 +17,18 @@ constexpr TextView kDateMarks = u"/-";
 constexpr TextView kTimeMarks = u":.";
 constexpr std::size_t kMostDateMarks = 2;
 
-bool isAsciiLetter(char16_t unit) {
-    return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
-}
-
-bool isIn(std::span<const TextView> words, TextView word) {
-    return std::any_of(words.begin(), words.end(), [&](TextView entry) { return equalsIgnoringCase(entry, word); });
-}
-
-/// The place of a name or of its short form in the table, from 1; 0 when it is not there.
-int placeOfName(std::span<const TextView> names, TextView word) {
-    const auto found = std::find_if(names.begin(), names.end(), [&](TextView name) {
-        return equalsIgnoringCase(name, word) || equalsIgnoringCase(name.substr(0, kShortName), word);
+/// The number of a month by its name or short form; 0 for any other word.
+int numberOfMonth(TextView word) {
+    const auto* const found = std::find_if(std::begin(kMonths), std::end(kMonths), [&](const Month& month) {
+        return equalsIgnoringCase(month.name, word) || equalsIgnoringCase(month.shortName(), word);
     });
-    return found == names.end() ? 0 : static_cast<int>(found - names.begin()) + 1;
+    return found == std::end(kMonths) ? 0 : static_cast<int>(found - std::begin(kMonths)) + 1;
+}
+
+bool isWeekday(TextView word) {
+    return std::any_of(std::begin(kWeekdayNames), std::end(kWeekdayNames), [&](TextView name) {
+        return equalsIgnoringCase(name, word) || equalsIgnoringCase(name.substr(0, kShortWeekday), word);
+    });
 }
 
 bool isDateMark(char16_t unit) {
@@ -80,14 +79,14 @@ bool DateTokens::take(TextView token) {
 }
 
 bool DateTokens::takeWord(TextView word) {
-    if (const int month = placeOfName(kMonthNames, word)) {
+    if (const int month = numberOfMonth(word)) {
         return add({.value = month, .isName = true});
     }
-    if (placeOfName(kWeekdayNames, word) != 0) {
+    if (isWeekday(word)) {
         return true;
     }
-    const bool beforeNoon = isIn(kBeforeNoon, word);
-    if ((!beforeNoon && !isIn(kAfterNoon, word)) || mCount == 0 || mHasHalf) {
+    const bool beforeNoon = isOneOfIgnoringCase(word, kBeforeNoon);
+    if ((!beforeNoon && !isOneOfIgnoringCase(word, kAfterNoon)) || mCount == 0 || mHasHalf) {
         return false;
     }
     mHasHalf = true;

@@ -8,12 +8,10 @@
 
 namespace quorvel {
 
-inline constexpr TextView kMonthNames[] = {u"January", u"February", u"March",     u"April",   u"May",      u"June",
-                                           u"July",    u"August",   u"September", u"October", u"November", u"December"};
 inline constexpr TextView kWeekdayNames[] = {u"Sunday",   u"Monday", u"Tuesday", u"Wednesday",
                                              u"Thursday", u"Friday", u"Saturday"};
-/// A name's first letters are its short form.
-inline constexpr std::size_t kShortName = 3;
+/// The first letters of a weekday's name are its short form.
+inline constexpr std::size_t kShortWeekday = 3;
 
 inline constexpr std::size_t kMostDateNumbers = 3;
 inline constexpr std::size_t kMostTimeNumbers = 3;

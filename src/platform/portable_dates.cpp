@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/letter_case.h"
+#include "core/months.h"
 #include "platform/date_limits.h"
 #include "platform/date_tokens.h"
 
@@ -153,8 +154,8 @@ unsigned yearOf(const Calendar& date) {
     return static_cast<unsigned>(static_cast<int>(date.year()));
 }
 
-TextView monthName(const Calendar& date) {
-    return kMonthNames[static_cast<unsigned>(date.month()) - 1];
+const Month& monthOf(const Calendar& date) {
+    return kMonths[static_cast<unsigned>(date.month()) - 1];
 }
 
 TextView weekdayName(const Calendar& date) {
@@ -170,11 +171,11 @@ struct Code {
 // The longest of a letter first.
 constexpr Code kCodes[] = {
     {u"dddd", [](const Calendar& date) { return Text(weekdayName(date)); }},
-    {u"ddd", [](const Calendar& date) { return Text(weekdayName(date).substr(0, kShortName)); }},
+    {u"ddd", [](const Calendar& date) { return Text(weekdayName(date).substr(0, kShortWeekday)); }},
     {u"dd", [](const Calendar& date) { return digits(static_cast<unsigned>(date.day()), 2); }},
     {u"d", [](const Calendar& date) { return digits(static_cast<unsigned>(date.day()), 1); }},
-    {u"mmmm", [](const Calendar& date) { return Text(monthName(date)); }},
-    {u"mmm", [](const Calendar& date) { return Text(monthName(date).substr(0, kShortName)); }},
+    {u"mmmm", [](const Calendar& date) { return Text(monthOf(date).name); }},
+    {u"mmm", [](const Calendar& date) { return Text(monthOf(date).shortName()); }},
     {u"mm", [](const Calendar& date) { return digits(static_cast<unsigned>(date.month()), 2); }},
     {u"m", [](const Calendar& date) { return digits(static_cast<unsigned>(date.month()), 1); }},
     {u"yyyy", [](const Calendar& date) { return digits(yearOf(date), 1); }},

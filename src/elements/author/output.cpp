@@ -43,7 +43,7 @@ std::size_t firstLetter(TextView word) {
 /// "DT": initials that stand without stops and blanks.
 bool isRunOfCapitals(TextView firstNames) {
     return std::all_of(firstNames.begin(), firstNames.end(),
-                       [](char16_t unit) { return authorwords::isCapital(unit) || isHyphen(unit); });
+                       [](char16_t unit) { return isCapital(unit) || isHyphen(unit); });
 }
 
 /// Where the particle at the end of first names begins ("Simone de"); npos when there is none.

@@ -22,10 +22,6 @@ bool isCombining(char16_t unit) {
     return unit >= u'\u0300' && unit <= u'\u036F';
 }
 
-bool isDigit(char16_t unit) {
-    return unit >= u'0' && unit <= u'9';
-}
-
 enum class Letter { None, Lower, Capital };
 
 struct Cased {
@@ -46,12 +42,12 @@ Cased casedOf(char16_t unit) {
     if (unit < u'\u00C0' || (unit >= u'\u2000' && unit <= u'\u206F') || isCombining(unit)) {
         return {Letter::None, unit == kCurlyApostrophe ? u'\'' : unit};
     }
-    const char16_t lower = letterCase().toLower(unit);
+    const char16_t lower = toLower(unit);
     if (lower != unit) {
         return {Letter::Capital, lower};
     }
     // Scripts without letter case count as capitals where a name begins and as small letters inside it.
-    return {letterCase().toUpper(unit) != unit ? Letter::Lower : Letter::None, unit};
+    return {isSmallLetter(unit) ? Letter::Lower : Letter::None, unit};
 }
 
 /// What one pass over a word's characters finds.
@@ -285,10 +281,6 @@ Word wordOf(TextView text) {
         classify(word);
     }
     return word;
-}
-
-bool isCapital(char16_t unit) {
-    return casedOf(unit).letter == Letter::Capital;
 }
 
 bool isShouted(const Words& words) {

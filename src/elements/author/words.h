@@ -5,6 +5,7 @@
 #include <memory_resource>
 #include <vector>
 
+#include "core/letter_case.h"
 #include "core/text.h"
 #include "elements/author/lexicon.h"
 
@@ -75,9 +76,6 @@ std::uint32_t splitIntoWords(TextView text, Words& words);
 
 /// What a single word looks like and what it may be; for texts that are not in a list.
 Word wordOf(TextView text);
-
-/// True for capitals of any script.
-bool isCapital(char16_t unit);
 
 /// Whether no letter of the words is in lower case, but for the list's own words: capitals say nothing
 /// then.

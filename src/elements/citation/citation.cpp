@@ -7,6 +7,7 @@
 #include "elements/citation/text.h"
 #include "elements/title/quotes.h"
 #include "elements/title/short.h"
+#include "elements/volume_numbers.h"
 
 namespace quorvel {
 
@@ -446,7 +447,7 @@ void OutputTemplateCitation::addTitle(Slots& slots, std::int16_t slot, const Cit
 }
 
 void OutputTemplateCitation::addLocator(Slots& slots, const CitationFields& fields) const {
-    const Text volume = mUseMultiPartWork ? citationtext::volumeNumber(fields.volume) : Text();
+    const TextView volume = mUseMultiPartWork ? volumenumbers::withoutWord(fields.volume) : TextView();
     if (volume.empty()) {
         slots.add(kLocator, fields.page);
     } else if (fields.page.empty()) {

@@ -6,6 +6,7 @@
 
 #include "core/letter_case.h"
 #include "elements/page_words.h"
+#include "elements/volume_numbers.h"
 #include "elements/year.h"
 
 namespace quorvel::citationtext {
@@ -14,7 +15,6 @@ namespace {
 
 constexpr TextView kBetweenPieces = u", ";
 constexpr TextView kIbid = u"ibid";
-constexpr TextView kVolume = u"vol";
 // What stands around a citation and between its parts.
 constexpr TextView kOuterSigns = u" ,;()";
 
@@ -25,23 +25,11 @@ constexpr TextView kAndWordsInside[] = {u" and ", u" & "};
 constexpr TextView kPostfixes[] = {u"Jr.", u"Jr", u"Sr.", u"Sr", u"II", u"III", u"IV"};
 constexpr TextView kYearWords[] = {kNoDate, u"in press", u"forthcoming"};
 
-template <std::size_t N>
-bool beginsWithOneOf(TextView text, const TextView (&list)[N]) {
-    return std::any_of(std::begin(list), std::end(list), [&](TextView word) { return startsWith(text, word); });
-}
-
-template <std::size_t N>
-bool holdsOneOf(TextView text, const TextView (&list)[N]) {
-    return std::any_of(std::begin(list), std::end(list), [&](TextView word) { return contains(text, word); });
-}
-
 /// Without parentheses around it and without the full stop of a note.
 TextView bare(TextView citation) {
     TextView text = citation;
     if (endsWith(text, u".") && !endsWith(text, u".)")) {
-        const bool isAbbreviation = std::any_of(std::begin(kAbbreviationsAtTheEnd), std::end(kAbbreviationsAtTheEnd),
-                                                [&](TextView end) { return endsWith(text, end); });
-        text.remove_suffix(isAbbreviation ? 0 : 1);
+        text.remove_suffix(endsWithOneOf(text, kAbbreviationsAtTheEnd) ? 0 : 1);
     }
     if (startsWith(text, u"(") && endsWith(text, u")")) {
         text = text.substr(1, text.size() - 2);
@@ -51,8 +39,7 @@ TextView bare(TextView citation) {
 
 /// "2005", "2005a", "1900/1953", "n.d."
 bool isYear(TextView piece) {
-    if (std::any_of(std::begin(kYearWords), std::end(kYearWords),
-                    [&](TextView word) { return equalsIgnoringCase(piece, word); })) {
+    if (isOneOfIgnoringCase(piece, kYearWords)) {
         return true;
     }
     const TextView last = piece.substr(piece.find(u'/') + 1);
@@ -70,7 +57,7 @@ bool isLocator(TextView piece) {
 }
 
 bool isVolume(TextView piece) {
-    return startsWithIgnoringCase(piece, kVolume) && !volumeNumber(piece).empty() && volumeNumber(piece) != piece;
+    return volumenumbers::withoutWord(piece) != piece;
 }
 
 /// A page that stands before those read so far: "12, 15-17".
@@ -81,8 +68,7 @@ void addPage(TextView page, CitationFields& fields) {
 /// "2: 1-10", "2:12": a volume with its page.
 bool readVolumeAndPage(TextView piece, CitationFields& fields) {
     const std::size_t colon = piece.find(u':');
-    if (!fields.volume.empty() || colon == TextView::npos || colon == 0 ||
-        !consistsOf(piece.substr(0, colon), u"0123456789IVXLC")) {
+    if (!fields.volume.empty() || colon == TextView::npos || !volumenumbers::isNumber(piece.substr(0, colon))) {
         return false;
     }
     const TextView page = trim(piece.substr(colon + 1), u" ");
@@ -97,7 +83,7 @@ bool readVolumeAndPage(TextView piece, CitationFields& fields) {
 /// One piece behind the author and title; False when it is no such piece.
 bool readLocatorPiece(TextView piece, CitationFields& fields) {
     if (isVolume(piece) && fields.volume.empty()) {
-        fields.volume = volumeNumber(piece);
+        fields.volume = Text(volumenumbers::withoutWord(piece));
     } else if (isLocator(piece)) {
         addPage(piece, fields);
     } else {
@@ -141,9 +127,9 @@ void readFromEndOf(Text& piece, CitationFields& fields) {
 std::size_t piecesOfAuthor(const std::vector<Text>& pieces) {
     std::size_t count = 1;
     for (std::size_t i = 1; i < pieces.size(); ++i) {
-        const bool endsList = beginsWithOneOf(pieces[i], kAndWords) || startsWith(pieces[i], u"et al");
+        const bool endsList = startsWithOneOf(pieces[i], kAndWords) || startsWith(pieces[i], u"et al");
         const bool isPostfix = i == count && isOneOf(pieces[i], kPostfixes);
-        if ((endsList && !holdsOneOf(pieces[0], kAndWordsInside)) || isPostfix) {
+        if ((endsList && !containsOneOf(pieces[0], kAndWordsInside)) || isPostfix) {
             count = i + 1;
         }
     }
@@ -239,14 +225,6 @@ CitationFields read(TextView citation, TextView previous) {
         fields.title = joined(pieces, authors, pieces.size());
     }
     return fields;
-}
-
-Text volumeNumber(TextView volume) {
-    if (!startsWithIgnoringCase(volume, kVolume)) {
-        return Text(volume);
-    }
-    const std::size_t number = volume.find_first_of(u"0123456789IVXLC", kVolume.size());
-    return number == TextView::npos ? Text(volume) : Text(volume.substr(number));
 }
 
 }  // namespace quorvel::citationtext

@@ -29,7 +29,4 @@ inline constexpr TextView kNoDate = u"n.d.";
 /// @param previous the citation before, for "Ibid."
 CitationFields read(TextView citation, TextView previous);
 
-/// "2" for "2", "vol. 2", "Vol. 2".
-Text volumeNumber(TextView volume);
-
 }  // namespace quorvel::citationtext

@@ -5,15 +5,11 @@
 
 #include "core/common_testing_functions.h"
 #include "core/letter_case.h"
+#include "core/months.h"
 
 namespace quorvel {
 
 namespace {
-
-constexpr TextView kMonths[] = {
-    u"January", u"February", u"March",     u"April",   u"May",      u"June",
-    u"July",    u"August",   u"September", u"October", u"November", u"December",
-};
 
 constexpr TextView kSeasons[] = {u"Spring", u"Summer", u"Fall", u"Autumn", u"Winter"};
 
@@ -23,7 +19,6 @@ constexpr TextView kOrdinalSuffixes[] = {u"st", u"nd", u"rd", u"th"};
 // What may stand between the parts of a complete date, and what joins one that is all numbers.
 constexpr TextView kSigns = u" ,.-/";
 constexpr TextView kJoiningSigns = u"-/";
-constexpr TextView kDigits = u"0123456789";
 constexpr TextView kDigitsAndTheirSigns = u"0123456789-/";
 constexpr TextView kJointsOfMonths = u"-/\u2013";
 
@@ -39,23 +34,12 @@ int valueOf(TextView digits) {
     return value;
 }
 
-bool isSeason(TextView word) {
-    return std::any_of(std::begin(kSeasons), std::end(kSeasons),
-                       [&](TextView season) { return equalsIgnoringCase(season, word); });
-}
-
-/// "September" or "Sept.", for any form of a month's name.
-Text monthName(TextView word, bool isShort) {
-    constexpr std::size_t kShortName = 3;
-    constexpr TextView kShortPattern = u"mmm";
-    Text name = CommonTestingFunctions::convertToLongMonthNameIfNecessary(word);
-    name = *std::find_if(std::begin(kMonths), std::end(kMonths),
-                         [&](TextView month) { return equalsIgnoringCase(month, name); });
-    if (isShort) {
-        name.resize(std::min(name.size(), kShortName));
-        CommonTestingFunctions::FormatForMLA(name, kShortPattern);
-    }
-    return name;
+/// The month of a name or an abbreviation; nothing for any other word.
+const Month* monthOf(TextView word) {
+    const Text name = CommonTestingFunctions::convertToLongMonthNameIfNecessary(word);
+    const auto* const found = std::find_if(std::begin(kMonths), std::end(kMonths),
+                                           [&](const Month& month) { return equalsIgnoringCase(month.name, name); });
+    return found == std::end(kMonths) ? nullptr : found;
 }
 
 /// The numbers and words of a text, in their order.
@@ -85,8 +69,7 @@ DateParts partsOf(TextView text) {
             if (!isColon(to) && (from == 0 || !isColon(from - 1))) {
                 parts.numbers.push_back(part);
             }
-        } else if (!followsNumber || std::find(std::begin(kOrdinalSuffixes), std::end(kOrdinalSuffixes), part) ==
-                                         std::end(kOrdinalSuffixes)) {
+        } else if (!followsNumber || !isOneOf(part, kOrdinalSuffixes)) {
             parts.words.push_back(part);
         }
         from = to;
@@ -136,7 +119,7 @@ std::optional<Text> completeDate(TextView text) {
     }
     Text date(text);
     if (parts.words.empty()) {
-        if (text.find_first_not_of(kDigitsAndTheirSigns) != TextView::npos) {
+        if (!consistsOf(text, kDigitsAndTheirSigns)) {
             return std::nullopt;
         }
     } else {
@@ -152,8 +135,7 @@ std::optional<Text> completeDate(TextView text) {
 std::optional<MonthsAndYear> monthsAndYear(TextView text, bool useShortMonths) {
     const std::size_t year = text.find_first_of(kDigits);
     const bool isYearFirst = year == 0;
-    if (year == TextView::npos || text.size() < year + kDigitsOfYear ||
-        !consistsOf(text.substr(year, kDigitsOfYear), kDigits)) {
+    if (year == TextView::npos || text.size() < year + kDigitsOfYear || !isDigits(text.substr(year, kDigitsOfYear))) {
         return std::nullopt;
     }
     MonthsAndYear result{{}, Text(text.substr(year, kDigitsOfYear))};
@@ -175,10 +157,11 @@ std::optional<MonthsAndYear> monthsAndYear(TextView text, bool useShortMonths) {
         }
         const auto end = std::find_if_not(rest.begin(), rest.end(), isCasedLetter);
         const TextView word(rest.begin(), end);
-        if (!isMonth(word) && !isSeason(word)) {
+        const Month* const month = monthOf(word);
+        if (month == nullptr && !isOneOfIgnoringCase(word, kSeasons)) {
             return std::nullopt;
         }
-        result.months += isMonth(word) ? monthName(word, useShortMonths) : Text(word);
+        result.months += month == nullptr ? word : useShortMonths ? month->mla : month->name;
         rest.remove_prefix(word.size());
         rest.remove_prefix(startsWith(rest, u".") ? 1 : 0);
     }
@@ -186,9 +169,7 @@ std::optional<MonthsAndYear> monthsAndYear(TextView text, bool useShortMonths) {
 }
 
 bool isMonth(TextView word) {
-    const Text name = CommonTestingFunctions::convertToLongMonthNameIfNecessary(word);
-    return std::any_of(std::begin(kMonths), std::end(kMonths),
-                       [&](TextView month) { return equalsIgnoringCase(month, name); });
+    return monthOf(word) != nullptr;
 }
 
 }  // namespace quorvel

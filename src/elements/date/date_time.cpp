@@ -34,16 +34,10 @@ constexpr TextView kJoiningSigns = u" ,;";
 constexpr TextView kSignsOfEnd = u" ,;.";
 // What no date holds.
 constexpr TextView kSignsOfOtherTexts = u"()[]{}\":\u201C\u201D";
-constexpr TextView kDigits = u"0123456789";
 
 constexpr TextView kYear = u"yy";
 constexpr TextView kLongMonth = u"mmmm";
 constexpr TextView kShortMonth = u"mmm";
-
-bool isJoiningWord(TextView word) {
-    return std::any_of(std::begin(kJoiningWords), std::end(kJoiningWords),
-                       [&](TextView joining) { return equalsIgnoringCase(word, joining); });
-}
 
 /// A date without what joins it to its time.
 TextView withoutJoint(TextView date) {
@@ -51,9 +45,9 @@ TextView withoutJoint(TextView date) {
         date = trim(date, kJoiningSigns);
         const TextView first = date.substr(0, date.find_first_of(kJoiningSigns));
         const TextView last = date.substr(date.find_last_of(kJoiningSigns) + 1);
-        if (!first.empty() && isJoiningWord(first)) {
+        if (!first.empty() && isOneOfIgnoringCase(first, kJoiningWords)) {
             date.remove_prefix(first.size());
-        } else if (!last.empty() && isJoiningWord(last)) {
+        } else if (!last.empty() && isOneOfIgnoringCase(last, kJoiningWords)) {
             date.remove_suffix(last.size());
         } else {
             return date;

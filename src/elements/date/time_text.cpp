@@ -45,10 +45,6 @@ std::size_t digitsAt(TextView text) {
     return runLength(text, isDigit);
 }
 
-bool startsWithIgnoringCase(TextView text, TextView prefix) {
-    return equalsIgnoringCase(text.substr(0, prefix.size()), prefix);
-}
-
 bool startsWithOneOf(TextView text, TextView signs) {
     return !text.empty() && contains(signs, text.substr(0, 1));
 }
@@ -131,7 +127,7 @@ std::size_t phraseAt(TextView text) {
     for (std::size_t words = 0; words < kLongestPhrase; ++words) {
         const TextView word = text.substr(length, wordAt(text.substr(length)));
         length += word.size();
-        if (word.empty() || letterCase().toUpper(word[0]) != word[0]) {
+        if (word.empty() || toUpper(word[0]) != word[0]) {
             return 0;
         }
         if (word == kTime) {

@@ -217,10 +217,8 @@ bool OutputTemplateTitle::isPreformattedTitle(TextView text) const {
 }
 
 bool OutputTemplateTitle::endsWithPunctuation(TextView text) const {
-    return procedure(*this, u"endsWithPunctuation", {{u"text", text}}, [&] {
-        return std::any_of(std::begin(kPunctuationEnds), std::end(kPunctuationEnds),
-                           [&](TextView end) { return endsWith(text, end); });
-    });
+    return procedure(*this, u"endsWithPunctuation", {{u"text", text}},
+                     [&] { return endsWithOneOf(text, kPunctuationEnds); });
 }
 
 }  // namespace quorvel

@@ -1,5 +1,6 @@
 #include "elements/title/case.h"
 
+#include "core/letter_case.h"
 #include "elements/title/sentence.h"
 
 namespace quorvel::titlecase {

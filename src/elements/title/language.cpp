@@ -44,8 +44,7 @@ bool readsAsEnglish(const TitleText& title) {
 bool hasForeignSpelling(const TitleText& title) {
     // Few titles hold the letters in which these end.
     return anyUnit(title.lowered, [](char16_t unit) { return unit == u'z' || unit == u'\u0161'; }) &&
-           std::any_of(std::begin(kForeignSpellings), std::end(kForeignSpellings),
-                       [&](TextView spelling) { return contains(title.lowered, spelling); });
+           containsOneOf(title.lowered, kForeignSpellings);
 }
 
 bool isOld(const TitleText& title) {
@@ -59,9 +58,8 @@ bool isEnglish(const TitleText& title) {
 }
 
 bool isPreformatted(TextView title) {
-    const bool isAddress = std::any_of(std::begin(kAddressStarts), std::end(kAddressStarts),
-                                       [&](TextView start) { return startsWithIgnoringCase(title, start); });
-    return isAddress || std::none_of(title.begin(), title.end(), titlecase::isSmallLetter);
+    return startsWithOneOfIgnoringCase(title, kAddressStarts) ||
+           std::none_of(title.begin(), title.end(), isSmallLetter);
 }
 
 }  // namespace quorvel::titlelanguage

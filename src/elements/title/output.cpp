@@ -7,6 +7,7 @@
 #include "core/letter_case.h"
 #include "core/procedure.h"
 #include "core/run_time_error.h"
+#include "elements/style_codes.h"
 #include "elements/title/quotes.h"
 #include "elements/title/roman.h"
 #include "elements/title/short.h"
@@ -64,7 +65,7 @@ void addItalic(OutputSink& sink, TextView text, std::span<const Range> roman) {
 }  // namespace
 
 void OutputTemplateTitle::layOutForFormat() {
-    const TextView beforeDescription = titletypes::usesBrackets(mFormat) ? u" " : u", ";
+    const TextView beforeDescription = stylecodes::usesBrackets(mFormat) ? u" " : u", ";
     layOut(kLayout, std::span(&beforeDescription, 1));
 }
 
@@ -98,7 +99,7 @@ bool OutputTemplateTitle::fillSlots(bool /*isFootnote*/, std::vector<Text>& item
                                     std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
     const bool hasTitle = !mValues.at(kTitle).empty() || !mValues.at(kSubtitle).empty();
     const TextView text = titletypes::describingText(mTitleType, mFormat, hasTitle);
-    const bool isBare = text.empty() || titletypes::isLeadIn(text) || !titletypes::usesBrackets(mFormat);
+    const bool isBare = text.empty() || titletypes::isLeadIn(text) || !stylecodes::usesBrackets(mFormat);
     const Text description = isBare ? Text(text) : concatenate({u"[", text, u"]"});
     if (!hasTitle) {
         items.at(kLeadInSlot) = description;
@@ -218,7 +219,7 @@ void OutputTemplateTitle::ToFormattedStringPrematterImpl(const OutputSinkRef& fo
                   const titletypes::PrematterJoints joints = titletypes::prematterJoints(mFormat);
                   const bool hasTitle = prematterHasTitle();
                   // Turabian 7 17.1.8.2: in the middle of a note the word has no capital.
-                  const bool isSmall = isFootnote && mFormat == titletypes::kTurabian;
+                  const bool isSmall = isFootnote && mFormat == stylecodes::kTurabian;
                   const Text word = isSmall ? toLower(mTitleType) : mTitleType;
                   const std::shared_ptr<OutputTemplateAuthor> author = mAuthorTemplate;
                   const bool writesAuthor = author && author->numAuthors() > 0 && !shortenedVersion;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/letter_case.h"
 #include "elements/title/shapes.h"
 
 namespace quorvel::titlecase {

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/letter_case.h"
 #include "elements/title/piece_names.h"
 #include "elements/title/shapes.h"
 

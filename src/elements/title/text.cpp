@@ -53,19 +53,6 @@ bool isWordUnit(char16_t unit) {
     return (kindOf(unit, unit) & kLetterOrDigit) != 0;
 }
 
-char16_t upper(char16_t unit) {
-    if (unit < 0x80) {
-        return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
-    }
-    return toUpper(TextView(&unit, 1)).front();
-}
-char16_t lower(char16_t unit) {
-    if (unit < 0x80) {
-        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
-    }
-    return toLower(TextView(&unit, 1)).front();
-}
-
 bool isClosingMark(char16_t unit) {
     return unit == u'"' || unit == kRightDoubleQuotationMark || unit == u')';
 }
@@ -237,18 +224,11 @@ bool isStopOfWord(TextView text, std::size_t stop) {
     return isInitials || titlewords::Lexicon::instance().find(word, toLower(word)).is(titlewords::kAbbreviation);
 }
 
-bool isCapital(char16_t unit) {
-    return lower(unit) != unit;
-}
-bool isSmallLetter(char16_t unit) {
-    return upper(unit) != unit;
-}
-
 void capitalizeAt(Text& text, std::size_t index) {
-    text[index] = upper(text[index]);
+    text[index] = toUpper(text[index]);
 }
 void lowerAt(Text& text, std::size_t index) {
-    text[index] = lower(text[index]);
+    text[index] = toLower(text[index]);
 }
 
 bool isAcronym(TextView word) {

@@ -94,8 +94,6 @@ bool hasOwnCase(TextView word);
 /// Ends in "'s".
 bool isPossessive(TextView word);
 TextView withoutPossessive(TextView word);
-bool isCapital(char16_t unit);
-bool isSmallLetter(char16_t unit);
 /// Whether a full stop at this place belongs to its word: behind an initial or an abbreviation.
 bool isStopOfWord(TextView text, std::size_t stop);
 

@@ -4,15 +4,15 @@
 #include <iterator>
 
 #include "core/letter_case.h"
+#include "elements/captions.h"
+#include "elements/style_codes.h"
 
 namespace quorvel::titletypes {
 
+using namespace stylecodes;
+
 namespace {
 
-struct Caption {
-    TextView type;
-    TextView caption;
-};
 constexpr Caption kCaptions[] = {
     {u"Chapter title", u"Chapter"}, {u"Excerpt from", u"Excerpt"},  {u"Reference entry", u"Entry"},
     {u"Introduction", u"Intro"},    {u"Obituary", u"Obituary for"}, {u"Interview", u"Interview of"},
@@ -54,15 +54,11 @@ const std::vector<Description>& descriptions() {
 }  // namespace
 
 Text captionOf(TextView type) {
-    const auto* const row =
-        std::find_if(std::begin(kCaptions), std::end(kCaptions), [&](const Caption& c) { return c.type == type; });
-    return Text(row != std::end(kCaptions) ? row->caption : type);
+    return quorvel::captionOf(type, kCaptions);
 }
 
 Text typeOf(TextView caption) {
-    const auto* const row = std::find_if(std::begin(kCaptions), std::end(kCaptions),
-                                         [&](const Caption& c) { return c.caption == caption; });
-    return Text(row != std::end(kCaptions) ? row->type : caption);
+    return quorvel::typeOf(caption, kCaptions);
 }
 
 std::vector<Text> prematterTypes() {
@@ -103,12 +99,8 @@ Text typeOfDescribingText(TextView text) {
     return {};
 }
 
-bool usesBrackets(std::int16_t format) {
-    return format == kApa || format == kAma;
-}
-
 bool quotesParts(std::int16_t format) {
-    return format == kMla || format == kMlaWithoutEd || format == kTurabian;
+    return isMla(format) || format == kTurabian;
 }
 
 PrematterJoints prematterJoints(std::int16_t format) {

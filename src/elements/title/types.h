@@ -8,9 +8,6 @@
 /// The types that a title may have, their captions in the form, and the texts that describe them.
 namespace quorvel::titletypes {
 
-/// The style codes that `Reset` receives as format. They are part of the interface.
-enum StyleCode : std::int16_t { kMlaWithoutEd = -1, kAma = 0, kApa = 1, kMla = 2, kTurabian = 3 };
-
 Text captionOf(TextView type);
 Text typeOf(TextView caption);
 
@@ -29,8 +26,6 @@ bool isLeadIn(TextView describingText);
 /// The type that a describing text in square brackets stands for: "Letter" for "letter"; empty for none.
 Text typeOfDescribingText(TextView text);
 
-/// Describing texts stand in square brackets (APA 6 6.33, AMA 10 3.12), or else after a comma.
-bool usesBrackets(std::int16_t format);
 /// Parts of works stand in quotation marks (MLA 7 3.6.3, Turabian 7 22.3.2), or else in plain text.
 bool quotesParts(std::int16_t format);
 

@@ -91,5 +91,15 @@ TEST(LetterCase, TheUsersCountryDoesNotMatter) {
     }
 }
 
+TEST(LetterCase, IsLeftAsideInComparisons) {
+    EXPECT_EQ(findIgnoringCase(u"Trans. OF the Original", u"of"), 7U);
+    EXPECT_EQ(findIgnoringCase(u"\u00C9DITION, \u00E9dition", u"\u00E9DITION", 1), 9U);
+    EXPECT_EQ(findIgnoringCase(u"ed", u"eds"), TextView::npos);
+    EXPECT_EQ(findIgnoringCase(u"ed", u"", 2), 2U);
+    EXPECT_EQ(findIgnoringCase(u"ed", u"", 3), TextView::npos);
+    EXPECT_TRUE(endsWithIgnoringCase(u"2nd ED.", u" ed."));
+    EXPECT_FALSE(endsWithIgnoringCase(u"d.", u" ed."));
+}
+
 }  // namespace
 }  // namespace quorvel
