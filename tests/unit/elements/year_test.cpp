@@ -4,23 +4,17 @@
 
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
+#include "support/style_file.h"
 
 namespace quorvel {
 namespace {
 
 using Year = OutputTemplateYear;
 
-enum Style { kMla, kApa, kTurabian, kAma };
-
-Year yearOf(Style style) {
+Year yearOf(std::string_view style) {
     Year year;
     year.Initialize(nullptr);
-    switch (style) {
-        case kMla: year.Reset({true, false, true, u"c.", true, u"n.d.", false}); break;
-        case kApa: year.Reset({false, true, false, u"ca.", true, u"n.d.", true}); break;
-        case kTurabian: year.Reset({true, false, true, u"ca.", true, u"n.d.", true}); break;
-        case kAma: year.Reset({false, true, false, u"", false, u"date unknown", false}); break;
-    }
+    year.Reset(test::StyleFile::of(style).options("year", kYearOptions));
     return year;
 }
 
@@ -62,7 +56,7 @@ TEST(Year, ReadsAndWritesEachVariant) {
     };
     for (const Case& c : kCases) {
         SCOPED_TRACE(testing::PrintToString(Text(c.text)));
-        Year year = yearOf(kMla);
+        Year year = yearOf("mla");
         Text text(c.text);
         year.Parse(text, u"ignored");
         EXPECT_EQ(year.yearType, c.yearType);
@@ -70,15 +64,15 @@ TEST(Year, ReadsAndWritesEachVariant) {
         EXPECT_EQ(text, c.remainder);
         EXPECT_EQ(year.toString(false, false), c.mla);
         EXPECT_EQ(year.toString(true, true), c.mla);
-        EXPECT_EQ(yearOf(kApa).formatStr(c.text), c.apa);
-        EXPECT_EQ(yearOf(kAma).formatStr(c.text), c.ama);
+        EXPECT_EQ(yearOf("apa").formatStr(c.text), c.apa);
+        EXPECT_EQ(yearOf("ama").formatStr(c.text), c.ama);
     }
 }
 
 TEST(Year, ReadsItsOwnOutput) {
     constexpr TextView kTexts[] = {u"1990",         u"1990a",         u"1990-1995", u"n.d.",    u"[1990?]",
                                    u"[1990-1995?]", u"[ca. 1990-95]", u"[1990]",    u"In press"};
-    for (const Style style : {kMla, kApa, kTurabian}) {
+    for (const std::string_view style : {"mla", "apa", "turabian"}) {
         for (const TextView text : kTexts) {
             const Text written = yearOf(style).formatStr(text);
             EXPECT_EQ(yearOf(style).formatStr(written), written);
@@ -116,7 +110,7 @@ TEST(Year, TakesTheYearOutOfADate) {
     };
     for (const Case& c : kCases) {
         SCOPED_TRACE(testing::PrintToString(Text(c.text)));
-        Year year = yearOf(kMla);
+        Year year = yearOf("mla");
         Text text(c.text);
         year.Parse(text, {});
         EXPECT_EQ(year.Year, c.year);
@@ -139,7 +133,7 @@ TEST(Year, IsYearLeavesTheElementAsItIs) {
         {u"May 5, 1990", false}, {u"Paris", false},    {u"90", false},
         {u"-1990", false},       {u"10:30", false},    {u"12000", false},
     };
-    Year year = yearOf(kApa);
+    Year year = yearOf("apa");
     year.yearType = Year::kCirca;
     year.Year = u"before";
     for (const Case& c : kCases) {
@@ -173,9 +167,9 @@ TEST_F(YearReports, SupportsWhatTheStyleOffers) {
     unset.Initialize(nullptr);
     const Case kCases[] = {
         {unset, {true, true, false, false, false, false}},
-        {yearOf(kMla), {true, true, true, true, true, true}},
-        {yearOf(kApa), {true, true, false, true, true, true}},
-        {yearOf(kAma), {true, true, false, false, false, true}},
+        {yearOf("mla"), {true, true, true, true, true, true}},
+        {yearOf("apa"), {true, true, false, true, true, true}},
+        {yearOf("ama"), {true, true, false, false, false, true}},
     };
     for (const Case& c : kCases) {
         for (std::size_t code = 0; code < c.supports.size(); ++code) {
@@ -184,14 +178,14 @@ TEST_F(YearReports, SupportsWhatTheStyleOffers) {
     }
     EXPECT_TRUE(service().errors().empty());
     for (const std::int32_t code : {-1, 6, INT32_MAX, INT32_MIN}) {
-        EXPECT_FALSE(yearOf(kMla).Supports(code));
+        EXPECT_FALSE(yearOf("mla").Supports(code));
         EXPECT_EQ(service().errors().size(), 1U);
         service().forget();
     }
 }
 
 TEST(Year, ResetKeepsWhatWasRead) {
-    Year year = yearOf(kMla);
+    Year year = yearOf("mla");
     EXPECT_EQ(year.formatStr(u"In press"), u"forthcoming");
     year.Reset({true, true, false, u"", false, u"", false});
     EXPECT_EQ(year.toString(false, false), u"In press");
@@ -200,7 +194,7 @@ TEST(Year, ResetKeepsWhatWasRead) {
 }
 
 TEST(Year, ACloneLacksTheForthcomingWordAndTheEnDash) {
-    Year year = yearOf(kTurabian);
+    Year year = yearOf("turabian");
     year.formatStr(u"[ca. 1990-1995]");
     const auto clone = year.Clone();
     EXPECT_EQ(clone->toString(false, false), u"[ca.  1990-1995]");
@@ -216,7 +210,7 @@ TEST(Year, ACloneLacksTheForthcomingWordAndTheEnDash) {
 }
 
 TEST_F(YearReports, WritesOnePlainPhrase) {
-    Year year = yearOf(kApa);
+    Year year = yearOf("apa");
     year.formatStr(u"1990-1995");
     const auto sink = std::make_shared<RecordingSink>();
     year.ToFormattedString(sink, true, false);

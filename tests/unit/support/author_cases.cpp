@@ -60,52 +60,6 @@ bool matches(const Text& expected, const Text& read) {
 
 }  // namespace
 
-Text textOf(const std::string& utf8) {
-    Text text;
-    for (std::size_t i = 0; i < utf8.size();) {
-        const auto lead = static_cast<unsigned char>(utf8[i]);
-        const std::size_t size = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-        char32_t point = size == 1 ? lead : lead & (0xFFU >> (size + 1));
-        for (std::size_t k = 1; k < size && i + k < utf8.size(); ++k) {
-            point = (point << 6U) | (static_cast<unsigned char>(utf8[i + k]) & 0x3FU);
-        }
-        i += size;
-        if (point < 0x10000) {
-            text.push_back(static_cast<char16_t>(point));
-        } else {
-            text.push_back(static_cast<char16_t>(0xD800 + ((point - 0x10000) >> 10U)));
-            text.push_back(static_cast<char16_t>(0xDC00 + ((point - 0x10000) & 0x3FFU)));
-        }
-    }
-    return text;
-}
-
-std::string utf8Of(TextView text) {
-    std::string utf8;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        char32_t point = text[i];
-        if (point >= 0xD800 && point < 0xDC00 && i + 1 < text.size()) {
-            point = 0x10000 + ((point - 0xD800) << 10U) + (text[++i] - 0xDC00U);
-        }
-        if (point < 0x80) {
-            utf8.push_back(static_cast<char>(point));
-        } else if (point < 0x800) {
-            utf8.push_back(static_cast<char>(0xC0U | (point >> 6U)));
-            utf8.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
-        } else if (point < 0x10000) {
-            utf8.push_back(static_cast<char>(0xE0U | (point >> 12U)));
-            utf8.push_back(static_cast<char>(0x80U | ((point >> 6U) & 0x3FU)));
-            utf8.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
-        } else {
-            utf8.push_back(static_cast<char>(0xF0U | (point >> 18U)));
-            utf8.push_back(static_cast<char>(0x80U | ((point >> 12U) & 0x3FU)));
-            utf8.push_back(static_cast<char>(0x80U | ((point >> 6U) & 0x3FU)));
-            utf8.push_back(static_cast<char>(0x80U | (point & 0x3FU)));
-        }
-    }
-    return utf8;
-}
-
 std::vector<Case> readCases(std::istream& file) {
     std::vector<Case> cases;
     for (std::string line; std::getline(file, line);) {

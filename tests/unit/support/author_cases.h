@@ -6,9 +6,13 @@
 
 #include "core/text.h"
 #include "elements/author/author.h"
+#include "support/utf8.h"
 
 /// Lists of persons as they were printed, with the persons that they name.
 namespace quorvel::authorcases {
+
+using test::textOf;
+using test::utf8Of;
 
 /// A line of a file of cases: id, form, "whole" or "cut", the printed text, the persons. Persons are
 /// "last|first|postfix", separated by " ; "; first names are in full where they are known.
@@ -22,9 +26,6 @@ struct Case {
 
 /// Reads cases; lines that begin with "#" and lines with less than five columns are passed over.
 std::vector<Case> readCases(std::istream& file);
-
-Text textOf(const std::string& utf8);
-std::string utf8Of(TextView text);
 
 /// Whether a person that was read is the one of the case: the last name with its particle, the postfix,
 /// and each first name either in full or as its initial.

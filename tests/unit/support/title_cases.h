@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/text.h"
+#include "support/utf8.h"
 
 namespace quorvel::test {
 
@@ -22,8 +23,5 @@ std::vector<TitleCase> readTitleCases(std::istream& file);
 
 /// The title as the library writes it by the case's rule.
 Text casedFor(const TitleCase& title);
-
-std::string utf8Of(TextView text);
-Text textOfUtf8(const std::string& bytes);
 
 }  // namespace quorvel::test
