@@ -12,13 +12,13 @@
 #include <sstream>
 #include <string_view>
 
-#include "bridge_to_vb.h"
-#include "data_file.h"
-#include "error_report_service.h"
-#include "reference_writer.h"
-#include "references.h"
-#include "styled_elements.h"
-#include "text_io.h"
+#include "com/bridge_to_vb.h"
+#include "com/error_report_service.h"
+#include "data/data_file.h"
+#include "data/references.h"
+#include "text/text_io.h"
+#include "writing/reference_writer.h"
+#include "writing/styled_elements.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "command_line.h"
 
-#include "variant.h"
+#include "com/variant.h"
 
 namespace sample {
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "style.h"
+#include "data/style.h"
 
 namespace sample {
 

@@ -9,12 +9,12 @@
 #include <memory>
 #include <optional>
 
-#include "bridge_to_vb.h"
+#include "com/bridge_to_vb.h"
+#include "com/error_report_service.h"
 #include "command_line.h"
-#include "data_file.h"
-#include "error_report_service.h"
-#include "reference_list.h"
-#include "text_io.h"
+#include "data/data_file.h"
+#include "text/text_io.h"
+#include "writing/reference_list.h"
 
 namespace sample {
 

@@ -1,5 +1,5 @@
 #include "recording_service.h"
-#include "reference_model.h"
+#include "writing/reference_model.h"
 
 namespace comtests {
 namespace {

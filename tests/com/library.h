@@ -5,9 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include "bridge_to_vb.h"
-#include "formatted_text.h"
-#include "late_bound.h"
+#include "com/bridge_to_vb.h"
+#include "com/late_bound.h"
+#include "text/formatted_text.h"
 // Generated from the interface description.
 #include <QuorvelTemplate.h>
 

@@ -1,7 +1,7 @@
 #include <functional>
 
 #include "recording_service.h"
-#include "reference_model.h"
+#include "writing/reference_model.h"
 
 namespace comtests {
 namespace {

@@ -2,7 +2,7 @@
 #include <sstream>
 
 #include "library.h"
-#include "text_io.h"
+#include "text/text_io.h"
 
 namespace comtests {
 namespace {

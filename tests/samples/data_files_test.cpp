@@ -5,9 +5,9 @@
 #include <map>
 #include <set>
 
-#include "references.h"
-#include "style.h"
-#include "text_io.h"
+#include "data/references.h"
+#include "data/style.h"
+#include "text/text_io.h"
 
 namespace sample {
 namespace {

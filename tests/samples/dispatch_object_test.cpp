@@ -1,10 +1,10 @@
-#include "dispatch_object.h"
+#include "com/dispatch_object.h"
 
 #include <gtest/gtest.h>
 
-#include "formatted_text.h"
-#include "late_bound.h"
-#include "reference_model.h"
+#include "com/late_bound.h"
+#include "text/formatted_text.h"
+#include "writing/reference_model.h"
 
 namespace sample {
 namespace {

@@ -1,11 +1,11 @@
-#include "error_report_service.h"
+#include "com/error_report_service.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-#include "bridge_to_vb.h"
-#include "late_bound.h"
+#include "com/bridge_to_vb.h"
+#include "com/late_bound.h"
 
 namespace sample {
 namespace {

@@ -1,8 +1,8 @@
-#include "formatted_text.h"
+#include "text/formatted_text.h"
 
 #include <gtest/gtest.h>
 
-#include "late_bound.h"
+#include "com/late_bound.h"
 
 namespace sample {
 namespace {

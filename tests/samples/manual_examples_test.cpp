@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <map>
 
-#include "citation_writer.h"
-#include "data_file.h"
-#include "references.h"
+#include "data/data_file.h"
+#include "data/references.h"
 #include "sample_styles.h"
-#include "text_io.h"
+#include "text/text_io.h"
+#include "writing/citation_writer.h"
 
 namespace sample {
 namespace {

@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "reference_writer.h"
+#include "writing/reference_writer.h"
 
 namespace sample {
 

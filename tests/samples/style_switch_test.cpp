@@ -4,10 +4,10 @@
 #include <map>
 #include <set>
 
-#include "data_file.h"
-#include "references.h"
+#include "data/data_file.h"
+#include "data/references.h"
 #include "sample_styles.h"
-#include "text_io.h"
+#include "text/text_io.h"
 
 namespace sample {
 namespace {

@@ -1,0 +1,147 @@
+#include "writing/slot_filler.h"
+
+#include <bitset>
+
+namespace sample {
+
+namespace {
+
+constexpr std::int16_t kPlaceElement = 15;
+constexpr std::wstring_view kQuotationMarks = L"\u201D\u2019\"'";
+
+// In the order of ToFormattedStringImpl's arguments.
+enum : std::size_t { kIsFootnote, kItems, kFormattedItems, kShortenedVersion };
+
+}  // namespace
+
+SlotFiller::SlotFiller() {
+    addMethod(L"ToFormattedStringImpl", [this](const Arguments& arguments, VARIANT& result) {
+        fill(arguments);
+        const bool isNothingToAssemble = false;
+        result = Variant(isNothingToAssemble).release();
+        return S_OK;
+    });
+    addMethod(L"initChecking", [this](const Arguments& arguments, VARIANT&) {
+        check(arguments);
+        return S_OK;
+    });
+}
+
+void SlotFiller::begin(const Reference& reference, const std::vector<PreparedSlot>& slots, const Style& style,
+                       Form form, std::wstring sameAuthor) {
+    mReference = &reference;
+    mSlots = &slots;
+    mStyle = &style;
+    mSameAuthor = std::move(sameAuthor);
+    std::bitset<kLastIndex + 1> taken;
+    mFilling.assign(slots.size(), nullptr);
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+        for (const PreparedSource& prepared : slots[i].sources) {
+            const Field& field = *prepared.source->field;
+            const auto index = static_cast<std::size_t>(field.index);
+            if (taken[index] || !reference.has(field) || !counts(*prepared.source, form)) continue;
+            taken[index] = true;
+            mFilling[i] = &prepared;
+            break;
+        }
+    }
+}
+
+bool SlotFiller::counts(const SlotSource& source, Form form) const {
+    const bool isInForm = form == Form::kList ? source.inLists : source.inNotes;
+    return isInForm && (source.onlyWith == nullptr || mReference->has(*source.onlyWith));
+}
+
+void SlotFiller::end() {
+    mReference = nullptr;
+    mFilling.clear();
+}
+
+void SlotFiller::fill(const Arguments& arguments) const {
+    const bool isFootnote = arguments.boolean(kIsFootnote);
+    const bool shortenedVersion = arguments.boolean(kShortenedVersion);
+    const std::vector<Variant> fragments = elementsOf(arguments[kFormattedItems]);
+    for (std::size_t i = 0; i < mFilling.size(); ++i) {
+        if (mFilling[i] == nullptr) continue;
+        if ((*mSlots)[i].slot->isFormatted) {
+            auto* fragment = dynamic_cast<FormattedText*>(DispatchObject::behind(fragments.at(i).get().pdispVal));
+            if (fragment != nullptr) write(i, isFootnote, shortenedVersion, *fragment);
+        } else {
+            const std::wstring text = i == 0 && !mSameAuthor.empty()
+                                          ? authorMark(*mFilling[i])
+                                          : plainText(*mFilling[i], isFootnote, shortenedVersion);
+            assignElement(arguments[kItems], static_cast<LONG>(i), Variant(text));
+        }
+    }
+}
+
+void SlotFiller::write(std::size_t slot, bool isFootnote, bool shortenedVersion, FormattedText& fragment) const {
+    const PreparedSource& filling = *mFilling[slot];
+    if (slot == 0 && !mSameAuthor.empty()) {
+        fragment.add(authorMark(filling));
+    } else if (filling.element == nullptr) {
+        fragment.add(hostText(*filling.source, isFootnote), filling.source->font);
+    } else if ((*mSlots)[slot].slot->isFormatted) {
+        parse(filling, isFootnote);
+        filling.element->toFormattedString({&fragment, isFootnote || filling.source->inNoteForm, shortenedVersion});
+    } else {
+        fragment.add(plainText(filling, isFootnote, shortenedVersion));
+    }
+}
+
+void SlotFiller::check(const Arguments& arguments) const {
+    for (std::size_t i = 0; i < mFilling.size(); ++i) {
+        if (endsSentence(i)) assignElement(arguments[0], static_cast<LONG>(i), true);
+    }
+}
+
+bool SlotFiller::endsSentence(std::size_t slot) const {
+    if ((*mSlots)[slot].slot->checkingKey != kCallbackKey || mFilling[slot] == nullptr) return false;
+    const std::wstring& text = mReference->text(*mFilling[slot]->source->field);
+    const std::size_t last = text.find_last_not_of(kQuotationMarks);
+    return last != std::wstring::npos && (text[last] == L'?' || text[last] == L'!');
+}
+
+void SlotFiller::parse(const PreparedSource& filling, bool isFootnote) const {
+    const SlotSource& source = *filling.source;
+    // The text goes by reference: the element takes out of it what it has understood.
+    Variant remaining(fieldText(*source.field, isFootnote));
+    filling.element->parse({Variant::byReference(remaining.get().bstrVal), source.secondaryText});
+    if (!source.field->role) return;
+    if (source.withRole) {
+        filling.element->object.put(L"Anthologies", true, {*source.field->role});
+    } else {
+        // The layout tells it: "Ed. Phillip Lopate".
+        filling.element->object.put(L"Anthologies", Variant::array({false, false, false}));
+    }
+}
+
+std::wstring SlotFiller::plainText(const PreparedSource& filling, bool isFootnote, bool shortenedVersion) const {
+    const SlotSource& source = *filling.source;
+    if (filling.element == nullptr) return hostText(source, isFootnote);
+    parse(filling, isFootnote);
+    const bool inNoteForm = isFootnote || source.inNoteForm;
+    if (source.field->elementCode == kPlaceElement) {
+        // It leaves out a state that the publisher's name tells already.
+        return textOf(filling.element->toString({inNoteForm, shortenedVersion, mReference->text(L"publisher")}));
+    }
+    return textOf(filling.element->toString({inNoteForm, shortenedVersion}));
+}
+
+std::wstring SlotFiller::hostText(const SlotSource& source, bool isFootnote) const {
+    std::wstring result = isFootnote && !source.notePattern.empty() ? source.notePattern : source.pattern;
+    return result.replace(result.find(kPatternText), kPatternText.size(), fieldText(*source.field, isFootnote));
+}
+
+const std::wstring& SlotFiller::fieldText(const Field& field, bool isFootnote) const {
+    return mStyle->wordsFor(field, mReference->text(field), isFootnote);
+}
+
+/// "---", or "---, ed."
+std::wstring SlotFiller::authorMark(const PreparedSource& filling) const {
+    if (!filling.source->withRole || filling.element == nullptr) return mSameAuthor;
+    parse(filling, false);
+    return mSameAuthor + L", " + textOf(filling.element->object.get(L"editor"));
+}
+
+}  // namespace sample
