@@ -322,4 +322,12 @@ void outputTemplate::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mFormattedItems", fragments);
 }
 
+void layOut(outputTemplate& assembly, std::span<const SlotRow> rows, std::span<const TextView> styleTexts) {
+    assembly.Reset(static_cast<std::int16_t>(rows.size() - 1));
+    for (std::size_t slot = 0; slot < rows.size(); ++slot) {
+        assembly.Add(static_cast<std::int16_t>(slot), rows[slot].isFormatted(), false,
+                     rows[slot].separators(styleTexts));
+    }
+}
+
 }  // namespace quorvel

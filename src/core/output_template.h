@@ -7,6 +7,7 @@
 #include "core/implementor.h"
 #include "core/instrumented.h"
 #include "core/output_sink.h"
+#include "core/slot_layout.h"
 #include "core/text.h"
 
 namespace quorvel {
@@ -92,5 +93,8 @@ private:
     OutputSinkRef mFormattedStr;
     std::vector<OutputSinkRef> mFormattedItems;
 };
+
+/// Registers a whole layout.
+void layOut(outputTemplate& assembly, std::span<const SlotRow> rows, std::span<const TextView> styleTexts = {});
 
 }  // namespace quorvel

@@ -19,14 +19,14 @@ namespace quorvel {
 
 /// An entry of a separator list: a literal, or one of the texts that the style in force gives, named by an
 /// enumeration that counts them.
-class Separator {
+class SlotSeparator {
 public:
-    constexpr Separator() = default;
+    constexpr SlotSeparator() = default;
     template <std::size_t N>
-    consteval Separator(const char16_t (&literal)[N]) : mLiteral(literal, N - 1) {}
+    consteval SlotSeparator(const char16_t (&literal)[N]) : mLiteral(literal, N - 1) {}
     template <class StyleText>
     requires std::is_enum_v<StyleText>
-    consteval Separator(StyleText text) : mStyleText(static_cast<int>(text)) {}
+    consteval SlotSeparator(StyleText text) : mStyleText(static_cast<int>(text)) {}
 
     constexpr TextView text(std::span<const TextView> styleTexts) const {
         return mStyleText == kLiteral ? mLiteral : styleTexts[static_cast<std::size_t>(mStyleText)];
@@ -46,11 +46,11 @@ class SlotRow {
 public:
     constexpr SlotRow() = default;
     template <std::size_t N>
-    consteval SlotRow(SlotContent content, const Separator (&list)[N]) : mContent(content), mLength(N) {
+    consteval SlotRow(SlotContent content, const SlotSeparator (&list)[N]) : mContent(content), mLength(N) {
         append(list);
     }
     template <std::size_t N>
-    consteval SlotRow(SlotContent content, const Separator (&list)[N], const Separator (&note)[N])
+    consteval SlotRow(SlotContent content, const SlotSeparator (&list)[N], const SlotSeparator (&note)[N])
         : mContent(content), mLength(N) {
         append(list);
         append(note);
@@ -63,7 +63,7 @@ public:
     std::vector<Text> separators(std::span<const TextView> styleTexts) const {
         std::vector<Text> texts;
         texts.reserve(mCount);
-        for (const Separator& separator : std::span(mEntries).first(mCount)) {
+        for (const SlotSeparator& separator : std::span(mEntries).first(mCount)) {
             texts.emplace_back(separator.text(styleTexts));
         }
         return texts;
@@ -71,8 +71,8 @@ public:
 
 private:
     template <std::size_t N>
-    consteval void append(const Separator (&list)[N]) {
-        for (const Separator& separator : list) {
+    consteval void append(const SlotSeparator (&list)[N]) {
+        for (const SlotSeparator& separator : list) {
             mEntries.at(mCount++) = separator;
         }
     }
@@ -80,7 +80,7 @@ private:
     SlotContent mContent = kPlainSlot;
     std::size_t mLength = 0;
     std::size_t mCount = 0;
-    std::array<Separator, 24> mEntries{};
+    std::array<SlotSeparator, 24> mEntries{};
 };
 
 template <std::size_t Slots>

@@ -14,17 +14,29 @@ namespace quorvel {
 namespace {
 
 constexpr TextView kTrue = u"True";
-constexpr TextView kOpening = u"(";
-constexpr TextView kClosing = u")";
 constexpr TextView kCirca = u"ca.";
 constexpr TextView kInPress = u"in press";
 
 /// The slots of communications and web sites.
 enum ElectronicSlot : std::int16_t { kCommunicator = 0, kDateOfLetter = 1, kDateOfEmail = 2, kWebsite = 3 };
 
-std::vector<Text> texts(std::initializer_list<TextView> separators) {
-    return {separators.begin(), separators.end()};
-}
+/// The texts that the style gives.
+enum StyleText : std::uint8_t { kSepar, kPsepr, kYsepr };
+
+// Which separator stands before a slot does not depend on the slot that comes before it.
+constexpr SlotLayout kLayout({
+    {kFormattedSlot, {u"(", kSepar, kYsepr, kSepar, kPsepr, u")"}},
+    {kFormattedSlot, {u"(", kYsepr, kSepar, kPsepr, u")"}},
+    {kPlainSlot, {u"(", kSepar, kPsepr, u")"}},
+    {kPlainSlot, {u"(", kPsepr, u")"}},
+    {kPlainSlot, {u"(", u")"}},
+});
+constexpr SlotLayout kElectronicLayout({
+    {kPlainSlot, {u"(", citationtext::kPersonalCommunication, citationtext::kEmailCommunication, kSepar, u")"}},
+    {kPlainSlot, {u"(", kSepar, kSepar, u")"}},
+    {kPlainSlot, {u"(", kSepar, u")"}},
+    {kPlainSlot, {u"(", u")"}},
+});
 
 /// "J. K." for "John Kenneth"; initials stay as they are.
 Text initialsOf(TextView firstNames) {
@@ -168,77 +180,23 @@ void OutputTemplateCitation::Add(std::int16_t Index, bool isFormatted, TextView 
         [&] { held(mModelTemplate)->Add(Index, isFormatted, checkingKey, separators); });
 }
 
-void OutputTemplateCitation::Reset(TextView SEPAR, bool useNoDate, TextView volPrefix, bool useAuthorOrPeriodicalTitle,
-                                   bool useTitle, bool useOriginalYear, bool titleIsQuoted, bool useEmailKey,
-                                   bool useDegree, bool supportsSubwork, bool useWebsiteWhenNoAuthorAndDate,
-                                   bool journalCentric, TextView PSEPR, TextView YSEPR, TextView VSEPR) {
-    procedure(*this, u"Reset",
-              {{u"SEPAR", SEPAR},
-               {u"useNoDate", useNoDate},
-               {u"volPrefix", volPrefix},
-               {u"useAuthorOrPeriodicalTitle", useAuthorOrPeriodicalTitle},
-               {u"useTitle", useTitle},
-               {u"useOriginalYear", useOriginalYear},
-               {u"titleIsQuoted", titleIsQuoted},
-               {u"useEmailKey", useEmailKey},
-               {u"useDegree", useDegree},
-               {u"supportsSubwork", supportsSubwork},
-               {u"useWebsiteWhenNoAuthorAndDate", useWebsiteWhenNoAuthorAndDate},
-               {u"journalCentric", journalCentric},
-               {u"PSEPR", PSEPR},
-               {u"YSEPR", YSEPR},
-               {u"VSEPR", VSEPR}},
-              [&] {
-                  mOptions = {Text(SEPAR),
-                              useNoDate,
-                              Text(volPrefix),
-                              useAuthorOrPeriodicalTitle,
-                              useTitle,
-                              useOriginalYear,
-                              titleIsQuoted,
-                              useEmailKey,
-                              useDegree,
-                              supportsSubwork,
-                              useWebsiteWhenNoAuthorAndDate,
-                              journalCentric,
-                              Text(PSEPR),
-                              Text(YSEPR),
-                              Text(VSEPR)};
-                  mIsLikeModelTemplate = false;
-                  mCallback = nullptr;
-                  layOut();
-              });
+void OutputTemplateCitation::Reset(const CitationOptions& options) {
+    procedure(*this, u"Reset", reported(kCitationOptions, options), [&] {
+        mOptions = options;
+        mIsLikeModelTemplate = false;
+        mCallback = nullptr;
+        layOut();
+    });
 }
 
-void OutputTemplateCitation::Reset(const Options& options) {
-    Reset(options.SEPAR, options.useNoDate, options.volPrefix, options.useAuthorOrPeriodicalTitle, options.useTitle,
-          options.useOriginalYear, options.titleIsQuoted, options.useEmailKey, options.useDegree,
-          options.supportsSubwork, options.useWebsiteWhenNoAuthorAndDate, options.journalCentric, options.PSEPR,
-          options.YSEPR, options.VSEPR);
-}
-
-/// Which separator stands before a slot does not depend on the slot that comes before it.
 void OutputTemplateCitation::layOut() {
+    // Copies: laying out reports, and the host may give us other options meanwhile.
     const Text separ = mOptions.SEPAR;
     const Text psepr = mOptions.PSEPR;
     const Text ysepr = mOptions.YSEPR;
-    const std::shared_ptr<outputTemplate> own = held(mOutputTemplate);
-    own->Reset(kLastSlot);
-    own->Add(kName, true, false, texts({kOpening, separ, ysepr, separ, psepr, kClosing}));
-    own->Add(kTitle, true, false, texts({kOpening, ysepr, separ, psepr, kClosing}));
-    own->Add(kYear, false, false, texts({kOpening, separ, psepr, kClosing}));
-    own->Add(kVolume, false, false, texts({kOpening, psepr, kClosing}));
-    own->Add(kLocator, false, false, texts({kOpening, kClosing}));
-
-    using citationtext::kEmailCommunication;
-    using citationtext::kPersonalCommunication;
-    const std::shared_ptr<outputTemplate> electronic = held(mElectronicOutputTemplate);
-    electronic->Reset(kWebsite);
-    electronic->Add(kCommunicator, false, false,
-                    texts({kOpening, kPersonalCommunication, kEmailCommunication, separ, kClosing}));
-    electronic->Add(kDateOfLetter, false, false, texts({kOpening, separ, separ, kClosing}));
-    electronic->Add(kDateOfEmail, false, false, texts({kOpening, separ, kClosing}));
-    electronic->Add(kWebsite, false, false, texts({kOpening, kClosing}));
+    const TextView styleTexts[] = {separ, psepr, ysepr};
+    quorvel::layOut(*held(mOutputTemplate), kLayout, styleTexts);
+    quorvel::layOut(*held(mElectronicOutputTemplate), kElectronicLayout, styleTexts);
 }
 
 void OutputTemplateCitation::Parse(Text& text, TextView previousStr) {

@@ -6,6 +6,7 @@
 
 #include "core/implementor.h"
 #include "core/instrumented.h"
+#include "core/options.h"
 #include "core/output_sink.h"
 #include "core/output_template.h"
 #include "core/output_template_model.h"
@@ -17,6 +18,59 @@
 #include "elements/year.h"
 
 namespace quorvel {
+
+/// What a style says of short citations.
+struct CitationOptions {
+    /// Between the author and a title.
+    Text SEPAR;
+    /// A missing year is "n.d."
+    bool useNoDate = false;
+    /// Before a volume: "vol. ". A volume that a colon joins to its page has none.
+    Text volPrefix;
+    /// Without author the periodical stands first rather than the title.
+    bool useAuthorOrPeriodicalTitle = false;
+    /// The title always follows the author; otherwise only where the citation has no year and there are other works
+    /// by the author.
+    bool useTitle = false;
+    /// "1900/1953".
+    bool useOriginalYear = false;
+    /// The titles of parts of works stand in quotation marks.
+    bool titleIsQuoted = false;
+    /// A communication by e-mail is called so.
+    bool useEmailKey = false;
+    /// The academic degree follows the name of who communicated.
+    bool useDegree = false;
+    /// The title is that of the part that is cited, not of the whole work.
+    bool supportsSubwork = false;
+    /// Without author and year the web site stands alone.
+    bool useWebsiteWhenNoAuthorAndDate = false;
+    /// A work in a periodical is cited by that.
+    bool journalCentric = false;
+    /// Before the page or the volume with its page.
+    Text PSEPR;
+    /// Before the year; empty: citations have no year.
+    Text YSEPR;
+    /// Between volume and page.
+    Text VSEPR;
+};
+
+inline constexpr std::tuple kCitationOptions{
+    Option{u"SEPAR", &CitationOptions::SEPAR},
+    Option{u"useNoDate", &CitationOptions::useNoDate},
+    Option{u"volPrefix", &CitationOptions::volPrefix},
+    Option{u"useAuthorOrPeriodicalTitle", &CitationOptions::useAuthorOrPeriodicalTitle},
+    Option{u"useTitle", &CitationOptions::useTitle},
+    Option{u"useOriginalYear", &CitationOptions::useOriginalYear},
+    Option{u"titleIsQuoted", &CitationOptions::titleIsQuoted},
+    Option{u"useEmailKey", &CitationOptions::useEmailKey},
+    Option{u"useDegree", &CitationOptions::useDegree},
+    Option{u"supportsSubwork", &CitationOptions::supportsSubwork},
+    Option{u"useWebsiteWhenNoAuthorAndDate", &CitationOptions::useWebsiteWhenNoAuthorAndDate},
+    Option{u"journalCentric", &CitationOptions::journalCentric},
+    Option{u"PSEPR", &CitationOptions::PSEPR},
+    Option{u"YSEPR", &CitationOptions::YSEPR},
+    Option{u"VSEPR", &CitationOptions::VSEPR},
+};
 
 /// The short citation of a reference.
 ///
@@ -58,25 +112,6 @@ public:
         kLastSlot = kLocator,
     };
 
-    /// The style's options, as `Reset` takes them.
-    struct Options {
-        Text SEPAR;
-        bool useNoDate = false;
-        Text volPrefix;
-        bool useAuthorOrPeriodicalTitle = false;
-        bool useTitle = false;
-        bool useOriginalYear = false;
-        bool titleIsQuoted = false;
-        bool useEmailKey = false;
-        bool useDegree = false;
-        bool supportsSubwork = false;
-        bool useWebsiteWhenNoAuthorAndDate = false;
-        bool journalCentric = false;
-        Text PSEPR;
-        Text YSEPR;
-        Text VSEPR;
-    };
-
     /// @param formattedStr the maker of sinks
     /// @param useMultiPartWork the volume that is cited is written
     /// @param keyToInternalIndex the model's fields by name
@@ -96,26 +131,7 @@ public:
     void ResetLikeModelTemplate(std::int16_t maxIndex, const ImplementorRef& callback);
 
     /// The options of the style in force; what `Parse` read stays.
-    /// @param SEPAR between the author and a title
-    /// @param useNoDate a missing year is "n.d."
-    /// @param volPrefix before a volume: "vol. ". A volume that a colon joins to its page has none.
-    /// @param useAuthorOrPeriodicalTitle without author the periodical stands first rather than the title
-    /// @param useTitle the title always follows the author; otherwise only where the citation has no year
-    ///        and there are other works by the author
-    /// @param useOriginalYear "1900/1953"
-    /// @param titleIsQuoted the titles of parts of works stand in quotation marks
-    /// @param useEmailKey a communication by e-mail is called so
-    /// @param useDegree the academic degree follows the name of who communicated
-    /// @param supportsSubwork the title is that of the part that is cited, not of the whole work
-    /// @param useWebsiteWhenNoAuthorAndDate without author and year the web site stands alone
-    /// @param journalCentric a work in a periodical is cited by that
-    /// @param PSEPR before the page or the volume with its page
-    /// @param YSEPR before the year; empty: citations have no year
-    /// @param VSEPR between volume and page
-    void Reset(TextView SEPAR, bool useNoDate, TextView volPrefix, bool useAuthorOrPeriodicalTitle, bool useTitle,
-               bool useOriginalYear, bool titleIsQuoted, bool useEmailKey, bool useDegree, bool supportsSubwork,
-               bool useWebsiteWhenNoAuthorAndDate, bool journalCentric, TextView PSEPR, TextView YSEPR, TextView VSEPR);
-    void Reset(const Options& options);
+    void Reset(const CitationOptions& options);
 
     /// Reads a citation in any of the forms above.
     /// @param text is consumed
@@ -181,7 +197,7 @@ private:
     std::shared_ptr<OutputTemplateModel> mModelTemplate;
     OutputSinkRef mFormattedStr;
     CitationFieldIndexes mIndexes;
-    Options mOptions;
+    CitationOptions mOptions;
     bool mIsLikeModelTemplate = false;
     ImplementorRef mCallback;
     CitationFields mFields;

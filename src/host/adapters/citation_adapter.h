@@ -38,10 +38,11 @@ public:
                        VARIANT_BOOL useWebsiteWhenNoAuthorAndDate, VARIANT_BOOL journalCentric, BSTR PSEPR, BSTR YSEPR,
                        BSTR VSEPR) override {
         return call([&] {
-            mCitation.Reset(view(SEPAR), asBool(useNoDate), view(volPrefix), asBool(useAuthorOrPeriodicalTitle),
-                            asBool(useTitle), asBool(useOriginalYear), asBool(titleIsQuoted), asBool(useEmailKey),
-                            asBool(useDegree), asBool(supportsSubwork), asBool(useWebsiteWhenNoAuthorAndDate),
-                            asBool(journalCentric), view(PSEPR), view(YSEPR), view(VSEPR));
+            mCitation.Reset({Text(view(SEPAR)), asBool(useNoDate), Text(view(volPrefix)),
+                             asBool(useAuthorOrPeriodicalTitle), asBool(useTitle), asBool(useOriginalYear),
+                             asBool(titleIsQuoted), asBool(useEmailKey), asBool(useDegree), asBool(supportsSubwork),
+                             asBool(useWebsiteWhenNoAuthorAndDate), asBool(journalCentric), Text(view(PSEPR)),
+                             Text(view(YSEPR)), Text(view(VSEPR))});
         });
     }
     STDMETHODIMP Parse(BSTR* text, BSTR previousStr) override {

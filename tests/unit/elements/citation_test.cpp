@@ -16,12 +16,12 @@ struct Style {
     TextView name;
     OutputTemplateAuthor::Options authors;
     std::int16_t format;
-    OutputTemplateCitation::Options options;
+    CitationOptions options;
 };
 
 /// MLA 7 6.3-6.4: author and page.
 Style mla() {
-    OutputTemplateCitation::Options options;
+    CitationOptions options;
     options.SEPAR = u", ";
     options.volPrefix = u"vol. ";
     options.titleIsQuoted = true;
@@ -33,7 +33,7 @@ Style mla() {
 
 /// APA 6 6.11-6.20: author and date.
 Style apa() {
-    OutputTemplateCitation::Options options;
+    CitationOptions options;
     options.SEPAR = u", ";
     options.useNoDate = true;
     options.volPrefix = u"Vol. ";
@@ -48,7 +48,7 @@ Style apa() {
 
 /// Turabian 7 16.4: author, short title and page.
 Style turabian() {
-    OutputTemplateCitation::Options options;
+    CitationOptions options;
     options.SEPAR = u", ";
     options.volPrefix = u"vol. ";
     options.useAuthorOrPeriodicalTitle = true;
@@ -63,7 +63,7 @@ Style turabian() {
 
 /// AMA 10 3.3: the journal; otherwise author and date.
 Style ama() {
-    OutputTemplateCitation::Options options;
+    CitationOptions options;
     options.SEPAR = u", ";
     options.volPrefix = u"vol ";
     options.useEmailKey = true;
@@ -290,7 +290,7 @@ TEST_F(Citation, FirstNamesTitlesAndTheMinimalFormTellWorksApart) {
 
 TEST_F(Citation, AWebSiteStandsAloneWhereTheHostWantsIt) {
     use(apa());
-    OutputTemplateCitation::Options options = apa().options;
+    CitationOptions options = apa().options;
     options.useWebsiteWhenNoAuthorAndDate = true;
     citation.Reset(options);
     setFields({{u"title", u"Home"}, {u"website", u"http://www.apa.org"}});
