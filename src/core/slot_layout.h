@@ -24,6 +24,7 @@ public:
     constexpr SlotSeparator() = default;
     template <std::size_t N>
     consteval SlotSeparator(const char16_t (&literal)[N]) : mLiteral(literal, N - 1) {}
+    consteval SlotSeparator(TextView literal) : mLiteral(literal) {}
     template <class StyleText>
     requires std::is_enum_v<StyleText>
     consteval SlotSeparator(StyleText text) : mStyleText(static_cast<int>(text)) {}

@@ -458,7 +458,7 @@ void OutputTemplateCitation::dumpVariables(VBWPROTECTOR& report) const {
     const HostObjectRef multiVol = mMultiVolModelOutputTemplate;
     const OutputSinkRef formattedStr = mFormattedStr;
     const ImplementorRef callback = mCallback;
-    const Options options = mOptions;
+    const CitationOptions options = mOptions;
     const CitationFields fields = mFields;
     report.vbwReportVariable(u"mUseMultiPartWork", mUseMultiPartWork);
     report.vbwReportVariable(u"mAuthorModelOutputTemplate", HostObjectRef());
