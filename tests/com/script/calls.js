@@ -42,6 +42,27 @@ try {
 var states = new VBArray(main.build(15, null).States);
 check("States", states.lbound() + " " + states.ubound() + " " + states.getItem(7), "0 55 Colorodo");
 
+// Members with arguments of their own, on other classes.
+var place = main.build(15, sink);
+place.Reset(true, true, true, true, false);
+check("place", place.formatStr("Lincoln, NE", "University of NE Press"), "Lincoln, Nebraska");
+check("isPlace", place.isPlace("n.p.") + "," + place.isPlace("Paris") + "," + place.Supports(4), "true,false,false");
+function FormattedText() {
+    this.text = "";
+    this.Add = function (text) { this.text += text; };
+    this.Clone = this.BuildNewFormattedString = function () { return new FormattedText(); };
+    this.Reset = function () { this.text = ""; };
+    this.toString = function () { return this.text; };
+    this.toRTFString = function () { return "{\\rtf1 " + this.text + "}"; };
+}
+var dateTime = main.build(17, new FormattedText());
+dateTime.Reset("yyyy, mmmm d", true);
+dateTime.Parse("May 5, 2011", "9:15am EST");
+check("as RTF", dateTime.toString(false, false, true), "{\\rtf1 2011, May 5 (9:15 a.m. EST)}");
+dateTime.value(1) = "noon";
+check("a clone", dateTime.Clone().toString(), "2011, May 5 (noon EST)");
+check("no such part", dateTime.value(3), "");
+
 var author = main.build(9, sink);
 author.authors = ["Smith, John", "Lee, Ann"];
 check("authors", new VBArray(author.authors).toArray().join("|"), "Smith, John|Lee, Ann");
