@@ -12,7 +12,8 @@ namespace {
 void procedureWithoutService(benchmark::State& state) {
     std::int32_t code = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(moduleProcedure(u"Bench.procedure", {{u"code", code}}, [&] { return ++code; }));
+        benchmark::DoNotOptimize(
+            procedure(StandardModule(u"Bench"), u"procedure", {{u"code", code}}, [&] { return ++code; }));
     }
 }
 BENCHMARK(procedureWithoutService);

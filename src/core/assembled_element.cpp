@@ -23,7 +23,7 @@ bool AssembledElement::ToFormattedStringImpl(bool isFootnote, std::vector<Text>&
 
 void AssembledElement::makeAssembly(const OutputSinkRef& formattedStr) {
     const auto made = std::make_shared<outputTemplate>();
-    mOutputTemplate = made;
+    replace(mOutputTemplate, made);
     made->Initialize(formattedStr);
 }
 

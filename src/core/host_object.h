@@ -15,4 +15,11 @@ public:
 
 using HostObjectRef = std::shared_ptr<const HostObject>;
 
+/// Gives a member variable another object. The old one goes when the new one is in place, since its end may call
+/// the library back; the assignment of a shared pointer does not promise that.
+template <class T>
+void replace(std::shared_ptr<T>& member, std::shared_ptr<T> value) noexcept {
+    member.swap(value);
+}
+
 }  // namespace quorvel

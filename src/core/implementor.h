@@ -19,7 +19,9 @@ public:
     virtual void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) = 0;
 
     /// Fills the slots for the current output: texts into `items`, and what carries its own fonts
-    /// into the fragments of `formattedItems` (empty references at the plain slots).
+    /// into the fragments of `formattedItems` (empty references at the plain slots). Both are the
+    /// assembly's own, which the host may call for another output at any call that it gets: whoever has
+    /// other fragments for it fills a vector of its own and swaps it in.
     /// @return True when there is nothing to assemble.
     virtual bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
                                        std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) = 0;

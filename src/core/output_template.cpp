@@ -125,7 +125,7 @@ void outputTemplate::ResetReferenceItems() {
             if (!mReferenceItemsInitialized) {
                 const OutputSinkRef maker = mFormattedStr;
                 fragment = object(maker).BuildNewFormattedString();
-                mFormattedItems.at(at(i)) = fragment;
+                replace(mFormattedItems.at(at(i)), fragment);
             }
             object(fragment).Reset();
         }
@@ -144,7 +144,7 @@ void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implem
                {u"isFootnote", isFootnote},
                {u"checkingArray", checkingArray}},
               [&] {
-                  // Held, since the implementor writes into them while the host may call for new ones.
+                  // Held, since the host may call for new ones while they are being written.
                   const std::vector<OutputSinkRef> fragments =
                       mIndexToFormatted.empty() ? std::vector<OutputSinkRef>() : mFormattedItems;
                   if (implementor.ToFormattedStringImpl(isFootnote, mItems, mFormattedItems, shortenedVersion)) {

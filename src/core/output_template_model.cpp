@@ -35,7 +35,7 @@ void OutputTemplateModel::Initialize(const OutputSinkRef& formattedStr,
                                      const KeyToInternalIndexRef& keyToInternalIndex) {
     procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}, {u"keyToInternalIndex", keyToInternalIndex}},
               [&] {
-                  mKeyToInternalIndex = keyToInternalIndex;
+                  replace(mKeyToInternalIndex, keyToInternalIndex);
                   mOutputTemplate = std::make_shared<outputTemplate>();
                   held(mOutputTemplate)->Initialize(formattedStr);
               });

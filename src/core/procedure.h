@@ -23,6 +23,8 @@ public:
     ProcedureReport& operator=(const ProcedureReport&) = delete;
     ~ProcedureReport() { mProtector.vbwProcOut(); }
 
+    bool isTooDeep() const { return mProtector.isTooDeep(); }
+
 private:
     VBWPROTECTOR& mProtector;
 };
@@ -39,6 +41,9 @@ std::invoke_result_t<Body&> procedure(const Instrumented& self, const Name& name
     using Result = std::invoke_result_t<Body&>;
     const detail::ProcedureReport report(self, name, parameters);
     try {
+        if (report.isTooDeep()) {
+            throw RuntimeError(ErrorNumber::OutOfStackSpace);
+        }
         return body();
     } catch (...) {
         reportCurrentException(self, name);

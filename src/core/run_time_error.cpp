@@ -8,6 +8,7 @@ TextView descriptionOf(ErrorNumber number) {
         case ErrorNumber::OutOfMemory: return u"Out of memory";
         case ErrorNumber::SubscriptOutOfRange: return u"Subscript out of range";
         case ErrorNumber::TypeMismatch: return u"Type mismatch";
+        case ErrorNumber::OutOfStackSpace: return u"Out of stack space";
         case ErrorNumber::InternalError: return u"Internal error";
         case ErrorNumber::ObjectNotSet: return u"Object variable not set";
         case ErrorNumber::CannotCreateObject: return u"Component can't create object";

@@ -31,6 +31,10 @@ Text nameOf(const Instrumented& self, TextView procedure) {
     return concatenate({kLibraryPrefix, self.className(), u".", procedure});
 }
 
+std::uintptr_t placeOf(const void* object) {
+    return reinterpret_cast<std::uintptr_t>(object);
+}
+
 Text decimal(std::int32_t number) {
     char digits[12];
     const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
@@ -42,10 +46,10 @@ Text decimal(std::int32_t number) {
 /// Keeps what the service calls in the library from being reported to the service.
 class VBWPROTECTOR::Reporting {
 public:
-    explicit Reporting(VBWPROTECTOR& protector) : mProtector(protector) { mProtector.mIsReporting = true; }
+    explicit Reporting(VBWPROTECTOR& protector) : mProtector(protector) { mProtector.mReporting = this; }
     Reporting(const Reporting&) = delete;
     Reporting& operator=(const Reporting&) = delete;
-    ~Reporting() { mProtector.mIsReporting = false; }
+    ~Reporting() { mProtector.mReporting = nullptr; }
 
 private:
     VBWPROTECTOR& mProtector;
@@ -79,6 +83,28 @@ void VBWPROTECTOR::startUp(TraceSwitches switches, ErrorReportServiceFinder* fin
     ofThisApartment().releaseService();
 }
 
+void VBWPROTECTOR::beginHostCall(const void* bracket) noexcept {
+    forgetHostCallsUpTo(bracket);
+    if (mDepth == mHostCalls.size()) {
+        mIsExhausted = true;
+    } else {
+        mHostCalls[mDepth++] = placeOf(bracket);
+    }
+}
+
+void VBWPROTECTOR::forgetHostCallsUpTo(const void* bracket) noexcept {
+    while (mDepth > 0 && mHostCalls[mDepth - 1] <= placeOf(bracket)) {
+        --mDepth;
+    }
+    if (mDepth == 0) {
+        mIsExhausted = false;
+        mServiceIsAbsent = false;
+    }
+    if (placeOf(mReporting) <= placeOf(bracket)) {
+        mReporting = nullptr;
+    }
+}
+
 bool VBWPROTECTOR::findService() noexcept {
     {
         // Looking may run the host's code, which may call the library: nothing of that is reported.
@@ -89,7 +115,7 @@ bool VBWPROTECTOR::findService() noexcept {
             mErrorParams.reset();
         }
     }
-    mServiceIsAbsent = mErrorParams == nullptr && mHostCalls > 0;
+    mServiceIsAbsent = mErrorParams == nullptr && mDepth > 0;
     return mErrorParams != nullptr;
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 
 #include "core/error_report_service.h"
@@ -34,14 +37,24 @@ public:
 
     TraceSwitches& switches() { return mSwitches; }
 
+    /// How deep calls from the host may nest: a hundred late-bound ones, of which each has two brackets, since it
+    /// goes through the object's vtable.
+    static constexpr std::size_t kBracketsOfACall = 2;
+    static constexpr std::size_t kDeepestNesting = 100 * kBracketsOfACall;
+
     /// Brackets a call from the host. Within the outermost bracket an absent service is looked for
     /// once; without any bracket, at every report.
-    void beginHostCall() { ++mHostCalls; }
-    void endHostCall() {
-        if (--mHostCalls == 0) {
-            mServiceIsAbsent = false;
-        }
-    }
+    ///
+    /// An exception or a jump of the host's may pass the library by, so that a bracket never ends. It is known
+    /// by its address: the stack grows towards lower ones, so that a bracket is over when another one begins or
+    /// ends at its address or above.
+    /// @param bracket an object on the stack of who makes the bracket
+    void beginHostCall(const void* bracket) noexcept;
+    void endHostCall(const void* bracket) noexcept { forgetHostCallsUpTo(bracket); }
+    /// Whether calls nested deeper than they may. From there on every call inside the outermost one is refused
+    /// until that ends: a host that calls back from many of its members would otherwise not end in its lifetime.
+    /// A procedure that begins then is error 28.
+    bool isTooDeep() const { return mIsExhausted && mDepth > kBracketsOfACall; }
 
     void vbwProcIn(const Instrumented& self, TextView procedure, const ParameterList& parameters) {
         if (mSwitches.vbwTraceProc && hasService()) {
@@ -67,11 +80,13 @@ private:
 
     VBWPROTECTOR();
 
+    void forgetHostCallsUpTo(const void* bracket) noexcept;
+
     bool hasService() noexcept {
         if (mErrorParams == nullptr && (mFinder == nullptr || mServiceIsAbsent)) {
             return false;
         }
-        return !mIsReporting && (mErrorParams != nullptr || findService());
+        return mReporting == nullptr && (mErrorParams != nullptr || findService());
     }
     bool findService() noexcept;
     void reportEntry(const Instrumented& self, TextView procedure, const ParameterList& parameters) noexcept;
@@ -84,9 +99,13 @@ private:
     TraceSwitches mSwitches;
     ErrorReportServiceFinder* mFinder;
     std::shared_ptr<ErrorReportService> mErrorParams;
-    int mHostCalls = 0;
+    // The brackets of the calls that are under way, the outermost first.
+    std::array<std::uintptr_t, kDeepestNesting> mHostCalls{};
+    std::size_t mDepth = 0;
+    bool mIsExhausted = false;
     bool mServiceIsAbsent = false;
-    bool mIsReporting = false;
+    // The report under way, which has a place on the stack as well.
+    const Reporting* mReporting = nullptr;
 };
 
 }  // namespace quorvel

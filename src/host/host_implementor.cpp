@@ -1,11 +1,36 @@
 #include "host/host_implementor.h"
 
 #include "host/com/answers.h"
-#include "host/com/arguments.h"
 #include "host/com/arrays.h"
 #include "host/host_sink.h"
 
 namespace quorvel::host {
+
+namespace {
+
+// What the host made of an array: it may have put one of another type in its place.
+
+std::vector<Text> textAnswers(const VARIANT& array) {
+    std::vector<Text> texts;
+    for (const Variant& element : elementsOf(array)) {
+        texts.push_back(textAnswer(element));
+    }
+    return texts;
+}
+
+/// @param known most often the fragments were filled where they are
+std::vector<OutputSinkRef> sinkAnswers(const VARIANT& array, const std::vector<OutputSinkRef>& known) {
+    std::vector<OutputSinkRef> sinks;
+    for (const Variant& element : elementsOf(array)) {
+        const ComPtr<IDispatch> object = objectAnswer(element);
+        const std::size_t slot = sinks.size();
+        const bool isKnown = slot < known.size() && object.get() == dispatchOf(known[slot].get());
+        sinks.push_back(isKnown ? known[slot] : HostSink::of(object.get()));
+    }
+    return sinks;
+}
+
+}  // namespace
 
 ImplementorRef HostImplementor::of(IDispatch* implementor) {
     return implementor != nullptr ? std::make_shared<HostImplementor>(implementor) : nullptr;
@@ -33,16 +58,13 @@ bool HostImplementor::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& 
 
     const Variant outcome = mObject.call(L"ToFormattedStringImpl", isFootnote, referenceToArray(texts),
                                          referenceToArray(fragments), shortenedVersion);
-    items = textsOf(texts);
-    // Most often the fragments were filled where they are.
-    const std::vector<Variant> filled = elementsOf(fragments);
-    formattedItems.resize(filled.size());
-    for (std::size_t i = 0; i < filled.size(); ++i) {
-        if (filled[i].pdispVal != dispatchOf(formattedItems[i].get())) {
-            formattedItems[i] = HostSink::of(filled[i].pdispVal);
-        }
-    }
-    return flagAnswer(outcome);
+    const bool nothingToAssemble = flagAnswer(outcome);
+    std::vector<Text> newItems = textAnswers(texts);
+    std::vector<OutputSinkRef> newFragments = sinkAnswers(fragments, formattedItems);
+    // The old fragments go last, when all is in place: their end may call the library back.
+    items.swap(newItems);
+    formattedItems.swap(newFragments);
+    return nothingToAssemble;
 }
 
 void HostImplementor::initChecking(std::vector<bool>& checkingArray, bool isFootnote) {
@@ -52,10 +74,11 @@ void HostImplementor::initChecking(std::vector<bool>& checkingArray, bool isFoot
     }
     Variant flags = typedArrayOf(VT_BOOL, std::move(values));
     mObject.call(L"initChecking", referenceToArray(flags), isFootnote);
-    checkingArray.clear();
+    std::vector<bool> answers;
     for (const Variant& flag : elementsOf(flags)) {
-        checkingArray.push_back(flagAnswer(flag));
+        answers.push_back(flagAnswer(flag));
     }
+    checkingArray = std::move(answers);
 }
 
 }  // namespace quorvel::host

@@ -1,6 +1,7 @@
 #include "host/slot_arrays.h"
 
 #include "core/procedure.h"
+#include "host/com/answers.h"
 #include "host/com/arguments.h"
 #include "host/com/arrays.h"
 #include "host/host_sink.h"
@@ -10,11 +11,6 @@ namespace quorvel::host {
 namespace {
 
 constexpr StandardModule kModule{u"OutputTemplate"};
-
-OutputSinkRef sinkOf(const Variant& value) {
-    Variant object;
-    return SUCCEEDED(convert(value, VT_DISPATCH, object)) ? HostSink::of(object.pdispVal) : nullptr;
-}
 
 }  // namespace
 
@@ -30,7 +26,7 @@ bool fillSlotArrays(Implementor& implementor, bool isFootnote, VARIANT* items, V
             std::vector<Text> texts = textsOf(*items);
             std::vector<OutputSinkRef> fragments;
             for (const Variant& item : elementsOf(*formattedItems)) {
-                fragments.push_back(sinkOf(item));
+                fragments.push_back(HostSink::of(objectAnswer(item).get()));
             }
             const bool outcome = implementor.ToFormattedStringImpl(isFootnote, texts, fragments, shortenedVersion);
             std::vector<Variant> results;

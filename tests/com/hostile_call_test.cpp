@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "library.h"
+#include "recording_service.h"
 
 namespace comtests {
 namespace {
@@ -158,6 +158,139 @@ TEST_F(HostileCall, ANewObjectWithoutInitializeWorksAsFarAsItGoes) {
         }
     }
 }
+
+/// An object with a default value.
+class Valued final : public DispatchObject {
+public:
+    std::function<Variant()> value;
+
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD kinds, DISPPARAMS* parameters,
+                                     VARIANT* result, EXCEPINFO* exception, UINT* badArgument) override {
+        if (id != DISPID_VALUE) {
+            return DispatchObject::Invoke(id, iid, locale, kinds, parameters, result, exception, badArgument);
+        }
+        const ComPointer<IDispatch> alive(this);
+        *result = value().release();
+        return S_OK;
+    }
+};
+
+using HostileHost = ServiceTest;
+
+TEST_F(HostileHost, ADefaultValueIsFollowedAFewSteps) {
+    const LateBoundObject year = library.build(kYear);
+    const auto inner = makeObject<Valued>();
+    const auto outer = makeObject<Valued>();
+    inner->value = [] { return Variant(1990); };
+    outer->value = [&] { return Variant(inner.get()); };
+    EXPECT_EQ(textOf(year.call(L"formatStr", {outer.get()})), L"1990");
+    EXPECT_EQ(service.takenErrors(), L"");
+    outer->value = [&] { return Variant(outer.get()); };
+    EXPECT_EQ(textOf(year.call(L"formatStr", {outer.get()})), L"");
+    inner->value = [&] { return Variant(outer.get()); };
+    outer->value = [&] { return Variant(inner.get()); };
+    EXPECT_EQ(textOf(year.call(L"formatStr", {outer.get()})), L"");
+    EXPECT_EQ(service.takenErrors(), L"13 OutputTemplateYear.formatStr; 13 OutputTemplateYear.formatStr");
+    inner->value = outer->value = [] { return Variant(); };
+}
+
+/// The errors of which all are "out of stack space"; how many there are.
+std::size_t errorsOfNesting(RecordingService& service) {
+    const std::wstring errors = service.takenErrors() + L"; ";
+    std::size_t count = 0;
+    for (std::size_t from = 0; errors.size() > 2 && from < errors.size(); from = errors.find(L"; ", from) + 2) {
+        EXPECT_EQ(errors.substr(from, 3), L"28 ") << testing::PrintToString(errors.substr(from, 60));
+        ++count;
+    }
+    return count;
+}
+
+TEST_F(HostileHost, CallsThatNestWithoutEndAreErrors) {
+    // An element that is its own sink: each Clone of it asks it for another one.
+    LateBoundObject dateTime = library.build(kDateTime);
+    service.taken();
+    dateTime.call(L"Initialize", {dateTime.dispatch()});
+    EXPECT_GT(errorsOfNesting(service), 0U);
+    dateTime.call(L"Initialize", {makeObject<FormattedText>().get()});
+
+    // A sink, a value and an array that answer each call with another one.
+    int depth = 0;
+    int deepest = 0;
+    const auto nested = [&](const std::function<void()>& call) {
+        deepest = std::max(deepest, ++depth);
+        call();
+        --depth;
+    };
+    for (const CreatableClass& creatable : kClasses) {
+        if (creatable.codes.empty()) continue;
+        const LateBoundObject element = library.create(creatable);
+        const auto sink = makeObject<DispatchObject>();
+        sink->addMethod(L"Add", [&](const Arguments&, VARIANT&) {
+            nested([&] { element.call(L"ToFormattedString", {sink.get()}); });
+            return S_OK;
+        });
+        sink->addMethod(L"addFormattedString", [](const Arguments&, VARIANT&) { return S_OK; });
+        element.call(L"Parse", {L"Smith, John, 1990"});
+        service.taken();
+        element.call(L"ToFormattedString", {sink.get()});
+        EXPECT_EQ(deepest, 100) << creatable.name;
+        EXPECT_GT(errorsOfNesting(service), 0U) << creatable.name;
+        deepest = 0;
+        sink->addMethod(L"Add", nullptr);
+        expectWorking(element, creatable.name);
+    }
+    const LateBoundObject year = library.build(kYear);
+    const auto value = makeObject<Valued>();
+    value->value = [&] {
+        nested([&] { year.call(L"Parse", {value.get()}); });
+        return Variant(L"1990");
+    };
+    EXPECT_EQ(textOf(year.call(L"formatStr", {value.get()})), L"1990");
+    EXPECT_GE(deepest, 100);
+    EXPECT_GT(errorsOfNesting(service), 0U);
+    value->value = [] { return Variant(); };
+    // Through the vtable, where nothing is known of the member.
+    ComPointer<_OutputTemplateModel> model;
+    const LateBoundObject held(objectOf(library.main2().call(L"buildModelTemplate")));
+    ASSERT_EQ(held.dispatch()->QueryInterface(__uuidof(_OutputTemplateModel), model.putVoid()), S_OK);
+    const auto script = makeObject<DispatchObject>();
+    script->addMethod(L"length", [&](const Arguments&, VARIANT& result) {
+        nested([&] { model->Add(0, VARIANT_FALSE, nullptr, Variant(script.get()).get()); });
+        result = Variant(0).release();
+        return S_OK;
+    });
+    deepest = 0;
+    model->Initialize(makeObject<FormattedText>().get(), nullptr);
+    model->Reset(0, nullptr, 0);
+    service.taken();
+    EXPECT_EQ(model->Add(0, VARIANT_FALSE, nullptr, Variant(script.get()).get()), S_OK);
+    EXPECT_EQ(deepest, 200);
+    EXPECT_GT(errorsOfNesting(service), 0U);
+    script->addMethod(L"length", nullptr);
+}
+
+#ifdef _WIN64
+// With 32 bits no exception finds its way through two libraries.
+TEST_F(HostileHost, AnExceptionIsAnErrorOfTheCall) {
+    /// What no host should be.
+    class Throwing final : public DispatchObject {
+    public:
+        HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { throw 1; }
+    };
+    const auto sink = makeObject<Throwing>();
+    const auto text = makeObject<FormattedText>();
+    for (const CreatableClass& creatable : kClasses) {
+        if (creatable.codes.empty()) continue;
+        const LateBoundObject element = library.create(creatable);
+        element.call(L"Parse", {L"Smith, John, 1990"});
+        service.taken();
+        for (int i = 0; i < 300; ++i) element.call(L"ToFormattedString", {sink.get()});
+        EXPECT_TRUE(service.takenErrors().starts_with(L"51 OutputTemplate")) << creatable.name;
+        expectWorking(element, creatable.name);
+        EXPECT_EQ(service.takenErrors(), L"") << creatable.name;
+    }
+}
+#endif
 
 }  // namespace
 }  // namespace comtests

@@ -25,7 +25,9 @@ public:
             assignElement(arguments[1], 2, arguments.boolean(0) ? L"12" : L"1970");
             const std::vector<Variant> fragments = elementsOf(arguments[2]);
             LateBoundObject(objectOf(fragments[1])).call(L"Add", {L"Structure", 1});
-            meanwhile(arguments);
+            // A copy, since it may set another one.
+            const auto action = meanwhile;
+            action(arguments);
             result = Variant(false).release();
             return outcome;
         });
@@ -36,6 +38,25 @@ public:
             return S_OK;
         });
     }
+};
+
+/// A fragment of the host's own that does something when it goes.
+class LastWords final : public DispatchObject {
+public:
+    explicit LastWords(std::function<void()> words) : mWords(std::move(words)) {
+        for (const wchar_t* member : {L"Reset", L"Add"}) {
+            addMethod(member, [](const Arguments&, VARIANT&) { return S_OK; });
+        }
+        addMethod(L"IsEmpty", [](const Arguments&, VARIANT& result) {
+            result = Variant(true).release();
+            return S_OK;
+        });
+    }
+
+private:
+    ~LastWords() override { mWords(); }
+
+    std::function<void()> mWords;
 };
 
 class Model : public ServiceTest {
@@ -121,6 +142,124 @@ TEST_F(Model, TakesWhatTheImplementorMakesOfItsArrays) {
               L"9 OutputTemplate.isBlank; 9 OutputTemplate.buildReferenceString; 9 OutputTemplate.getSeparator");
     reference->meanwhile = [](const Arguments&) {};
     EXPECT_EQ(output(), L"Kuhn. Structure, 1970.");
+}
+
+/// Puts an array of the host's own in the place of the one that it was given.
+void putArray(VARIANT& argument, VARTYPE type, const std::vector<Variant>& values) {
+    ASSERT_NE(argument.vt & VT_BYREF, 0);
+    Variant array;
+    array.get().vt = static_cast<VARTYPE>(VT_ARRAY | type);
+    array.get().parray = SafeArrayCreateVector(type, 0, static_cast<ULONG>(values.size()));
+    for (std::size_t i = 0; i < values.size(); ++i) assignElement(array.get(), static_cast<LONG>(i), values[i]);
+    SafeArrayDestroy(*argument.pparray);
+    *argument.pparray = array.release().parray;
+}
+
+TEST_F(Model, TakesArraysOfOtherTypesAsItTakesAnswers) {
+    layOut(L"medium=__CALLBACK_FOR_CHECKING__");
+    const auto own = makeObject<FormattedText>();
+    Variant unknown;
+    unknown.get().vt = VT_UNKNOWN;
+    own->QueryInterface(IID_IUnknown, reinterpret_cast<void**>(&unknown.get().punkVal));
+    Variant foreign;
+    foreign.get().vt = VT_UNKNOWN;
+    CreateBindCtx(0, reinterpret_cast<IBindCtx**>(&foreign.get().punkVal));
+    Variant null;
+    null.get().vt = VT_NULL;
+    Variant nothing;
+    nothing.get().vt = VT_UNKNOWN;
+    constexpr const wchar_t* kNoObject = L"13 OutputTemplate.ToFormattedString";
+    struct Case {
+        std::size_t argument;
+        VARTYPE type;
+        std::vector<Variant> values;
+        const wchar_t* output;
+        const wchar_t* errors;
+    };
+    const Case cases[] = {
+        {1, VT_VARIANT, {L"Lee", Variant(), 1971}, L"Lee. Structure on 1971.", L""},
+        {1, VT_VARIANT, {L"Lee", null, null}, L"Lee. Structure!", L""},
+        {1, VT_I4, {5, 6, 7}, L"5. Structure on 7.", L""},
+        {1, VT_DISPATCH, {own.get(), own.get(), own.get()}, L"", kNoObject},
+        {2, VT_UNKNOWN, {nothing, unknown, nothing}, L"Kuhn. Own on 1970.", L""},
+        {2, VT_UNKNOWN, {nothing, foreign, nothing}, L"", kNoObject},
+        {2, VT_VARIANT, {Variant(), own.get(), null}, L"Kuhn. Own on 1970.", L""},
+        {2, VT_VARIANT, {Variant(), L"Own", Variant()}, L"", kNoObject},
+        {2, VT_VARIANT, {1, 2, 3}, L"", kNoObject},
+        {2, VT_BSTR, {L"", L"Own", L""}, L"", kNoObject},
+        {2, VT_I4, {1, 2, 3}, L"", kNoObject},
+        {2, VT_R8, {1, 2, 3}, L"", kNoObject},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        reference->meanwhile = [&](const Arguments& arguments) {
+            own->reset();
+            own->add(L"Own", 2);
+            putArray(arguments[c.argument], c.type, c.values);
+        };
+        EXPECT_EQ(output(), c.output);
+        EXPECT_EQ(service.takenErrors(), c.errors);
+        reference->meanwhile = [](const Arguments&) {};
+        EXPECT_EQ(output(), L"Kuhn. Structure on 1970.") << "and the next output is what it was";
+    }
+    // An object of a caller's array is taken the same way.
+    const LateBoundObject dateTime = library.build(kDateTime, sink.get());
+    Variant items = Variant::array({L"", L"", L""});
+    Variant fragments = Variant::array({foreign, L"text", null});
+    dateTime.call(L"ToFormattedStringImpl", {false, referenceTo(VT_VARIANT, &items.get()), fragments, false});
+    EXPECT_EQ(service.takenErrors(), L"13 OutputTemplate.ToFormattedStringImpl");
+}
+
+TEST_F(Model, AFragmentsEndMayCallItBack) {
+    const std::function<void()> kWords[] = {
+        [&] { output(); },
+        [&] { layOut(L""); },
+        [&] {
+            model.call(L"Reset", {9, L"", 0});
+        },
+        [&] {
+            model.call(L"Initialize", {sink.get(), static_cast<IDispatch*>(nullptr)});
+        },
+        [&] { model = LateBoundObject(objectOf(library.main2().call(L"buildModelTemplate"))); },
+    };
+    // Each of the next outputs lets some of the fragments go: others take their place, or none.
+    const std::function<void(const Arguments&)> kNext[] = {
+        [](const Arguments& arguments) { assignElement(arguments[2], 1, makeObject<FormattedText>().get()); },
+        [](const Arguments& arguments) { putArray(arguments[2], VT_DISPATCH, {}); },
+        [](const Arguments& arguments) {
+            putArray(arguments[2], VT_I4, {1, 2, 3});
+        },
+        [this](const Arguments&) { layOut(L""); },
+    };
+    for (const auto& words : kWords) {
+        for (const auto& next : kNext) {
+            SCOPED_TRACE(testing::Message() << &words - kWords << ", then " << &next - kNext);
+            bool isOver = false;
+            const auto once = [&] {
+                if (!std::exchange(isOver, true)) words();
+            };
+            const auto without = [&](const std::function<void(const Arguments&)>& action) {
+                return [action, this](const Arguments& arguments) {
+                    reference->meanwhile = [](const Arguments&) {};
+                    action(arguments);
+                };
+            };
+            reference->meanwhile = without([&](const Arguments& arguments) {
+                std::vector<Variant> fragments;
+                for (int i = 0; i < 40; ++i) fragments.emplace_back(makeObject<LastWords>(once).get());
+                putArray(arguments[2], VT_DISPATCH, fragments);
+            });
+            const LateBoundObject held = model;
+            output();
+            reference->meanwhile = without(next);
+            output();
+            model = LateBoundObject(objectOf(library.main2().call(L"buildModelTemplate")));
+            LateBoundObject keys = LateBoundObject::create(L"Scripting.Dictionary");
+            model.call(L"Initialize", {sink.get(), keys.dispatch()});
+            layOut(L"");
+            EXPECT_EQ(output(), L"Kuhn. Structure, 1970.");
+        }
+    }
 }
 
 TEST_F(Model, SurvivesAHostThatFailsOrLetsItGo) {

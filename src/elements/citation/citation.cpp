@@ -147,9 +147,9 @@ void OutputTemplateCitation::Initialize(const OutputSinkRef& formattedStr, bool 
                {u"multiVolModelOutputTemplate", multiVolModelOutputTemplate}},
               [&] {
                   mUseMultiPartWork = useMultiPartWork;
-                  mAuthorModelOutputTemplate = authorModelOutputTemplate;
-                  mTitleModelOutputTemplate = titleModelOutputTemplate;
-                  mMultiVolModelOutputTemplate = multiVolModelOutputTemplate;
+                  replace(mAuthorModelOutputTemplate, authorModelOutputTemplate);
+                  replace(mTitleModelOutputTemplate, titleModelOutputTemplate);
+                  replace(mMultiVolModelOutputTemplate, multiVolModelOutputTemplate);
                   mYearTemplate = std::make_shared<OutputTemplateYear>();
                   held(mYearTemplate)->Initialize(formattedStr);
                   mOutputTemplate = std::make_shared<outputTemplate>();
@@ -167,7 +167,7 @@ void OutputTemplateCitation::ResetLikeModelTemplate(std::int16_t maxIndex, const
     procedure(*this, u"ResetLikeModelTemplate",
               {{u"maxIndex", maxIndex}, {u"callback", callback ? callback->hostObject() : nullptr}}, [&] {
                   mIsLikeModelTemplate = true;
-                  mCallback = callback;
+                  replace(mCallback, callback);
                   held(mModelTemplate)->Reset(maxIndex, {}, 0);
               });
 }

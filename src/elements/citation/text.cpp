@@ -60,13 +60,20 @@ bool isVolume(TextView piece) {
     return volumenumbers::withoutWord(piece) != piece;
 }
 
-/// A page that stands before those read so far: "12, 15-17".
-void addPage(TextView page, CitationFields& fields) {
-    fields.page = fields.page.empty() ? Text(page) : concatenate({page, kBetweenPieces, fields.page});
-}
+/// The pages of a citation as they are read, from its end: "12, 15-17". Put together at the end only, since there may
+/// be very many.
+class Pages {
+public:
+    void addBefore(TextView page) { mPages.emplace_back(page); }
+    bool isEmpty() const { return mPages.empty(); }
+    Text text() const { return join(std::vector<Text>(mPages.rbegin(), mPages.rend()), kBetweenPieces); }
+
+private:
+    std::vector<Text> mPages;
+};
 
 /// "2: 1-10", "2:12": a volume with its page.
-bool readVolumeAndPage(TextView piece, CitationFields& fields) {
+bool readVolumeAndPage(TextView piece, CitationFields& fields, Pages& pages) {
     const std::size_t colon = piece.find(u':');
     if (!fields.volume.empty() || colon == TextView::npos || !volumenumbers::isNumber(piece.substr(0, colon))) {
         return false;
@@ -76,24 +83,24 @@ bool readVolumeAndPage(TextView piece, CitationFields& fields) {
         return false;
     }
     fields.volume = Text(piece.substr(0, colon));
-    addPage(page, fields);
+    pages.addBefore(page);
     return true;
 }
 
 /// One piece behind the author and title; False when it is no such piece.
-bool readLocatorPiece(TextView piece, CitationFields& fields) {
+bool readLocatorPiece(TextView piece, CitationFields& fields, Pages& pages) {
     if (isVolume(piece) && fields.volume.empty()) {
         fields.volume = Text(volumenumbers::withoutWord(piece));
     } else if (isLocator(piece)) {
-        addPage(piece, fields);
+        pages.addBefore(piece);
     } else {
-        return readVolumeAndPage(piece, fields);
+        return readVolumeAndPage(piece, fields, pages);
     }
     return true;
 }
 
 /// Takes year, volume and page off the end of the pieces.
-void readFromEnd(std::vector<Text>& pieces, CitationFields& fields) {
+void readFromEnd(std::vector<Text>& pieces, CitationFields& fields, Pages& pages) {
     while (!pieces.empty()) {
         const Text& piece = pieces.back();
         const bool yearIsBefore = pieces.size() > 1 && isYear(pieces[pieces.size() - 2]);
@@ -101,7 +108,7 @@ void readFromEnd(std::vector<Text>& pieces, CitationFields& fields) {
             const std::size_t slash = piece.find(u'/');
             fields.originalYear = slash == Text::npos ? Text() : piece.substr(0, slash);
             fields.year = slash == Text::npos ? piece : piece.substr(slash + 1);
-        } else if (!fields.year.empty() || !readLocatorPiece(piece, fields)) {
+        } else if (!fields.year.empty() || !readLocatorPiece(piece, fields, pages)) {
             return;
         }
         pieces.pop_back();
@@ -109,14 +116,14 @@ void readFromEnd(std::vector<Text>& pieces, CitationFields& fields) {
 }
 
 /// Takes the locator off the end of a piece to which blanks join it: "Smith and Jones 12".
-void readFromEndOf(Text& piece, CitationFields& fields) {
+void readFromEndOf(Text& piece, CitationFields& fields, Pages& pages) {
     const std::size_t lastBlank = piece.rfind(u' ');
     if (lastBlank == Text::npos || lastBlank == 0) {
         return;
     }
     // Two words first: "Wellek 2: 1-10", "Smith par. 4".
     for (const std::size_t blank : {piece.rfind(u' ', lastBlank - 1), lastBlank}) {
-        if (blank != Text::npos && readLocatorPiece(TextView(piece).substr(blank + 1), fields)) {
+        if (blank != Text::npos && readLocatorPiece(TextView(piece).substr(blank + 1), fields, pages)) {
             piece.erase(blank);
             return;
         }
@@ -125,11 +132,12 @@ void readFromEndOf(Text& piece, CitationFields& fields) {
 
 /// How many of the pieces name the author: "Smith, Jones, and Brown" has three.
 std::size_t piecesOfAuthor(const std::vector<Text>& pieces) {
+    const bool isClosed = containsOneOf(pieces[0], kAndWordsInside);
     std::size_t count = 1;
     for (std::size_t i = 1; i < pieces.size(); ++i) {
-        const bool endsList = startsWithOneOf(pieces[i], kAndWords) || startsWith(pieces[i], u"et al");
+        const bool endsList = !isClosed && (startsWithOneOf(pieces[i], kAndWords) || startsWith(pieces[i], u"et al"));
         const bool isPostfix = i == count && isOneOf(pieces[i], kPostfixes);
-        if ((endsList && !containsOneOf(pieces[0], kAndWordsInside)) || isPostfix) {
+        if (endsList || isPostfix) {
             count = i + 1;
         }
     }
@@ -191,10 +199,9 @@ CitationFields readIbid(TextView text, TextView previous) {
     TextView page = text.substr(kIbid.size());
     page = trim(page, u" .,");
     if (!page.empty()) {
-        fields.page = Text();
-        if (!readLocatorPiece(page, fields)) {
-            fields.page = Text(page);
-        }
+        Pages pages;
+        const bool isLocator = readLocatorPiece(page, fields, pages);
+        fields.page = isLocator ? pages.text() : Text(page);
     }
     return fields;
 }
@@ -215,10 +222,12 @@ CitationFields read(TextView citation, TextView previous) {
     }
     fields.subwork = takeQuotedTitle(text);
     std::vector<Text> pieces = text.empty() ? std::vector<Text>() : split(text, kBetweenPieces);
-    readFromEnd(pieces, fields);
-    if (!pieces.empty() && fields.year.empty() && fields.page.empty() && fields.volume.empty()) {
-        readFromEndOf(pieces.back(), fields);
+    Pages pages;
+    readFromEnd(pieces, fields, pages);
+    if (!pieces.empty() && fields.year.empty() && pages.isEmpty() && fields.volume.empty()) {
+        readFromEndOf(pieces.back(), fields, pages);
     }
+    fields.page = pages.text();
     if (!pieces.empty()) {
         const std::size_t authors = piecesOfAuthor(pieces);
         fields.author = joined(pieces, 0, authors);

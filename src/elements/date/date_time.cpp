@@ -108,7 +108,7 @@ Text withShortMonths(const Text& pattern) {
 
 void OutputTemplateDateTime::Initialize(const OutputSinkRef& formattedString) {
     procedure(*this, u"Initialize", {{u"formattedString", formattedString}}, [&] {
-        mFormattedStr = formattedString;
+        replace(mFormattedStr, formattedString);
         makeAssembly(formattedString);
         Reset();
     });

@@ -22,6 +22,7 @@ constexpr KnownFailure kKnownFailures[] = {
     {DISP_E_BADPARAMCOUNT, ErrorNumber::WrongNumberOfArguments},
     {DISP_E_PARAMNOTOPTIONAL, ErrorNumber::ArgumentNotOptional},
     {DISP_E_PARAMNOTFOUND, ErrorNumber::ArgumentNotOptional},
+    {kStackOverflow, ErrorNumber::OutOfStackSpace},
     {E_OUTOFMEMORY, ErrorNumber::OutOfMemory},
     {REGDB_E_CLASSNOTREG, ErrorNumber::CannotCreateObject},
     {CO_E_CLASSSTRING, ErrorNumber::CannotCreateObject},

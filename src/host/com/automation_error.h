@@ -6,6 +6,9 @@
 
 namespace quorvel::host {
 
+/// How the platform says that the stack is at its end.
+inline constexpr HRESULT kStackOverflow = HRESULT_FROM_WIN32(ERROR_STACK_OVERFLOW);
+
 /// The classic error number for a failed platform or late-bound call.
 ErrorNumber errorNumberOf(HRESULT failure);
 

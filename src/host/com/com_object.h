@@ -18,15 +18,25 @@
 namespace quorvel::host {
 
 /// Brackets one call from the host: the object stays alive however the host's answers to our own calls
-/// come out, and an absent error-report service is looked for once.
+/// come out, an absent error-report service is looked for once, and calls do not nest without end.
 class HostCall {
 public:
     explicit HostCall(IUnknown* object) : mKeepAlive(object), mProtector(VBWPROTECTOR::ofThisApartment()) {
-        mProtector.beginHostCall();
+        mProtector.beginHostCall(this);
     }
     HostCall(const HostCall&) = delete;
     HostCall& operator=(const HostCall&) = delete;
-    ~HostCall() { mProtector.endHostCall(); }
+    ~HostCall() { mProtector.endHostCall(this); }
+
+    /// Calls nest too deep, which this reports: nothing of the host's may be touched any more.
+    bool isRefused() const noexcept {
+        if (mProtector.isTooDeep()) {
+            // A body is not reached.
+            procedure(StandardModule(u"HostCall"), u"isRefused", kNoParameters, [] {});
+            return true;
+        }
+        return false;
+    }
 
 private:
     ComPtr<IUnknown> mKeepAlive;
@@ -173,6 +183,9 @@ protected:
     template <class Body>
     HRESULT call(Body&& body) noexcept {
         const HostCall bracket(this);
+        if (bracket.isRefused()) {
+            return S_OK;
+        }
         try {
             body();
         } catch (...) {  // NOLINT(bugprone-empty-catch): procedures trap their errors; only memory can run out here

@@ -130,13 +130,6 @@ HRESULT bring(const VARIANT& argument, VARTYPE type, Variant& value) {
         }
         return S_OK;
     }
-    if (type == VT_DISPATCH && direct.vt == VT_UNKNOWN) {
-        Variant object(static_cast<IDispatch*>(nullptr));
-        object.pdispVal = queryFor<IDispatch>(direct.punkVal, IID_IDispatch).detach();
-        const bool isLost = object.pdispVal == nullptr && direct.punkVal != nullptr;
-        value = std::move(object);
-        return isLost ? DISP_E_TYPEMISMATCH : S_OK;
-    }
     return convert(direct, type, value);
 }
 
@@ -405,7 +398,8 @@ HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DI
     if (call.lacksArguments()) {
         fail(ErrorNumber::ArgumentNotOptional);
     }
-    HRESULT outcome = call.bringArguments();
+    // To read an argument may run the host's code already.
+    HRESULT outcome = VBWPROTECTOR::ofThisApartment().isTooDeep() ? kStackOverflow : call.bringArguments();
     if (SUCCEEDED(outcome)) {
         outcome = call.run(object, value);
         call.writeBack();

@@ -4,11 +4,47 @@
 #include <limits>
 #include <new>
 
+#include "host/com/com_ptr.h"
+
 namespace quorvel::host {
 
 namespace {
 
 constexpr LCID kUsEnglish = 0x0409;
+
+// An object's value may be an object again; one that is its own value would lead nowhere.
+constexpr int kMostDefaultValues = 4;
+
+/// Puts an object's default value, the member without a name, in its place.
+HRESULT toDefaultValue(Variant& value) {
+    for (int step = 0; value.vt == VT_DISPATCH && value.pdispVal != nullptr; ++step) {
+        if (step == kMostDefaultValues) {
+            return DISP_E_TYPEMISMATCH;
+        }
+        Variant answer;
+        DISPPARAMS none = {};
+        const HRESULT outcome = value.pdispVal->Invoke(DISPID_VALUE, IID_NULL, kUsEnglish, DISPATCH_PROPERTYGET, &none,
+                                                       &answer, nullptr, nullptr);
+        if (FAILED(outcome)) {
+            return DISP_E_TYPEMISMATCH;
+        }
+        Variant direct;
+        const HRESULT copied = VariantCopyInd(&direct, const_cast<VARIANT*>(&dereferenced(answer)));
+        if (FAILED(copied)) {
+            return copied;
+        }
+        value = std::move(direct);
+    }
+    return S_OK;
+}
+
+/// An object of which nothing is known as one that has members; Nothing stays Nothing.
+HRESULT toDispatch(Variant& value) {
+    Variant object(queryFor<IDispatch>(value.punkVal, IID_IDispatch).get());
+    const bool isLost = object.pdispVal == nullptr && value.punkVal != nullptr;
+    value = std::move(object);
+    return isLost ? DISP_E_TYPEMISMATCH : S_OK;
+}
 
 }  // namespace
 
@@ -39,6 +75,11 @@ HRESULT convert(const VARIANT& value, VARTYPE type, Variant& result) {
     }
     Variant direct;
     HRESULT outcome = VariantCopyInd(&direct, const_cast<VARIANT*>(&dereferenced(value)));
+    if (SUCCEEDED(outcome) && direct.vt == VT_UNKNOWN && type == VT_DISPATCH) {
+        outcome = toDispatch(direct);
+    } else if (SUCCEEDED(outcome) && type != VT_DISPATCH && type != VT_UNKNOWN) {
+        outcome = toDefaultValue(direct);
+    }
     if (SUCCEEDED(outcome) && direct.vt != type) {
         outcome = VariantChangeTypeEx(&direct, &direct, kUsEnglish, VARIANT_ALPHABOOL, type);
     }

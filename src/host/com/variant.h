@@ -92,7 +92,7 @@ inline bool isNullReference(const VARIANT& value) {
 }
 
 /// A value in another variant type, as US English reads and writes it whatever the user's settings: a
-/// boolean is "True" or "False".
+/// boolean is "True" or "False", an object is its default value.
 /// @return S_OK, or why the value does not convert; then `result` stays empty.
 HRESULT convert(const VARIANT& value, VARTYPE type, Variant& result);
 

@@ -1,5 +1,7 @@
 #include "core/procedure.h"
 
+#include <algorithm>
+#include <csetjmp>
 #include <new>
 #include <stdexcept>
 #include <thread>
@@ -42,6 +44,15 @@ public:
 };
 
 struct PageMark final : HostObject {};
+
+/// A call from the host.
+class HostCall {
+public:
+    HostCall() { VBWPROTECTOR::ofThisApartment().beginHostCall(this); }
+    HostCall(const HostCall&) = delete;
+    HostCall& operator=(const HostCall&) = delete;
+    ~HostCall() { VBWPROTECTOR::ofThisApartment().endHostCall(this); }
+};
 
 void throwSubscript() {
     throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
@@ -202,13 +213,12 @@ TEST_F(Procedure, AServiceThatEndsTheThreadInAnyOfItsCallsLivesUntilItReturns) {
 
 TEST_F(Procedure, AnAbsentServiceIsLookedForOnceInACallOfTheHost) {
     const auto hostCall = [](int nestedCalls, const auto& self) -> void {
-        protector().beginHostCall();
+        const HostCall call;
         nested();
         if (nestedCalls > 0) {
             self(nestedCalls - 1, self);
         }
         nested();
-        protector().endHostCall();
     };
     const std::shared_ptr<RecordingService> running = finder().offered;
     for (const bool fails : {false, true}) {
@@ -232,6 +242,77 @@ TEST_F(Procedure, AnAbsentServiceIsLookedForOnceInACallOfTheHost) {
     hostCall(0, hostCall);
     EXPECT_EQ(finder().lookUps, 1);
     EXPECT_EQ(running->calls(), 16);
+}
+
+/// What a host does that answers every call with another one.
+int depthOf(int calls) {
+    const HostCall call;
+    return procedure(StandardModule(u"Sample"), u"answer", kNoParameters, [&] {
+        int deepest = 0;
+        for (int i = 0; i < calls; ++i) {
+            deepest = std::max(deepest, depthOf(calls));
+        }
+        return deepest + 1;
+    });
+}
+
+TEST_F(Procedure, CallsThatNestWithoutEndAreErrors) {
+    // With seven calls back from each it would take for ever, were it not the outermost one that counts.
+    for (const int calls : {1, 7}) {
+        EXPECT_EQ(depthOf(calls), static_cast<int>(VBWPROTECTOR::kDeepestNesting));
+        const std::vector<Text> errors = service().errors();
+        ASSERT_FALSE(errors.empty());
+        EXPECT_EQ(errors.front(), u"28: Out of stack space in QuorvelTemplate.Sample.answer");
+        EXPECT_LT(errors.size(), static_cast<std::size_t>(calls) * VBWPROTECTOR::kDeepestNesting);
+        service().forget();
+    }
+    EXPECT_EQ(depthOf(0), 1);
+    EXPECT_EQ(service().errors(), std::vector<Text>());
+}
+
+/// A host that leaves the library by a jump out of a report, as it may by an exception that nobody here sees.
+template <class Body>
+[[gnu::noinline]] void leaveByAJump(RecordingService& service, int call, const Body& body) {
+    std::jmp_buf back;
+    if (setjmp(back) == 0) {
+        const HostCall bracket;
+        service.onCall([&back, &call] {
+            if (call-- == 0) {
+                std::longjmp(back, 1);
+            }
+        });
+        body();
+        std::longjmp(back, 1);
+    }
+}
+
+TEST_F(Procedure, AHostThatJumpsOutOfACallLeavesNothingBehind) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "but memory, which the sanitizer counts";
+#endif
+    const auto renew = [&] {
+        finder().offered = std::make_shared<RecordingService>();
+        protector().releaseService();
+    };
+    for (int i = 0; i < 3 * static_cast<int>(VBWPROTECTOR::kDeepestNesting); ++i) {
+        renew();
+        leaveByAJump(service(), i % 5, [] { nested(); });
+    }
+    renew();
+    {
+        const HostCall call;
+        nested();
+    }
+    EXPECT_EQ(service().calls(), 4) << "it is still reported";
+    EXPECT_EQ(service().errors(), std::vector<Text>());
+    finder().offered = nullptr;
+    protector().releaseService();
+    finder().lookUps = 0;
+    for (int i = 0; i < 3; ++i) {
+        const HostCall call;
+        nested();
+    }
+    EXPECT_EQ(finder().lookUps, 3) << "no call counts as one inside another";
 }
 
 TEST_F(Procedure, EachApartmentBeginsWithTheSwitchesOfStartUp) {

@@ -1,5 +1,6 @@
 #include "elements/citation/citation.h"
 
+#include "support/allocations.h"
 #include "support/author_reading.h"
 #include "support/recording_model.h"
 #include "support/recording_service.h"
@@ -465,6 +466,32 @@ TEST_F(Citation, SurvivesWhatIsMissingFailsOrActs) {
     service().forget();
     EXPECT_EQ(output(), u"");
     EXPECT_EQ(service().errors().size(), 1u);
+}
+
+TEST_F(Citation, TheWorkOfParseGrowsWithTheText) {
+    struct Case {
+        TextView first, repeated;
+    };
+    constexpr Case kCases[] = {{u"", u"1-2, "}, {u"", u"p. 1, "}, {u"Smith, ", u"12, "}, {u"aaaaaaaaaaaa", u", and b"}};
+    for (const Case& c : kCases) {
+        const auto bytesFor = [&](std::size_t size) {
+            Text text;
+            // Half of it is the first piece, if that is asked for: what is done for each piece does not look at it.
+            while (c.first.size() > c.repeated.size() && text.size() < size / 2) {
+                text += c.first;
+            }
+            text += text.empty() ? c.first : TextView();
+            while (text.size() < size) {
+                text += c.repeated;
+            }
+            const std::size_t before = test::allocatedBytes();
+            citation.Parse(text, {});
+            return test::allocatedBytes() - before;
+        };
+        // Each doubling costs twice as much; what grows with the square would not end at the last of these sizes.
+        EXPECT_LT(bytesFor(200'000), bytesFor(100'000) * 5 / 2) << shown(c.repeated);
+        EXPECT_GT(bytesFor(4'000'000), 0U) << shown(c.repeated);
+    }
 }
 
 }  // namespace

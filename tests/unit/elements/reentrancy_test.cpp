@@ -2,7 +2,9 @@
 
 #include <functional>
 
+#include "core/output_template_model.h"
 #include "elements/author/author.h"
+#include "elements/citation/citation.h"
 #include "elements/date/date_time.h"
 #include "elements/keywords.h"
 #include "elements/page.h"
@@ -10,6 +12,7 @@
 #include "elements/publisher.h"
 #include "elements/title/title.h"
 #include "elements/year.h"
+#include "support/recording_model.h"
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
 #include "support/style_presets.h"
@@ -54,19 +57,91 @@ Element elementOf(std::function<void(Class&)> reset) {
             [element](const OutputSinkRef& sink) { element->ToFormattedString(sink, false, false); }, read};
 }
 
-struct Case {
-    const char* name;
-    std::function<Element()> make;
-    TextView text;
-    TextView other;
-};
-
 void resetTitle(OutputTemplateTitle& title) {
     const auto author = std::make_shared<OutputTemplateAuthor>();
     author->Initialize(std::make_shared<RecordingSink>());
     author->Reset(test::apaAuthorOptions());
     title.Reset({2, author, false, true, u"books", true, u"parts", true, u"Introduction,Article"});
 }
+
+/// The implementor of a host, which puts a fragment of its own in the place of the one that it gets.
+class Reference final : public Implementor {
+public:
+    Text text;
+    std::shared_ptr<RecordingSink> sink;
+
+    void ToFormattedString(const OutputSinkRef&, bool, bool) override {}
+    bool ToFormattedStringImpl(bool, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                               bool) override {
+        std::vector<Text> texts(items.size(), text);
+        std::vector<OutputSinkRef> fragments(formattedItems.size());
+        fragments.at(1) = sink->BuildNewFormattedString();
+        fragments.at(1)->Add(text);
+        items.swap(texts);
+        formattedItems.swap(fragments);
+        return false;
+    }
+};
+
+Element modelElement() {
+    const auto model = std::make_shared<OutputTemplateModel>();
+    const auto reference = std::make_shared<Reference>();
+    const auto fields = std::make_shared<RecordingModel>(std::map<std::int16_t, Text>{{1, u"a"}, {7, u""}});
+    return {[=](const OutputSinkRef& sink) {
+                reference->sink = std::dynamic_pointer_cast<RecordingSink>(sink);
+                model->Initialize(sink, std::make_shared<NumberedKeys>(std::vector<Text>{u"kind"}));
+            },
+            [=] {
+                model->Reset(1, u"", 0);
+                model->Add(0, false, u"kind=a", {u"", u", ", u".", u"", u"; ", u"."});
+                model->Add(1, true, u"", {u"", u"."});
+            },
+            [=](TextView text) { reference->text = Text(text); },
+            [=](const OutputSinkRef& sink) {
+                const auto own = std::make_shared<Reference>(*reference);
+                own->sink = std::dynamic_pointer_cast<RecordingSink>(sink);
+                model->ToFormattedString(sink, own, fields, false, false);
+            },
+            [] {}};
+}
+
+/// A citation in its own layout, or in one of a host's.
+Element citationElement(bool isLikeModelTemplate) {
+    const auto citation = std::make_shared<OutputTemplateCitation>();
+    const auto fields = std::make_shared<RecordingModel>();
+    return {[=](const OutputSinkRef& sink) {
+                const auto author = std::make_shared<OutputTemplateAuthor>();
+                author->Initialize(sink);
+                author->Reset(test::apaAuthorOptions());
+                const auto title = std::make_shared<OutputTemplateTitle>();
+                title->Initialize(sink);
+                resetTitle(*title);
+                citation->Initialize(sink, true, std::make_shared<NumberedKeys>(std::vector<Text>{}), author, title,
+                                     sink);
+            },
+            [=] {
+                citation->Reset(u", ", true, u"vol. ", false, true, true, true, true, true, true, true, false, u", ",
+                                u", ", u": ");
+                if (isLikeModelTemplate) {
+                    citation->ResetLikeModelTemplate(1, nullptr);
+                    citation->Add(0, true, u"", {u"", u", ", u"."});
+                    citation->Add(1, true, u"", {u"", u"."});
+                }
+            },
+            [=](TextView text) {
+                Text left(text);
+                citation->Parse(left, {});
+            },
+            [=](const OutputSinkRef& sink) { citation->ToFormattedString(sink, fields, 0, true, false); },
+            [=] { citation->toString(nullptr, 0, true); }};
+}
+
+struct Case {
+    const char* name;
+    std::function<Element()> make;
+    TextView text;
+    TextView other;
+};
 
 const Case kCases[] = {
     {"author",
@@ -102,6 +177,10 @@ const Case kCases[] = {
               dateTime.Reset({u"d mmmm yyyy", true});
           }); },
      u"May 5, 2011, 9:15 a.m. PDT", u"June 2010"},
+    {"model", modelElement, u"text", u"other"},
+    {"citation", [] { return citationElement(false); }, u"(Smith & Jones, \u201CA Life,\u201D vol. 2, p. 12)",
+     u"(Lee, 2005)"},
+    {"citation in a host's layout", [] { return citationElement(true); }, u"Smith, A Life, 12", u"(Lee, 2005)"},
 };
 
 void use(const Element& element, const OutputSinkRef& sink, TextView text) {
@@ -114,7 +193,8 @@ void use(const Element& element, const OutputSinkRef& sink, TextView text) {
 
 using Reentrancy = ReportingTest;
 
-// The host begins anew with the element in the middle of each of the calls that it gets, in turn. With the
+// The host begins anew with the element in the middle of each of the calls that it gets, and at the end of each of
+// its objects, in turn. With the
 // parameters there are many more calls; then some of them are enough.
 TEST_F(Reentrancy, AnElementMayBeginAnewInTheMiddleOfAnything) {
     for (const Case& c : kCases) {
@@ -132,6 +212,7 @@ TEST_F(Reentrancy, AnElementMayBeginAnewInTheMiddleOfAnything) {
                     }
                 };
                 sink->onCall(called);
+                sink->onEnd(called);
                 service().onCall(called);
                 protector().switches().vbwTraceProc = true;
                 protector().switches().vbwTraceParameters = step > 1;
@@ -140,6 +221,7 @@ TEST_F(Reentrancy, AnElementMayBeginAnewInTheMiddleOfAnything) {
                 // Nobody listens any more.
                 protector().switches().vbwTraceProc = false;
                 sink->onCall({});
+                sink->onEnd({});
                 service().onCall({});
                 service().forget();
                 const auto after = std::make_shared<RecordingSink>();

@@ -22,6 +22,16 @@ class RecordingSink final : public OutputSink {
         int failAt = 0;
         bool isActing = false;
         std::function<void()> action;
+        std::function<void()> lastAction;
+
+        /// Acts, unless that is what it does already. A copy, since the action may set another one.
+        void act(std::function<void()> what) {
+            if (what && !isActing) {
+                isActing = true;
+                what();
+                isActing = false;
+            }
+        }
     };
 
 public:
@@ -35,6 +45,7 @@ public:
     RecordingSink() : RecordingSink(std::make_shared<Family>()) {}
     /// A sink of the same family.
     explicit RecordingSink(std::shared_ptr<Family> family) : mFamily(std::move(family)) {}
+    ~RecordingSink() override { mFamily->act(mFamily->lastAction); }
 
     const std::vector<Phrase>& phrases() const { return mPhrases; }
     Text plain() const {
@@ -52,6 +63,8 @@ public:
     /// What the host does in the middle of each call to the family; calls that it causes itself do not
     /// set it off again.
     void onCall(std::function<void()> action) { mFamily->action = std::move(action); }
+    /// The same for the end of each of the family.
+    void onEnd(std::function<void()> action) { mFamily->lastAction = std::move(action); }
 
     void Add(TextView text) override { Add(text, kPlain); }
     void Add(TextView text, std::int32_t font) override {
@@ -122,13 +135,7 @@ private:
     void called() const {
         Family& family = *mFamily;
         ++family.calls;
-        if (family.action && !family.isActing) {
-            family.isActing = true;
-            // A copy, since the action may set another one.
-            const std::function<void()> action = family.action;
-            action();
-            family.isActing = false;
-        }
+        family.act(family.action);
         if (family.calls == family.failAt) {
             throw RuntimeError(ErrorNumber::AutomationError, u"The sink was told to fail.", nullptr);
         }

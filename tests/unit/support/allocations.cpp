@@ -1,0 +1,34 @@
+#include "support/allocations.h"
+
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+thread_local std::size_t theAllocatedBytes = 0;
+
+}  // namespace
+
+namespace quorvel::test {
+
+std::size_t allocatedBytes() {
+    return theAllocatedBytes;
+}
+
+}  // namespace quorvel::test
+
+void* operator new(std::size_t size) {
+    theAllocatedBytes += size;
+    if (void* const memory = std::malloc(size > 0 ? size : 1)) {
+        return memory;
+    }
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    std::free(memory);
+}
