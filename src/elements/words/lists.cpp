@@ -81,8 +81,16 @@ constexpr WordList kWordLists[] = {
     {titlewords::kName, 0,
 #include "elements/words/names.inc"
     },
-    {titlewords::kGivenName, 0,
+    {titlewords::kGivenName, authorwords::kFirstName,
 #include "elements/words/given_names.inc"
+    },
+    // Families bear them, too, or particles look like them: in a list of persons they tell nothing of the order.
+    {titlewords::kGivenName, 0,
+#include "elements/words/given_names_in_last_names.inc"
+    },
+    // In titles they mostly mean something else.
+    {0, authorwords::kFirstName,
+#include "elements/words/given_names_in_lists_of_persons.inc"
     },
     {titlewords::kAmbiguousGivenName, 0,
 #include "elements/words/given_names_that_are_words.inc"
@@ -171,9 +179,6 @@ constexpr WordList kWordLists[] = {
     },
     {0, authorwords::kAbbreviation,
 #include "elements/words/abbreviated_names.inc"
-    },
-    {0, authorwords::kFirstName,
-#include "elements/words/first_names.inc"
     },
     // Lists of persons: institutions.
     {0, authorwords::kPreposition,

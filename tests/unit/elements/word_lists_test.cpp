@@ -5,7 +5,6 @@
 #include <set>
 #include <vector>
 
-#include "core/letter_case.h"
 #include "support/shown.h"
 
 namespace quorvel {
@@ -47,14 +46,6 @@ TEST(WordLists, NoWordStandsTwiceInAClass) {
                 EXPECT_TRUE(bit >= 32 || (list.inPersons >> bit & 1U) == 0 || inPersons.insert(word).second)
                     << shown(word);
             }
-        }
-    }
-}
-
-TEST(WordLists, WordsThatAreKnownInAnyCaseAreInLowerCase) {
-    for (const words::WordList& list : words::wordLists()) {
-        if ((list.inTitles & titlewords::kKnownAsWritten) == 0) {
-            EXPECT_EQ(toLower(list.words), list.words);
         }
     }
 }
