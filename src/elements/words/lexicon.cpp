@@ -89,7 +89,8 @@ Known Lexicon::find(TextView word, TextView lowered) const {
 }
 
 std::uint32_t Lexicon::inPersons(TextView lowered) const {
-    return mEntries[mSlots[slotOf(lowered, hashOf(lowered))].entry].inPersons;
+    const std::uint32_t hash = hashOf(lowered);
+    return mHashesInPersons[hash % kHashesInPersons] ? mEntries[mSlots[slotOf(lowered, hash)].entry].inPersons : 0;
 }
 
 WordClasses Lexicon::classesOf(EntryId entry, TextView word) const {
@@ -111,7 +112,11 @@ void Lexicon::add(const WordList& list) {
     const WordClasses anyCase = list.inTitles & ~titlewords::kKnownAsWritten;
     const WordClasses asWritten = list.inTitles & titlewords::kKnownAsWritten;
     forEachPart(list.words, u'\n', [&](std::size_t at, std::size_t size) {
-        Entry& entry = mEntries[entryOf(loweredList.substr(at, size))];
+        const TextView word = loweredList.substr(at, size);
+        Entry& entry = mEntries[entryOf(word)];
+        if (list.inPersons != 0) {
+            mHashesInPersons.set(hashOf(word) % kHashesInPersons);
+        }
         entry.anyCase |= anyCase;
         entry.inPersons |= list.inPersons;
         if (asWritten != 0) {

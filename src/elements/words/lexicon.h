@@ -1,5 +1,6 @@
 #pragma once
 
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <deque>
@@ -101,6 +102,10 @@ private:
     std::vector<Form> mForms = std::vector<Form>(1);
     std::vector<EntryId> mPhraseWords;
     std::vector<Phrase> mPhrases;
+    // Which hashes, cut short, words have that mean something in lists of persons. Most of what is looked up there are
+    // last names, which end at this small table.
+    static constexpr std::size_t kHashesInPersons = std::size_t{1} << 15U;
+    std::bitset<kHashesInPersons> mHashesInPersons;
     // Open addressing: a power of two, at least half of it free.
     std::vector<Slot> mSlots = std::vector<Slot>(std::size_t{1} << 15U);
 };
