@@ -391,14 +391,14 @@ Text OutputTemplateCitation::yearOf(const CitationFields& fields) {
 void OutputTemplateCitation::addTitle(Slots& slots, std::int16_t slot, const CitationFields& fields) const {
     const TextView title = citedTitle(fields, mOptions.supportsSubwork);
     const bool isOfPart = title == fields.subwork || !fields.periodical.empty() || !fields.website.empty();
-    Text text = fields.shortTitle.empty() ? titlecase::shortTitle(title) : fields.shortTitle;
+    Text text = fields.shortTitle.empty() ? shortTitle(title) : fields.shortTitle;
     if (const std::shared_ptr<OutputTemplateTitle> style = mTitleModelOutputTemplate) {
         text = style->InHeadingCapitalization(text);
     }
     if (!isOfPart) {
         slots.add(slot, text, OutputSink::kItalic);
     } else if (mOptions.titleIsQuoted && !text.empty()) {
-        slots.add(slot, titlecase::quoted(text));
+        slots.add(slot, titlequotes::quoted(text));
     } else {
         slots.add(slot, text);
     }

@@ -13,7 +13,7 @@ namespace quorvel {
 using titlecase::Range;
 using titlecase::TitleText;
 using titlecase::Word;
-using titlewords::Lexicon;
+using words::Lexicon;
 
 namespace {
 

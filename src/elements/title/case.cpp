@@ -7,8 +7,8 @@ namespace quorvel::titlecase {
 
 namespace {
 
-using titlewords::Known;
-using titlewords::Lexicon;
+using words::Known;
+using words::Lexicon;
 
 /// Sets the letters of a piece as a heading has them.
 class HeadingCase {

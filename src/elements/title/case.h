@@ -39,7 +39,7 @@ bool standsInHeadingCase(const TitleText& title);
 /// Whether the rules capitalise the first word of a piece.
 bool capitalizesFirstWord(const Word& first, const Rules& rules);
 /// One piece in heading or sentence case, in place. Sentence case takes a piece of a title that stands in
-/// heading case (title_sentence.h).
+/// heading case (title/sentence.h).
 /// @param text the title, its other pieces in either case
 void applyPiece(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
                 const Rules& rules);

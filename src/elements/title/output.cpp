@@ -75,7 +75,7 @@ Text OutputTemplateTitle::wholeTitle(bool shortenedVersion) const {
     const Text& title = mValues.at(kTitle);
     const Text& subtitle = mValues.at(kSubtitle);
     if (shortenedVersion) {
-        return titlecase::shortTitle(title.empty() ? subtitle : title);
+        return shortTitle(title.empty() ? subtitle : title);
     }
     if (subtitle.empty() || title.empty()) {
         return title.empty() ? subtitle : title;
@@ -144,7 +144,7 @@ void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, Text& 
     procedure(*this, u"addTitleImpl", {{u"formattedStr", formattedStr}, {u"text", text}, {u"isPart", isPart}}, [&] {
         OutputSink& sink = object(formattedStr);
         if (isPart) {
-            sink.Add(titletypes::quotesParts(mFormat) ? titlecase::quoted(text) : text, OutputSink::kPlain);
+            sink.Add(titletypes::quotesParts(mFormat) ? titlequotes::quoted(text) : text, OutputSink::kPlain);
             return;
         }
         std::vector<Range> roman;

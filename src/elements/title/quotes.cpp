@@ -2,7 +2,7 @@
 
 #include "core/letter_case.h"
 
-namespace quorvel::titlecase {
+namespace quorvel::titlequotes {
 
 namespace {
 
@@ -53,4 +53,4 @@ Text quoted(TextView title) {
                         TextView(&kRightDoubleQuotationMark, 1)});
 }
 
-}  // namespace quorvel::titlecase
+}  // namespace quorvel::titlequotes

@@ -2,7 +2,7 @@
 
 #include "core/text.h"
 
-namespace quorvel::titlecase {
+namespace quorvel::titlequotes {
 
 /// The double quotation marks inside a title that gets some itself become single ones (MLA 7 3.7.7, Turabian 7 25.2.1).
 Text withSingleQuotationMarks(TextView text);
@@ -14,4 +14,4 @@ Text withDoubleQuotationMarks(TextView text);
 /// A title in double quotation marks, those inside it single.
 Text quoted(TextView title);
 
-}  // namespace quorvel::titlecase
+}  // namespace quorvel::titlequotes

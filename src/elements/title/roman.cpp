@@ -9,7 +9,7 @@ namespace quorvel::titleroman {
 using titlecase::Range;
 using titlecase::slice;
 using titlecase::Word;
-using titlewords::Lexicon;
+using words::Lexicon;
 
 void findSpecies(Text& text, std::span<const Word> words, std::vector<Range>& roman) {
     for (std::size_t i = 1; i < words.size(); ++i) {

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "core/letter_case.h"
-#include "elements/title/piece_names.h"
+#include "elements/title/name_finding.h"
 #include "elements/title/shapes.h"
 
 namespace quorvel::titlecase {
@@ -11,6 +11,8 @@ namespace quorvel::titlecase {
 namespace {
 
 using namespace titlewords;
+using words::Known;
+using words::Lexicon;
 using namespace titleshapes;
 
 /// Sets the letters of a piece as a sentence has them.

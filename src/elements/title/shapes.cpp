@@ -7,6 +7,8 @@
 namespace quorvel::titleshapes {
 
 using namespace titlewords;
+using words::Known;
+using words::Lexicon;
 
 namespace {
 

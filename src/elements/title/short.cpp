@@ -5,7 +5,7 @@
 
 #include "core/letter_case.h"
 
-namespace quorvel::titlecase {
+namespace quorvel {
 
 namespace {
 
@@ -126,4 +126,4 @@ Text shortTitle(TextView title) {
     return Text(text.substr(0, text.find_last_not_of(u",;") + 1));
 }
 
-}  // namespace quorvel::titlecase
+}  // namespace quorvel

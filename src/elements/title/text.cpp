@@ -187,7 +187,7 @@ TextView wordBefore(TextView text, std::size_t end) {
 
 TitleText readTitle(TextView title) {
     TitleText result{title, toLower(title), {}};
-    std::replace(result.lowered.begin(), result.lowered.end(), titlewords::kApostrophe, u'\'');
+    std::replace(result.lowered.begin(), result.lowered.end(), words::kApostrophe, u'\'');
     Reader(result).run();
     return result;
 }
@@ -221,7 +221,7 @@ bool isStopOfWord(TextView text, std::size_t stop) {
         return (isCapital(word[0]) || isSmallLetter(word[0])) && !contains(kNumerals, word);
     }
     const bool isInitials = word.size() >= 3 && word[word.size() - 2] == u'.';
-    return isInitials || titlewords::Lexicon::instance().find(word, toLower(word)).is(titlewords::kAbbreviation);
+    return isInitials || words::Lexicon::instance().find(word, toLower(word)).is(titlewords::kAbbreviation);
 }
 
 void capitalizeAt(Text& text, std::size_t index) {
@@ -249,7 +249,7 @@ bool isPossessive(TextView word) {
 
 TextView withoutPossessive(TextView word) {
     const std::size_t size = word.size();
-    const auto isMark = [](char16_t unit) { return unit == u'\'' || unit == titlewords::kApostrophe; };
+    const auto isMark = [](char16_t unit) { return unit == u'\'' || unit == words::kApostrophe; };
     if (size > 2 && (word[size - 1] == u's' || word[size - 1] == u'S') && isMark(word[size - 2])) {
         return word.substr(0, size - 2);
     }

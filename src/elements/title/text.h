@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/text.h"
-#include "elements/title/lexicon.h"
+#include "elements/words/lexicon.h"
 
 /// A title as words. It is read once; everything else is decided from what is noted here.
 namespace quorvel::titlecase {
@@ -23,7 +23,7 @@ inline TextView slice(TextView text, Range range) {
 
 /// A word of a title.
 struct Word {
-    Word(Range core, titlewords::Known known, std::size_t piece)
+    Word(Range core, words::Known known, std::size_t piece)
         : core(core), name(core), known(known), knownName(known), piece(piece) {}
 
     /// Its letters and digits, without the punctuation around it.
@@ -31,8 +31,8 @@ struct Word {
     /// The same without "'s".
     Range name;
     /// What the lexicon knows of both.
-    titlewords::Known known;
-    titlewords::Known knownName;
+    words::Known known;
+    words::Known knownName;
     /// The number of its piece.
     std::size_t piece;
     bool isFirst = false;
@@ -73,9 +73,7 @@ struct TitleText {
 
     TextView lower(Range range) const { return slice(lowered, range); }
     /// What the lexicon knows of a part of a word.
-    titlewords::Known find(Range part) const {
-        return titlewords::Lexicon::instance().find(slice(text, part), lower(part));
-    }
+    words::Known find(Range part) const { return words::Lexicon::instance().find(slice(text, part), lower(part)); }
     /// The words of the piece that begins with this word.
     std::span<Word> pieceFrom(std::size_t word);
 };

@@ -110,7 +110,7 @@ void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
                               (text.back() == kRightDoubleQuotationMark || text.back() == u'"') &&
                               text.find_first_of(u"\u201D\"", 1) == text.size() - 1;
         if (isQuoted) {
-            text = titlecase::withDoubleQuotationMarks(TextView(text).substr(1, text.size() - 2));
+            text = titlequotes::withDoubleQuotationMarks(TextView(text).substr(1, text.size() - 2));
             removeSuffix(text, u",");
             if (endsWith(text, u".") && !titlecase::isStopOfWord(text, text.size() - 1)) {
                 text.pop_back();

@@ -249,7 +249,7 @@ TEST(Title, ShortTitlesEndWhereAPhraseEnds) {
         {u"", u""},
     };
     for (const Case& c : kCases) {
-        EXPECT_EQ(titlecase::shortTitle(c.title), c.expected) << shown(c.title);
+        EXPECT_EQ(shortTitle(c.title), c.expected) << shown(c.title);
     }
 }
 
