@@ -11,4 +11,5 @@ add_compile_definitions(_WIN32_WINNT=0x0601 UNICODE _UNICODE WIN32_LEAN_AND_MEAN
 # Nothing but system DLLs is needed where the library is installed.
 set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_SHARED_LINKER_FLAGS_INIT -static)
-set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../tools/in-wine)
+get_filename_component(tools ${CMAKE_CURRENT_LIST_DIR}/../tools ABSOLUTE)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${MINGW_RUNS_IN} ${tools}/in-wine)

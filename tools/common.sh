@@ -7,9 +7,15 @@ export PATH=${PATH:-/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin
 export HOME=${HOME:-$root/build}
 export LC_ALL=C.UTF-8
 
-# The Wine prefix of this checkout: registering the library there touches nothing else.
-export WINEPREFIX=${QUORVEL_WINEPREFIX:-$root/build/wine}
-export WINEARCH=win64
+# The Wine prefix of this checkout: registering the library there touches nothing else. In the 32-bit root
+# (tools/i386-root) there is another one.
+if [ "${QUORVEL_ARCHITECTURE-}" = x86 ]; then
+    export WINEPREFIX=${QUORVEL_WINEPREFIX:-$root/build/wine}-x86
+    export WINEARCH=win32
+else
+    export WINEPREFIX=${QUORVEL_WINEPREFIX:-$root/build/wine}
+    export WINEARCH=win64
+fi
 export WINEDEBUG=${WINEDEBUG:--all}
 # No offer to download Mono or Gecko, no entries in the desktop's menus; and no debugger when a program
 # crashes: its status is 0 after that at times.
@@ -23,8 +29,16 @@ build() {
     (cd "$root" && cmake --preset "$preset" && cmake --build --preset "$preset" "$@")
 }
 
-# register_library: registers the 64-bit library in the Wine prefix.
+# with_architecture x64|x86 COMMAND...: where programs of the architecture run: here, or in the 32-bit root.
+with_architecture() {
+    case $1 in
+        x64) "${@:2}" ;;
+        x86) "$root/tools/i386-root" run "${@:2}" ;;
+    esac
+}
+
+# register_library x64|x86: registers the library in the Wine prefix of its architecture.
 register_library() {
-    local dll=$root/build/windows-x64/bin/QuorvelTemplate.dll
-    "$root/tools/in-wine" regsvr32 /s "Z:${dll//\//\\}"
+    local dll=$root/build/windows-$1/bin/QuorvelTemplate.dll
+    with_architecture "$1" "$root/tools/in-wine" regsvr32 /s "Z:${dll//\//\\}"
 }

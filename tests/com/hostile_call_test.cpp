@@ -124,9 +124,10 @@ TEST_F(HostileCall, TheVtableTakesNullPointersAndZeros) {
         ASSERT_EQ(dispatch->GetRefTypeInfo(reference, vtable.put()), S_OK);
         FUNCDESC* function = nullptr;
         for (UINT i = 0; SUCCEEDED(vtable->GetFuncDesc(i, &function)); ++i) {
-            // Every parameter but a variant is a number or a pointer: all of them travel alike.
+            // Every parameter but a variant is a number of at most a pointer's width, or a pointer: all of them
+            // travel alike.
             const auto count = static_cast<std::size_t>(function->cParams);
-            std::vector<VARTYPE> types(count, VT_I8);
+            std::vector<VARTYPE> types(count, kPointerSized);
             VARIANT zero = {};
             for (std::size_t p = 0; p < count; ++p) {
                 if (function->lprgelemdescParam[p].tdesc.vt == VT_VARIANT) types[p] = VT_VARIANT;

@@ -22,6 +22,9 @@ constexpr std::int32_t kYear = 6;
 constexpr std::int32_t kPlace = 15;
 constexpr std::int32_t kDateTime = 17;
 
+/// The type of a window handle or a message's parameter: as wide as a pointer.
+constexpr VARTYPE kPointerSized = sizeof(void*) == sizeof(std::int64_t) ? VT_I8 : VT_I4;
+
 struct CreatableClass {
     const wchar_t* name;
     CLSID clsid;

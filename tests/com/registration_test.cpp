@@ -36,6 +36,9 @@ std::wstring value(HKEY root, const std::wstring& key, const wchar_t* name = nul
                                                                                                         : L"missing";
 }
 
+/// The type library is registered for programs of this width.
+constexpr const wchar_t* kSystem = sizeof(void*) == sizeof(std::int64_t) ? L"win64" : L"win32";
+
 DWORD run(std::wstring command) {
     STARTUPINFOW startup = {};
     startup.cb = sizeof(startup);
@@ -91,7 +94,8 @@ void expectRegistered(HKEY root) {
         const std::wstring folder = L"TypeLib\\" + value(root, key + L"\\TypeLib");
         // Wine registers no type libraries for one user.
         if (root == HKEY_LOCAL_MACHINE) {
-            EXPECT_EQ(value(root, folder + L"\\" + value(root, key + L"\\Version") + L"\\0\\win64"), Library::path());
+            EXPECT_EQ(value(root, folder + L"\\" + value(root, key + L"\\Version") + L"\\0\\" + kSystem),
+                      Library::path());
         }
     }
 }

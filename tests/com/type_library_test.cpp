@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
@@ -34,10 +35,24 @@ Documentation documentation(ITypeInfo* info, MEMBERID id = MEMBERID_NIL) {
     return {name.get(), help.get()};
 }
 
-std::wstring typeName(const TYPEDESC& type) {
+/// A window handle, or the parameter of a message: an integer as wide as a pointer, which is a VT_I4 in 32 bits
+/// and a VT_I8 in 64.
+bool isNameOfPointerSized(std::wstring name) {
+    CharLowerBuffW(name.data(), static_cast<DWORD>(name.size()));
+    const std::wstring_view endings[] = {L"hwnd", L"handle", L"wparam", L"lparam"};
+    return std::any_of(std::begin(endings), std::end(endings),
+                       [&](std::wstring_view ending) { return name.ends_with(ending); });
+}
+
+std::wstring typeName(const TYPEDESC& type, const std::wstring& name) {
+    if (isNameOfPointerSized(name)) {
+        const TYPEDESC& integer = type.vt == VT_PTR ? *type.lptdesc : type;
+        EXPECT_EQ(integer.vt, kPointerSized) << testing::PrintToString(name);
+        if (integer.vt == kPointerSized) return type.vt == VT_PTR ? L"pointer-sized&" : L"pointer-sized";
+    }
     switch (type.vt) {
         // A pointer to an interface is the object itself.
-        case VT_PTR: return type.lptdesc->vt == VT_USERDEFINED ? L"object" : typeName(*type.lptdesc) + L"&";
+        case VT_PTR: return type.lptdesc->vt == VT_USERDEFINED ? L"object" : typeName(*type.lptdesc, {}) + L"&";
         case VT_I2: return L"integer";
         case VT_I4: return L"long";
         case VT_BSTR: return L"text";
@@ -59,16 +74,17 @@ std::wstring described(ITypeInfo* info, const FUNCDESC& function) {
     for (SHORT i = 0; i < function.cParams; ++i) {
         const ELEMDESC& element = function.lprgelemdescParam[i];
         const PARAMDESC& description = element.paramdesc;
-        std::wstring type = typeName(element.tdesc);
-        if ((description.wParamFlags & PARAMFLAG_FRETVAL) != 0) {
+        const bool isResult = (description.wParamFlags & PARAMFLAG_FRETVAL) != 0;
+        // The names are those of the property that is read: its new value has none, nor has a result.
+        const bool isNewValue = function.invkind == INVOKE_PROPERTYPUT && i + 1 == function.cParams;
+        const std::wstring name = names[isResult || isNewValue ? 0 : static_cast<std::size_t>(i) + 1];
+        std::wstring type = typeName(element.tdesc, name);
+        if (isResult) {
             type.pop_back();
             result = L" " + type;
             continue;
         }
-        // The names are those of the property that is read: its new value has none.
-        const bool isNewValue = function.invkind == INVOKE_PROPERTYPUT && i + 1 == function.cParams;
-        const auto index = static_cast<std::size_t>(i) + 1;
-        std::wstring parameter = isNewValue ? type : std::wstring(names[index]) + L" " + type;
+        std::wstring parameter = isNewValue ? type : name + L" " + type;
         if ((description.wParamFlags & PARAMFLAG_FHASDEFAULT) != 0) {
             parameter = L"[" + parameter + L" = " + shown(description.pparamdescex->varDefaultValue) + L"]";
         }

@@ -88,8 +88,10 @@ private:
     static constexpr std::size_t kUsualWords = 48;
     static constexpr std::size_t kUsualPieces = 24;
 
-    alignas(
-        std::max_align_t) std::array<std::byte, kUsualWords * sizeof(Word) + kUsualPieces * sizeof(Piece) + 64> mBuffer;
+    // Aligned as its contents are, and no more: std::max_align_t differs between translation units of 32-bit
+    // MinGW, and a 32-bit host promises a stack of four bytes' alignment only.
+    alignas(Word) alignas(
+        Piece) std::array<std::byte, kUsualWords * sizeof(Word) + kUsualPieces * sizeof(Piece) + 64> mBuffer;
     std::pmr::monotonic_buffer_resource mMemory{mBuffer.data(), mBuffer.size()};
     Text mText;
     Words mWords{&mMemory};
