@@ -99,8 +99,7 @@ Text convertToLongMonthNameIfNecessary(TextView word) {
 
 void FormatForMLA(Text& formatted, TextView formatString) {
     procedure(kModule, u"FormatForMLA", {{u"formatted", formatted}, {u"formatString", formatString}}, [&] {
-        const Text pattern = toLower(formatString);
-        if (contains(pattern, u"mmmm") || !contains(pattern, u"mmm")) {
+        if (containsIgnoringCase(formatString, u"mmmm") || !containsIgnoringCase(formatString, u"mmm")) {
             return;
         }
         for (const Month& month : kMonths) {

@@ -100,7 +100,7 @@ std::optional<Parts> partsOf(TextView text) {
 
 Text withShortMonths(const Text& pattern) {
     Text result = pattern;
-    const std::size_t at = toLower(pattern).find(kLongMonth);
+    const std::size_t at = findIgnoringCase(pattern, kLongMonth);
     return at == Text::npos ? result : result.replace(at, kLongMonth.size(), kShortMonth);
 }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/letter_case.h"
+#include "elements/words/lexicon.h"
 
 namespace quorvel {
 
@@ -13,68 +14,8 @@ constexpr TextView kLeadingArticles[] = {u"A ", u"An ", u"The "};
 
 constexpr std::size_t kMostWords = 4;
 
-// A shortened title does not end in one of these.
-constexpr TextView kSmallWords[] = {
-    // English
-    u"a",
-    u"about",
-    u"after",
-    u"against",
-    u"among",
-    u"an",
-    u"and",
-    u"as",
-    u"at",
-    u"before",
-    u"between",
-    u"but",
-    u"by",
-    u"during",
-    u"for",
-    u"from",
-    u"in",
-    u"into",
-    u"of",
-    u"on",
-    u"or",
-    u"over",
-    u"since",
-    u"the",
-    u"through",
-    u"to",
-    u"toward",
-    u"towards",
-    u"under",
-    u"versus",
-    u"with",
-    u"within",
-    u"without",
-    // French, Spanish, Italian, German
-    u"de",
-    u"du",
-    u"des",
-    u"la",
-    u"le",
-    u"les",
-    u"et",
-    u"del",
-    u"el",
-    u"los",
-    u"y",
-    u"di",
-    u"della",
-    u"e",
-    u"il",
-    u"der",
-    u"die",
-    u"das",
-    u"und",
-    u"von",
-    u"zur",
-};
-
 bool isSmall(TextView word) {
-    return isOneOf(toLower(word), kSmallWords);
+    return words::Lexicon::instance().find(word, toLower(word)).is(titlewords::kInsideShortTitle);
 }
 
 /// How many words the short title keeps.

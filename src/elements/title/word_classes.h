@@ -54,6 +54,8 @@ enum WordClass : std::uint64_t {
     kPrefix = 1ULL << 20U,
     /// Last parts of hyphenated words that are no names behind one: "type" in "Wigner-type".
     kCompoundTail = 1ULL << 21U,
+    /// Small words of English, French, Spanish, Italian and German, in which a shortened title does not end.
+    kInsideShortTitle = 1ULL << 22U,
 
     // Bits 32 and up: words that are known only as they are written.
 

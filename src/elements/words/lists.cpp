@@ -52,6 +52,9 @@ constexpr WordList kWordLists[] = {
     {titlewords::kCompoundTail, 0,
 #include "elements/words/compound_tails.inc"
     },
+    {titlewords::kInsideShortTitle, 0,
+#include "elements/words/words_inside_short_titles.inc"
+    },
     {titlewords::kLoanWord, 0,
 #include "elements/words/loan_words.inc"
     },
