@@ -52,7 +52,7 @@ const CreatableClass kCreatableClasses[] = {
 template <class Body>
 HRESULT guarded(Body&& body) noexcept {
     try {
-        return body();
+        return Module::prepareThread() ? body() : E_OUTOFMEMORY;
     } catch (...) {
         return E_OUTOFMEMORY;
     }
@@ -73,6 +73,7 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* object) {
     }
     *object = nullptr;
     return guarded([&]() -> HRESULT {
+        Module::keepLoaded();
         startUp();
         for (const CreatableClass& creatable : kCreatableClasses) {
             if (creatable.clsid == clsid) {
@@ -88,6 +89,8 @@ STDAPI DllCanUnloadNow() {
     if (Module::isInUse()) {
         return S_FALSE;
     }
+    // What a load would make anew is given up, although the DLL stays where it is.
+    shutDown();
     DispatchTable::releaseAll();
     return S_OK;
 }

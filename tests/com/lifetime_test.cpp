@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "library.h"
 
 namespace comtests {
@@ -96,6 +98,45 @@ TEST_F(Lifetime, ElementsOutliveTheirFactoryAndClonesTheirOriginal) {
         element.call(L"ToFormattedString", {sink.get()});
         EXPECT_EQ(sink->toString().substr(1), L"pring") << creatable.name;
     }
+}
+
+/// Thread-local indexes that other libraries of the process can still get.
+std::size_t freeThreadLocalIndexes() {
+    std::vector<DWORD> indexes;
+    for (DWORD index = TlsAlloc(); index != TLS_OUT_OF_INDEXES; index = TlsAlloc()) indexes.push_back(index);
+    for (const DWORD index : indexes) TlsFree(index);
+    return indexes.size();
+}
+
+/// Blocks in all heaps of the process.
+std::size_t blocksInUse() {
+    std::vector<HANDLE> heaps(GetProcessHeaps(0, nullptr));
+    heaps.resize(std::min<std::size_t>(heaps.size(), GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data())));
+    std::size_t blocks = 0;
+    for (const HANDLE heap : heaps) {
+        PROCESS_HEAP_ENTRY entry = {};
+        HeapLock(heap);
+        while (HeapWalk(heap, &entry)) blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? 1 : 0;
+        HeapUnlock(heap);
+    }
+    return blocks;
+}
+
+TEST(Loading, AgainAndAgainTakesNothing) {
+    std::size_t indexes = 0;
+    std::size_t blocks = 0;
+    for (int cycle = 0; cycle < 1500; ++cycle) {
+        {
+            const Library loaded;
+            EXPECT_EQ(textOf(loaded.build(kYear).call(L"formatStr", {L"1990"})), L"1990");
+        }
+        if (cycle == 10) {
+            indexes = freeThreadLocalIndexes();
+            blocks = blocksInUse();
+        }
+    }
+    EXPECT_EQ(freeThreadLocalIndexes(), indexes);
+    EXPECT_NEAR(static_cast<double>(blocksInUse()), static_cast<double>(blocks), 10);
 }
 
 }  // namespace

@@ -6,14 +6,6 @@
 
 namespace quorvel::host {
 
-ClassFactory::ClassFactory(Create create) : mCreate(create) {
-    Module::addReference();
-}
-
-ClassFactory::~ClassFactory() {
-    Module::releaseReference();
-}
-
 STDMETHODIMP ClassFactory::QueryInterface(REFIID iid, void** object) {
     if (object == nullptr) {
         return E_POINTER;
@@ -46,6 +38,9 @@ STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** ob
     *object = nullptr;
     if (outer != nullptr) {
         return CLASS_E_NOAGGREGATION;
+    }
+    if (!Module::prepareThread()) {
+        return E_OUTOFMEMORY;
     }
     try {
         return mCreate()->QueryInterface(iid, object);

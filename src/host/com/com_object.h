@@ -162,8 +162,8 @@ public:
     }
 
 protected:
-    ComObject() : mTable(DispatchTable::of(__uuidof(Interface))) { Module::objectBegins(); }
-    virtual ~ComObject() { Module::objectEnds(); }
+    ComObject() : mTable(DispatchTable::of(__uuidof(Interface))) {}
+    virtual ~ComObject() = default;
 
     /// An adapter whose element other elements hold hands it out here: `return ElementAccess::to(this,
     /// mElement)`.
@@ -206,6 +206,7 @@ protected:
     }
 
 private:
+    ObjectLife mLife;
     std::shared_ptr<const DispatchTable> mTable;
     std::atomic<ULONG> mReferences = 0;
 };

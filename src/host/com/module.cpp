@@ -1,9 +1,12 @@
 #include "host/com/module.h"
 
 #include <atomic>
+#include <cstdlib>
+#include <exception>
 #include <vector>
 
 #include "core/vbwprotector.h"
+#include "host/com/element_access.h"
 
 namespace quorvel::host {
 
@@ -11,7 +14,9 @@ namespace {
 
 HINSTANCE theHandle = nullptr;
 std::atomic<long> theReferences = 0;
-thread_local long theObjectsOfThisThread = 0;
+
+// More than the variables of one thread take.
+constexpr std::size_t kRoomForAThread = 4096;
 
 }  // namespace
 
@@ -33,6 +38,31 @@ Text Module::path() {
     return Text(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(length));
 }
 
+void Module::keepLoaded() {
+    HMODULE module = nullptr;
+    // Where this fails the DLL is loaded and freed as any other is.
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<LPCWSTR>(theHandle), &module);
+}
+
+bool Module::prepareThread() noexcept {
+    // Volatile, so that the compiler does not take success for granted.
+    void* volatile room = std::malloc(kRoomForAThread);
+    if (room == nullptr) {
+        return false;
+    }
+    std::free(room);
+    try {
+        // The compiler would leave out a call whose result nobody takes.
+        [[maybe_unused]] const volatile int none = std::uncaught_exceptions();
+        VBWPROTECTOR::ofThisApartment();
+        ElementAccess::prepareThread();
+    } catch (...) {
+        return false;
+    }
+    return true;
+}
+
 void Module::addReference() {
     ++theReferences;
 }
@@ -45,16 +75,8 @@ bool Module::isInUse() {
     return theReferences != 0;
 }
 
-void Module::objectBegins() {
-    addReference();
-    ++theObjectsOfThisThread;
-}
-
-void Module::objectEnds() {
-    if (--theObjectsOfThisThread == 0) {
-        VBWPROTECTOR::ofThisApartment().releaseService();
-    }
-    releaseReference();
+void ObjectLife::lastOfThreadEnds() noexcept {
+    VBWPROTECTOR::ofThisApartment().releaseService();
 }
 
 }  // namespace quorvel::host

@@ -2,6 +2,7 @@
 
 #include "host/com/automation.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -147,6 +148,21 @@ void removeTree(RegistrationScope scope, const std::wstring& key) {
     RegDeleteTreeW(rootOf(scope), (kClasses + key).c_str());
 }
 
+/// Whether a key is there for the 64-bit programs of the machine or for its 32-bit ones. Each have classes of
+/// their own, and share the names of the classes.
+bool isInEitherView(RegistrationScope scope, const std::wstring& key) {
+    constexpr REGSAM kViews[] = {KEY_WOW64_64KEY, KEY_WOW64_32KEY};
+    return std::any_of(std::begin(kViews), std::end(kViews), [&](REGSAM view) {
+        HKEY found = nullptr;
+        const LSTATUS status =
+            RegOpenKeyExW(rootOf(scope), (kClasses + key).c_str(), 0, KEY_QUERY_VALUE | view, &found);
+        if (status == ERROR_SUCCESS) {
+            RegCloseKey(found);
+        }
+        return status == ERROR_SUCCESS;
+    });
+}
+
 /// Removes a key unless somebody else has put something below it.
 void removeIfEmpty(RegistrationScope scope, const std::wstring& key) {
     RegDeleteKeyW(rootOf(scope), (kClasses + key).c_str());
@@ -183,8 +199,10 @@ HRESULT unregisterClasses(RegistrationScope scope) {
     }
     for (const CreatableClass& creatable : library.classes) {
         removeTree(scope, creatable.clsidKey());
-        removeTree(scope, creatable.progId());
-        removeTree(scope, creatable.versionedProgId());
+        if (!isInEitherView(scope, creatable.clsidKey())) {
+            removeTree(scope, creatable.progId());
+            removeTree(scope, creatable.versionedProgId());
+        }
     }
     unregisterTypeLibrary(scope, library.attributes);
     removeIfEmpty(scope, L"TypeLib\\" + wide(library.attributes.guid));
