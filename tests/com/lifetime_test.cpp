@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "import_patch.h"
 #include "library.h"
 
 namespace comtests {
@@ -82,6 +83,50 @@ TEST_F(Lifetime, ALockAloneKeepsTheLibraryLoaded) {
         factory->LockServer(lock);
         factory.reset();
         EXPECT_EQ(library.canUnloadNow(), lock != FALSE ? S_FALSE : S_OK);
+    }
+}
+
+enum class TypeLibrary { HasAShortPath, IsRegistered, IsNewerWhereRegistered, IsNowhere };
+TypeLibrary theTypeLibrary;
+
+HRESULT WINAPI loadByPath(LPCOLESTR path, REGKIND kind, ITypeLib** library) {
+    const bool isShort = std::wstring(path).find(L'~') != std::wstring::npos;
+    return isShort && theTypeLibrary == TypeLibrary::HasAShortPath ? LoadTypeLibEx(path, kind, library)
+                                                                   : TYPE_E_CANTLOADLIBRARY;
+}
+
+HRESULT WINAPI loadRegistered(REFGUID, WORD, WORD, LCID, ITypeLib** library) {
+    switch (theTypeLibrary) {
+        case TypeLibrary::IsRegistered: return LoadTypeLibEx(Library::path().c_str(), REGKIND_NONE, library);
+        case TypeLibrary::IsNewerWhereRegistered: return LoadTypeLibEx(L"stdole2.tlb", REGKIND_NONE, library);
+        default: return TYPE_E_LIBNOTREGISTERED;
+    }
+}
+
+TEST_F(Lifetime, AnObjectHasItsTypeInformationOrIsNotMade) {
+    const ImportPatch patches[] = {{library.module(), "LoadTypeLibEx", loadByPath},
+                                   {library.module(), "LoadRegTypeLib", loadRegistered}};
+    struct Case {
+        TypeLibrary where;
+        HRESULT outcome;
+    };
+    const Case cases[] = {{TypeLibrary::HasAShortPath, S_OK},
+                          {TypeLibrary::IsRegistered, S_OK},
+                          {TypeLibrary::IsNewerWhereRegistered, TYPE_E_CANTLOADLIBRARY},
+                          {TypeLibrary::IsNowhere, TYPE_E_CANTLOADLIBRARY}};
+    for (const Case& c : cases) {
+        theTypeLibrary = c.where;
+        ComPointer<IClassFactory> factory;
+        ASSERT_EQ(library.getClassObject(__uuidof(::OutputTemplateYear), IID_IClassFactory, factory.putVoid()), S_OK);
+        ComPointer<IDispatch> object;
+        EXPECT_EQ(factory->CreateInstance(nullptr, IID_IDispatch, object.putVoid()), c.outcome) << &c - cases;
+        if (object) {
+            EXPECT_EQ(textOf(LateBoundObject(object).call(L"formatStr", {L"1990"})), L"1990");
+        }
+        factory.reset();
+        object.reset();
+        // The type information that was read is given up with the last object.
+        EXPECT_EQ(library.canUnloadNow(), S_OK);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/com/automation.h"
 
+#include "core/run_time_error.h"
 #include "host/com/module.h"
 
 namespace quorvel::host {
@@ -44,6 +45,8 @@ STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** ob
     }
     try {
         return mCreate()->QueryInterface(iid, object);
+    } catch (const RuntimeError&) {
+        return TYPE_E_CANTLOADLIBRARY;  // The one thing without which an object cannot be made.
     } catch (...) {
         return E_OUTOFMEMORY;
     }

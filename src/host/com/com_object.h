@@ -124,7 +124,7 @@ public:
         if (count == nullptr) {
             return E_POINTER;
         }
-        *count = mTable ? 1 : 0;
+        *count = 1;
         return S_OK;
     }
     STDMETHODIMP GetTypeInfo(UINT index, LCID /*locale*/, ITypeInfo** info) override {
@@ -132,7 +132,7 @@ public:
             return E_POINTER;
         }
         *info = nullptr;
-        if (index != 0 || !mTable) {
+        if (index != 0) {
             return DISP_E_BADINDEX;
         }
         *info = mTable->typeInfo();
@@ -143,14 +143,14 @@ public:
         if (names == nullptr || ids == nullptr) {
             return E_POINTER;
         }
-        return mTable ? mTable->typeInfo()->GetIDsOfNames(names, count, ids) : DISP_E_UNKNOWNNAME;
+        return mTable->typeInfo()->GetIDsOfNames(names, count, ids);
     }
     STDMETHODIMP Invoke(DISPID id, REFIID /*iid*/, LCID /*locale*/, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                         EXCEPINFO* /*exception*/, UINT* /*badArgument*/) override {
         if (result != nullptr) {
             VariantInit(result);
         }
-        if (!mTable || parameters == nullptr) {
+        if (parameters == nullptr) {
             return DISP_E_MEMBERNOTFOUND;
         }
         const HostCall bracket(this);

@@ -3,7 +3,6 @@
 #include <atomic>
 #include <cstdlib>
 #include <exception>
-#include <vector>
 
 #include "core/vbwprotector.h"
 #include "host/com/element_access.h"
@@ -16,7 +15,7 @@ HINSTANCE theHandle = nullptr;
 std::atomic<long> theReferences = 0;
 
 // More than the variables of one thread take.
-constexpr std::size_t kRoomForAThread = 4096;
+constexpr std::size_t kRoomForAThread = 8192;
 
 }  // namespace
 
@@ -28,14 +27,15 @@ HINSTANCE Module::handle() {
     return theHandle;
 }
 
-Text Module::path() {
-    std::vector<wchar_t> buffer(MAX_PATH);
+std::wstring Module::path() {
+    std::wstring buffer(MAX_PATH, L'\0');
     DWORD length = GetModuleFileNameW(theHandle, buffer.data(), static_cast<DWORD>(buffer.size()));
     while (length == buffer.size()) {
         buffer.resize(buffer.size() * 2);
         length = GetModuleFileNameW(theHandle, buffer.data(), static_cast<DWORD>(buffer.size()));
     }
-    return Text(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(length));
+    buffer.resize(length);
+    return buffer;
 }
 
 void Module::keepLoaded() {

@@ -4,8 +4,7 @@
 
 #include <atomic>
 #include <memory>
-
-#include "core/text.h"
+#include <string>
 
 namespace quorvel::host {
 
@@ -16,7 +15,7 @@ public:
     static void setHandle(HINSTANCE handle);
     static HINSTANCE handle();
     /// The full path of the DLL.
-    static Text path();
+    static std::wstring path();
 
     /// Keeps the DLL loaded until the process ends, whoever frees it: the run time library takes a
     /// thread-local index of the process that it never gives back, once a load, and another thread may still

@@ -8,6 +8,7 @@
 
 #include "host/com/com_ptr.h"
 #include "host/com/module.h"
+#include "host/com/type_library.h"
 #include "host/com/variant.h"
 
 // In the platform's import library, but in no header of MinGW.
@@ -38,11 +39,6 @@ std::wstring wide(REFGUID guid) {
     return buffer;
 }
 
-std::wstring modulePath() {
-    const Text path = Module::path();
-    return {path.begin(), path.end()};
-}
-
 /// A creatable class as the type library describes it.
 struct CreatableClass {
     std::wstring name;
@@ -71,7 +67,7 @@ CreatableClass describe(ITypeInfo* info, REFCLSID clsid) {
 }
 
 HRESULT read(Library& library) {
-    HRESULT outcome = LoadTypeLibEx(modulePath().c_str(), REGKIND_NONE, library.info.receive());
+    HRESULT outcome = loadEmbeddedTypeLibrary(library.info);
     TLIBATTR* libraryAttributes = nullptr;
     if (FAILED(outcome) || FAILED(outcome = library.info->GetLibAttr(&libraryAttributes))) {
         return outcome;
@@ -176,7 +172,7 @@ HRESULT registerClasses(RegistrationScope scope) {
     if (FAILED(outcome)) {
         return outcome;
     }
-    const std::wstring path = modulePath();
+    const std::wstring path = Module::path();
     Writer writer(scope);
     for (const CreatableClass& creatable : library.classes) {
         write(writer, creatable, library, path);
