@@ -171,6 +171,7 @@ TEST(Loading, AgainAndAgainTakesNothing) {
     std::size_t indexes = 0;
     std::size_t blocks = 0;
     for (int cycle = 0; cycle < 1500; ++cycle) {
+        { const Library unused; }
         {
             const Library loaded;
             EXPECT_EQ(textOf(loaded.build(kYear).call(L"formatStr", {L"1990"})), L"1990");

@@ -13,6 +13,7 @@ namespace {
 
 HINSTANCE theHandle = nullptr;
 std::atomic<long> theReferences = 0;
+std::atomic<bool> isKept = false;
 
 // More than the variables of one thread take.
 constexpr std::size_t kRoomForAThread = 8192;
@@ -39,10 +40,15 @@ std::wstring Module::path() {
 }
 
 void Module::keepLoaded() {
+    isKept = true;
     HMODULE module = nullptr;
     // Where this fails the DLL is loaded and freed as any other is.
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
                        reinterpret_cast<LPCWSTR>(theHandle), &module);
+}
+
+bool Module::isKeptLoaded() {
+    return isKept;
 }
 
 bool Module::prepareThread() noexcept {

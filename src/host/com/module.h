@@ -21,6 +21,8 @@ public:
     /// thread-local index of the process that it never gives back, once a load, and another thread may still
     /// be on its way out of the last object.
     static void keepLoaded();
+    /// Whether it is kept so.
+    static bool isKeptLoaded();
     /// Makes the variables of the calling thread, before anything on it needs them. The run time library ends
     /// the process where there is no memory for them; this function returns false.
     static bool prepareThread() noexcept;
