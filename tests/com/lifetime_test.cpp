@@ -1,5 +1,4 @@
-#include <algorithm>
-
+#include "heaps.h"
 #include "import_patch.h"
 #include "library.h"
 
@@ -151,20 +150,6 @@ std::size_t freeThreadLocalIndexes() {
     for (DWORD index = TlsAlloc(); index != TLS_OUT_OF_INDEXES; index = TlsAlloc()) indexes.push_back(index);
     for (const DWORD index : indexes) TlsFree(index);
     return indexes.size();
-}
-
-/// Blocks in all heaps of the process.
-std::size_t blocksInUse() {
-    std::vector<HANDLE> heaps(GetProcessHeaps(0, nullptr));
-    heaps.resize(std::min<std::size_t>(heaps.size(), GetProcessHeaps(static_cast<DWORD>(heaps.size()), heaps.data())));
-    std::size_t blocks = 0;
-    for (const HANDLE heap : heaps) {
-        PROCESS_HEAP_ENTRY entry = {};
-        HeapLock(heap);
-        while (HeapWalk(heap, &entry)) blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? 1 : 0;
-        HeapUnlock(heap);
-    }
-    return blocks;
 }
 
 TEST(Loading, AgainAndAgainTakesNothing) {
