@@ -10,14 +10,12 @@
 #include <deque>
 #include <map>
 #include <random>
+#include <utility>
 
 #include "bridge_to_vb.h"
 #include "formatted_text.h"
 #include "heaps.h"
 #include "late_bound.h"
-
-// In the platform's import library, but in no header of MinGW.
-extern "C" void WINAPI SetOaNoCache();
 
 namespace comtests {
 namespace {
@@ -57,6 +55,7 @@ std::deque<ComPointer<IDispatch>> theObjects;
 long theLiveHosts = 0;
 
 Variant randomValue(int depth);
+Variant randomArray(int depth);
 void callRandomly(IDispatch* object);
 
 /// An object of the host that has every member, each of which does and answers anything.
@@ -104,7 +103,12 @@ private:
     ~AnyObject() { --theLiveHosts; }
 
     static void writeInto(VARIANT& argument) {
-        if (argument.vt != (VT_BYREF | VT_VARIANT) || argument.pvarVal == nullptr) return;
+        if ((argument.vt & (VT_BYREF | VT_ARRAY)) == (VT_BYREF | VT_ARRAY)) {
+            VARIANT other = randomArray(0).release();
+            std::swap(*argument.pparray, other.parray);
+            VariantClear(&other);
+        }
+        if (argument.vt != (VT_BYREF | VT_VARIANT)) return;
         VARIANT old = *argument.pvarVal;
         *argument.pvarVal = randomValue(0).release();
         VariantClear(&old);
@@ -269,6 +273,17 @@ void callRandomly(IDispatch* object) {
 
 // --- Rounds.
 
+template <class Function>
+Function entryPoint(HMODULE module, const char* name) {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
+/// The platform keeps freed texts for later, which would look like a leak.
+void keepNoTexts() {
+    const auto noCache = entryPoint<void(WINAPI*)()>(GetModuleHandleW(L"oleaut32.dll"), "SetOaNoCache");
+    if (noCache != nullptr) noCache();
+}
+
 class LoadedLibrary {
 public:
     LoadedLibrary() {
@@ -317,23 +332,19 @@ public:
     }
 
 private:
-    template <class Function>
-    static Function entryPoint(HMODULE module, const char* name) {
-        return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
-    }
-
     LPFNGETCLASSOBJECT mGetClassObject = nullptr;
     LPFNCANUNLOADNOW mCanUnloadNow = nullptr;
     std::vector<CLSID> mClasses;
 };
 
-/// Lets everything go. Objects that hold each other as sinks are given another one first, as any host has to.
+/// Lets everything go. Objects that hold each other as sinks are given another one first, as any host has to;
+/// meanwhile the host's own objects find none to call.
 void releaseAll() {
+    const auto objects = std::exchange(theObjects, {});
     const auto sink = makeObject<FormattedText>();
-    for (const ComPointer<IDispatch>& object : theObjects) {
+    for (const ComPointer<IDispatch>& object : objects) {
         LateBoundObject(object).tryCall(L"Initialize", DISPATCH_METHOD, {sink.get()});
     }
-    theObjects.clear();
 }
 
 void play(const LoadedLibrary& library, unsigned seed, long hosts) {
@@ -370,7 +381,7 @@ void playUntilConstant(const LoadedLibrary& library, unsigned seed, long hosts) 
 int run(int count, char** values) {
     const std::chrono::seconds seconds(count > 1 ? std::atoi(values[1]) : 60);
     unsigned seed = count > 2 ? static_cast<unsigned>(std::atoi(values[2])) : 1;
-    SetOaNoCache();
+    keepNoTexts();
     const LoadedLibrary library;
     const auto service = ComPointer<AnyObject>::owning(new AnyObject());
     const RunningBridgeToVB host(service.get());
