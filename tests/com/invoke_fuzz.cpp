@@ -12,10 +12,10 @@
 #include <random>
 #include <utility>
 
-#include "bridge_to_vb.h"
-#include "formatted_text.h"
+#include "com/bridge_to_vb.h"
+#include "com/late_bound.h"
 #include "heaps.h"
-#include "late_bound.h"
+#include "text/formatted_text.h"
 
 namespace comtests {
 namespace {
@@ -27,10 +27,12 @@ constexpr int kCallsOfARound = 400;
 constexpr std::size_t kMostObjects = 64;
 constexpr DISPID kFirstIdOfTheBase = 0x60000000;
 constexpr int kElementCodes = 20;
+constexpr long kMostCallsBack = 50;
 
 std::mt19937 theRandom;
 long theFailures = 0;
 long theCalls = 0;
+long theCallsBack = 0;
 
 std::size_t below(std::size_t limit) {
     return theRandom() % limit;
@@ -87,8 +89,10 @@ public:
     HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO*,
                                      UINT*) override {
         static int depth = 0;
-        if (depth < 3 && once(8) && !theObjects.empty()) {
+        // What calls back from many of its members would otherwise make as many calls as a tree has leaves.
+        if (depth < 3 && theCallsBack < kMostCallsBack && once(8) && !theObjects.empty()) {
             ++depth;
+            ++theCallsBack;
             const ComPointer<IDispatch> object = theObjects[below(theObjects.size())];
             callRandomly(object.get());
             --depth;
@@ -353,6 +357,7 @@ void play(const LoadedLibrary& library, unsigned seed, long hosts) {
         library.createAll();
         for (int call = 0; call < kCallsOfARound; ++call) {
             const ComPointer<IDispatch> object = theObjects[below(theObjects.size())];
+            theCallsBack = 0;
             callRandomly(object.get());
         }
         releaseAll();
