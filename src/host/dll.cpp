@@ -73,6 +73,10 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* object) {
     }
     *object = nullptr;
     return guarded([&]() -> HRESULT {
+        Module::keepLoaded();
+        if (!Module::prepareThread()) {
+            return E_OUTOFMEMORY;
+        }
         startUp();
         for (const CreatableClass& creatable : kCreatableClasses) {
             if (creatable.clsid == clsid) {
@@ -88,7 +92,12 @@ STDAPI DllCanUnloadNow() {
     if (Module::isInUse()) {
         return S_FALSE;
     }
-    DispatchTable::releaseAll();
+    // What a load would make anew is given up, although the DLL stays where it is. Before its first use nothing
+    // was made, and nothing may be, since the DLL goes.
+    if (Module::isKeptLoaded()) {
+        shutDown();
+        DispatchTable::releaseAll();
+    }
     return S_OK;
 }
 

@@ -9,7 +9,12 @@ namespace quorvel::host {
 namespace {
 
 constexpr wchar_t kHostClass[] = L"QuorvelDot.BridgeToVB";
-constexpr std::int64_t kBetweenTestsOfTheName = 1'000'000;
+
+// Looking in vain takes some 10 us where the host's class is not registered, and half a millisecond where it is
+// and no such object runs: too much for each call of a member that takes one. Each is repeated so seldom that
+// it is a hundredth of the time, in nanoseconds.
+constexpr std::int64_t kAfterAnUnknownName = 1'000'000;
+constexpr std::int64_t kWhileNotRunning = 50'000'000;
 
 std::int64_t now() {
     const auto time = std::chrono::steady_clock::now().time_since_epoch();
@@ -99,19 +104,18 @@ void HostErrorReportService::vbwExitThread(bool isLast) {
 }
 
 std::shared_ptr<ErrorReportService> RunningHostFinder::find() {
-    if (mNextTestOfTheName != 0 && now() < mNextTestOfTheName) {
+    if (mNextLook != 0 && now() < mNextLook) {
         return nullptr;
     }
     CLSID hostClass = {};
     if (FAILED(CLSIDFromProgID(kHostClass, &hostClass))) {
-        mNextTestOfTheName = now() + kBetweenTestsOfTheName;
-        return nullptr;
+        return lookAfter(kAfterAnUnknownName);
     }
-    mNextTestOfTheName = 0;
     ComPtr<IUnknown> running;
     if (FAILED(GetActiveObject(hostClass, nullptr, running.receive()))) {
-        return nullptr;
+        return lookAfter(kWhileNotRunning);
     }
+    mNextLook = 0;
     const ComPtr<IDispatch> bridge = queryFor<IDispatch>(running.get(), IID_IDispatch);
     const Variant errorParams = LateBoundObject(bridge.get()).get(L"ErrorParams");
     Variant object;
@@ -119,6 +123,11 @@ std::shared_ptr<ErrorReportService> RunningHostFinder::find() {
         return nullptr;
     }
     return std::make_shared<HostErrorReportService>(object.pdispVal);
+}
+
+std::shared_ptr<ErrorReportService> RunningHostFinder::lookAfter(std::int64_t pause) {
+    mNextLook = now() + pause;
+    return nullptr;
 }
 
 }  // namespace quorvel::host

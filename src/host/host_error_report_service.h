@@ -33,11 +33,14 @@ private:
 class RunningHostFinder final : public ErrorReportServiceFinder {
 public:
     std::shared_ptr<ErrorReportService> find() override;
+    /// The next time it looks, whatever it found before.
+    void forget() { mNextLook = 0; }
 
 private:
-    // Testing whether the host's class exists costs some 10 us, too much for every call of a member that
-    // takes one; so an unknown name is tested once a millisecond at most, in nanoseconds of the clock.
-    std::atomic<std::int64_t> mNextTestOfTheName = 0;
+    std::shared_ptr<ErrorReportService> lookAfter(std::int64_t pause);
+
+    // When it looks again, in nanoseconds of the clock.
+    std::atomic<std::int64_t> mNextLook = 0;
 };
 
 }  // namespace quorvel::host

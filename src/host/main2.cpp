@@ -55,18 +55,10 @@ ComPtr<IDispatch> cannotCreate() {
     throw RuntimeError(ErrorNumber::CannotCreateObject);
 }
 
-thread_local long theFactoriesOfThisThread = 0;
-
 }  // namespace
 
-Main2::Main2() {
-    ++theFactoriesOfThisThread;
-}
-
-Main2::~Main2() {
-    if (--theFactoriesOfThisThread == 0) {
-        VBWPROTECTOR::ofThisApartment().vbwExitThread();
-    }
+void Main2::lastOfThreadEnds() noexcept {
+    VBWPROTECTOR::ofThisApartment().vbwExitThread();
 }
 
 STDMETHODIMP Main2::buildSubformProxy(IDispatch** result) {

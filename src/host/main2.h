@@ -9,8 +9,6 @@ namespace quorvel::host {
 /// The factory, the one class that the host creates by name: everything else it reaches from here.
 class Main2 final : public ComObject<_Main2>, public Instrumented {
 public:
-    Main2();
-
     STDMETHODIMP buildSubformProxy(IDispatch** result) override;
     STDMETHODIMP buildModelTemplate(IDispatch** result) override;
     STDMETHODIMP buildCitationTemplate(IDispatch** result) override;
@@ -20,8 +18,12 @@ public:
     /// The class has no variables.
     void dumpVariables(VBWPROTECTOR& /*report*/) const override {}
 
+    static void lastOfThreadEnds() noexcept;
+
 private:
-    ~Main2() override;
+    ~Main2() override = default;
+
+    CountedPerThread<Main2> mCounted;
 };
 
 }  // namespace quorvel::host

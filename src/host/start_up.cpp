@@ -29,19 +29,40 @@ bool isTraceArgumentGiven() {
     return std::wstring_view(GetCommandLineW()).find(kTraceArgument) != std::wstring_view::npos;
 }
 
+struct StartUp {
+    // Letting go of a service runs the host's code, which may come here again.
+    std::recursive_mutex mutex;
+    bool isDone = false;
+    RunningHostFinder finder;
+};
+
+StartUp& startUpState() {
+    static StartUp state;
+    return state;
+}
+
 }  // namespace
 
 void startUp() {
-    static std::once_flag once;
-    static RunningHostFinder finder;
-    std::call_once(once, [] {
-        const bool isTraceOn = isTraceSettingOn() || isTraceArgumentGiven();
-        TraceSwitches switches;
-        switches.vbwTraceParameters = isTraceOn;
-        switches.vbwTraceVariables = isTraceOn;
-        switches.vbwTraceProc = true;
-        VBWPROTECTOR::startUp(switches, &finder);
-    });
+    StartUp& state = startUpState();
+    const std::scoped_lock lock(state.mutex);
+    if (state.isDone) {
+        return;
+    }
+    state.isDone = true;
+    const bool isTraceOn = isTraceSettingOn() || isTraceArgumentGiven();
+    TraceSwitches switches;
+    switches.vbwTraceParameters = isTraceOn;
+    switches.vbwTraceVariables = isTraceOn;
+    switches.vbwTraceProc = true;
+    VBWPROTECTOR::startUp(switches, &state.finder);
+}
+
+void shutDown() {
+    StartUp& state = startUpState();
+    const std::scoped_lock lock(state.mutex);
+    state.isDone = false;
+    state.finder.forget();
 }
 
 }  // namespace quorvel::host

@@ -7,4 +7,8 @@ namespace quorvel::host {
 /// process.
 void startUp();
 
+/// The library is not in use: what comes after this is another load, for which `startUp` does its work
+/// again.
+void shutDown();
+
 }  // namespace quorvel::host

@@ -41,8 +41,8 @@ Library::Library() : mModule(LoadLibraryW(path().c_str())) {
 Library::~Library() {
     EXPECT_EQ(canUnloadNow(), S_OK) << "something of the library is still alive";
     if (canUnloadNow() != S_OK) return;
+    // The first object pinned it: it stays, with nothing in it that a new load would not have.
     FreeLibrary(mModule);
-    EXPECT_EQ(GetModuleHandleW(kDll), nullptr);
     EXPECT_EQ(DispatchObject::liveObjects(), mLiveObjects) << "an object of the host was not released";
 }
 

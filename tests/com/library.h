@@ -59,6 +59,7 @@ public:
 
     HRESULT getClassObject(REFCLSID clsid, REFIID iid, void** object) const;
     HRESULT canUnloadNow() const;
+    HMODULE module() const { return mModule; }
     LateBoundObject create(REFCLSID clsid) const;
     /// An object as a host gets it: an element is built, with a sink, which its class' object alone is not.
     LateBoundObject create(const CreatableClass& creatable) const;

@@ -1,3 +1,5 @@
+#include "heaps.h"
+#include "import_patch.h"
 #include "library.h"
 
 namespace comtests {
@@ -83,6 +85,50 @@ TEST_F(Lifetime, ALockAloneKeepsTheLibraryLoaded) {
     }
 }
 
+enum class TypeLibrary { HasAShortPath, IsRegistered, IsNewerWhereRegistered, IsNowhere };
+TypeLibrary theTypeLibrary;
+
+HRESULT WINAPI loadByPath(LPCOLESTR path, REGKIND kind, ITypeLib** library) {
+    const bool isShort = std::wstring(path).find(L'~') != std::wstring::npos;
+    return isShort && theTypeLibrary == TypeLibrary::HasAShortPath ? LoadTypeLibEx(path, kind, library)
+                                                                   : TYPE_E_CANTLOADLIBRARY;
+}
+
+HRESULT WINAPI loadRegistered(REFGUID, WORD, WORD, LCID, ITypeLib** library) {
+    switch (theTypeLibrary) {
+        case TypeLibrary::IsRegistered: return LoadTypeLibEx(Library::path().c_str(), REGKIND_NONE, library);
+        case TypeLibrary::IsNewerWhereRegistered: return LoadTypeLibEx(L"stdole2.tlb", REGKIND_NONE, library);
+        default: return TYPE_E_LIBNOTREGISTERED;
+    }
+}
+
+TEST_F(Lifetime, AnObjectHasItsTypeInformationOrIsNotMade) {
+    const ImportPatch patches[] = {{library.module(), "LoadTypeLibEx", loadByPath},
+                                   {library.module(), "LoadRegTypeLib", loadRegistered}};
+    struct Case {
+        TypeLibrary where;
+        HRESULT outcome;
+    };
+    const Case cases[] = {{TypeLibrary::HasAShortPath, S_OK},
+                          {TypeLibrary::IsRegistered, S_OK},
+                          {TypeLibrary::IsNewerWhereRegistered, TYPE_E_CANTLOADLIBRARY},
+                          {TypeLibrary::IsNowhere, TYPE_E_CANTLOADLIBRARY}};
+    for (const Case& c : cases) {
+        theTypeLibrary = c.where;
+        ComPointer<IClassFactory> factory;
+        ASSERT_EQ(library.getClassObject(__uuidof(::OutputTemplateYear), IID_IClassFactory, factory.putVoid()), S_OK);
+        ComPointer<IDispatch> object;
+        EXPECT_EQ(factory->CreateInstance(nullptr, IID_IDispatch, object.putVoid()), c.outcome) << &c - cases;
+        if (object) {
+            EXPECT_EQ(textOf(LateBoundObject(object).call(L"formatStr", {L"1990"})), L"1990");
+        }
+        factory.reset();
+        object.reset();
+        // The type information that was read is given up with the last object.
+        EXPECT_EQ(library.canUnloadNow(), S_OK);
+    }
+}
+
 TEST_F(Lifetime, ElementsOutliveTheirFactoryAndClonesTheirOriginal) {
     for (const CreatableClass& creatable : kClasses) {
         if (creatable.codes.empty()) continue;
@@ -96,6 +142,32 @@ TEST_F(Lifetime, ElementsOutliveTheirFactoryAndClonesTheirOriginal) {
         element.call(L"ToFormattedString", {sink.get()});
         EXPECT_EQ(sink->toString().substr(1), L"pring") << creatable.name;
     }
+}
+
+/// Thread-local indexes that other libraries of the process can still get.
+std::size_t freeThreadLocalIndexes() {
+    std::vector<DWORD> indexes;
+    for (DWORD index = TlsAlloc(); index != TLS_OUT_OF_INDEXES; index = TlsAlloc()) indexes.push_back(index);
+    for (const DWORD index : indexes) TlsFree(index);
+    return indexes.size();
+}
+
+TEST(Loading, AgainAndAgainTakesNothing) {
+    std::size_t indexes = 0;
+    std::size_t blocks = 0;
+    for (int cycle = 0; cycle < 1500; ++cycle) {
+        { const Library unused; }
+        {
+            const Library loaded;
+            EXPECT_EQ(textOf(loaded.build(kYear).call(L"formatStr", {L"1990"})), L"1990");
+        }
+        if (cycle == 10) {
+            indexes = freeThreadLocalIndexes();
+            blocks = blocksInUse();
+        }
+    }
+    EXPECT_EQ(freeThreadLocalIndexes(), indexes);
+    EXPECT_NEAR(static_cast<double>(blocksInUse()), static_cast<double>(blocks), 10);
 }
 
 }  // namespace

@@ -128,6 +128,30 @@ TEST_F(Registration, IsCompleteMayBeRepeatedAndLeavesNothing) {
     EXPECT_EQ(value(HKEY_LOCAL_MACHINE, L"QuorvelTemplate.Main2"), L"missing");
 }
 
+TEST_F(Registration, NamesStayWhileTheLibraryOfTheOtherWidthIsRegistered) {
+    constexpr REGSAM kOtherWidth = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
+    BOOL isOn64Bits = sizeof(void*) == 8;
+    if (isOn64Bits == FALSE) IsWow64Process(GetCurrentProcess(), &isOn64Bits);
+    if (isOn64Bits == FALSE) GTEST_SKIP() << "there is one width here";
+    wchar_t clsid[40];
+    StringFromGUID2(kClasses[0].clsid, clsid, 40);
+    const std::wstring otherKey = std::wstring(L"Software\\Classes\\CLSID\\") + clsid;
+    HKEY other = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, otherKey.c_str(), 0, nullptr, 0, KEY_WRITE | kOtherWidth, nullptr,
+                              &other, nullptr),
+              ERROR_SUCCESS);
+    RegCloseKey(other);
+    EXPECT_EQ(regsvr32(L""), 0u);
+    EXPECT_EQ(regsvr32(L"/u"), 0u);
+    for (const wchar_t* version : {L"", L".1"}) {
+        EXPECT_EQ(value(HKEY_LOCAL_MACHINE, progId(kClasses[0]) + version + L"\\CLSID"), clsid);
+        EXPECT_EQ(value(HKEY_LOCAL_MACHINE, progId(kClasses[1]) + version + L"\\CLSID"), L"missing");
+    }
+    EXPECT_EQ(RegDeleteKeyExW(HKEY_LOCAL_MACHINE, otherKey.c_str(), kOtherWidth, 0), ERROR_SUCCESS);
+    EXPECT_EQ(regsvr32(L"/u"), 0u);
+    EXPECT_EQ(value(HKEY_LOCAL_MACHINE, progId(kClasses[0]) + L"\\CLSID"), L"missing");
+}
+
 TEST_F(Registration, MakesEveryClassByItsName) {
     EXPECT_THROW(LateBoundObject::create(L"QuorvelTemplate.Main2"), ComError);
     ASSERT_EQ(regsvr32(L""), 0u);

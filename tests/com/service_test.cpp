@@ -1,3 +1,6 @@
+#include <utility>
+
+#include "import_patch.h"
 #include "recording_service.h"
 
 namespace comtests {
@@ -234,6 +237,47 @@ TEST_F(Service, EachThreadLooksForItsOwn) {
     EXPECT_EQ(service.taken(), kYearUsed) << "its last factory is not the last one here";
     main.call(L"build", {18, Variant()});
     EXPECT_EQ(service.takenErrors(), L"91 Main2.build");
+}
+
+DWORD WINAPI buildThere(void* place) {
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    auto& [loaded, element] = *static_cast<std::pair<const Library*, LateBoundObject>*>(place);
+    element = loaded->create(__uuidof(::OutputTemplateYear));
+    CoUninitialize();
+    return 0;
+}
+
+TEST_F(Service, IsLetGoWhereAnotherThreadsObjectEndedBefore) {
+    const auto references = [&] {
+        service.object()->AddRef();
+        return service.object()->Release();
+    };
+    const ULONG before = references();
+    std::pair<const Library*, LateBoundObject> place(&library, {});
+    const HANDLE thread = CreateThread(nullptr, 0, buildThere, &place, 0, nullptr);
+    WaitForSingleObject(thread, INFINITE);
+    CloseHandle(thread);
+    // What no host should do: the object is released where it does not live.
+    place.second = LateBoundObject();
+    library.create(__uuidof(::OutputTemplateYear)).call(L"toString");
+    EXPECT_EQ(service.taken(), L"> OutputTemplateYear.toString \n<\n");
+    EXPECT_EQ(references(), before);
+}
+
+int theLooks = 0;
+
+HRESULT WINAPI nothingRuns(REFCLSID, void*, IUnknown**) {
+    ++theLooks;
+    return MK_E_UNAVAILABLE;
+}
+
+TEST_F(Service, ThatDoesNotRunIsLookedForNowAndThen) {
+    const ImportPatch patch(library.module(), "GetActiveObject", nothingRuns);
+    const LateBoundObject year = library.build(kYear);
+    constexpr int kCalls = 1000;
+    for (int call = 0; call < kCalls; ++call) year.call(L"toString");
+    EXPECT_GT(theLooks, 0);
+    EXPECT_LT(theLooks, kCalls / 2);
 }
 
 TEST(Trace, IsSetOnceALoadByTheSettingOrTheCommandLine) {

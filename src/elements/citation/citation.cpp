@@ -158,6 +158,9 @@ void OutputTemplateCitation::Initialize(const OutputSinkRef& formattedStr, bool 
                   held(mElectronicOutputTemplate)->Initialize(object(formattedStr).BuildNewFormattedString());
                   mModelTemplate = std::make_shared<OutputTemplateModel>();
                   held(mModelTemplate)->Initialize(formattedStr, keyToInternalIndex);
+                  // Its layout is gone, and with it who filled it.
+                  mIsLikeModelTemplate = false;
+                  mCallback = nullptr;
                   mFormattedStr = object(formattedStr).Clone();
                   mIndexes = CitationFieldIndexes(object(held(keyToInternalIndex)));
               });

@@ -1,7 +1,9 @@
 #include "host/com/arrays.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <utility>
 
 #include "core/run_time_error.h"
 #include "host/com/automation_error.h"
@@ -39,60 +41,75 @@ bool isMissing(const VARIANT& value) {
     return (value.vt & ~VT_BYREF) == VT_DISPATCH && objectOf(value) == nullptr;
 }
 
-/// An element of a safe array in a variant and back.
-class ElementType {
+/// The elements of a safe array, each in a variant and back. They are locked, so that a host that is called on
+/// the way cannot take them away; and they are found by their place, since the platform's own functions refuse
+/// some indexes next to the largest number. A null array has none.
+class LockedElements {
 public:
-    explicit ElementType(SAFEARRAY* array) : mArray(array) {
-        check(SafeArrayGetVartype(array, &mType));
-        // Records and decimals do not fit where the simple values of a variant stand.
-        if (mType != VT_VARIANT && SafeArrayGetElemsize(array) > sizeof(VARIANT::llVal)) {
-            throw RuntimeError(ErrorNumber::TypeMismatch);
-        }
-    }
-
-    Variant get(LONG index) const {
-        Variant value;
-        if (mType == VT_VARIANT) {
-            check(SafeArrayGetElement(mArray, &index, &value));
-        } else {
-            check(SafeArrayGetElement(mArray, &index, &value.llVal));
-            value.vt = mType;
-        }
-        return value;
-    }
-    void put(LONG index, const Variant& value) const {
-        if (mType == VT_VARIANT) {
-            check(SafeArrayPutElement(mArray, &index, const_cast<Variant*>(&value)));
+    explicit LockedElements(SAFEARRAY* array) : mArray(array) {
+        if (array == nullptr) {
             return;
         }
-        Variant converted;
-        check(convert(value, mType, converted));
-        // Strings and objects are passed themselves, everything else by its place.
-        const bool isPointer = mType == VT_BSTR || mType == VT_DISPATCH || mType == VT_UNKNOWN;
-        check(SafeArrayPutElement(mArray, &index, isPointer ? converted.byref : &converted.llVal));
-    }
-
-private:
-    SAFEARRAY* mArray;
-    VARTYPE mType = VT_EMPTY;
-};
-
-struct Bounds {
-    LONG lower = 0;
-    LONG upper = -1;
-};
-
-Bounds boundsOf(SAFEARRAY* array) {
-    Bounds bounds;
-    if (array != nullptr) {
         if (SafeArrayGetDim(array) != 1) {
             throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
         }
-        check(SafeArrayGetLBound(array, 1, &bounds.lower));
-        check(SafeArrayGetUBound(array, 1, &bounds.upper));
+        check(SafeArrayGetVartype(array, &mType));
+        // Records and decimals do not fit where the simple values of a variant stand.
+        const bool isSimple = mType != VT_RECORD && array->cbElements <= sizeof(VARIANT::llVal);
+        if (count() > 0 && mType != VT_VARIANT && !isSimple) {
+            throw RuntimeError(ErrorNumber::TypeMismatch);
+        }
+        check(SafeArrayLock(array));
     }
-    return bounds;
-}
+    LockedElements(const LockedElements&) = delete;
+    LockedElements& operator=(const LockedElements&) = delete;
+    ~LockedElements() {
+        if (mArray != nullptr) {
+            SafeArrayUnlock(mArray);
+        }
+    }
+
+    std::size_t count() const { return mArray != nullptr ? mArray->rgsabound[0].cElements : 0; }
+
+    Variant get(std::size_t i) const {
+        Variant value;
+        if (mType == VT_VARIANT) {
+            check(VariantCopy(&value, variant(i)));
+        } else {
+            VARIANT element = {};
+            element.vt = static_cast<VARTYPE>(VT_BYREF | mType);
+            element.byref = place(i);
+            check(VariantCopyInd(&value, &element));
+        }
+        return value;
+    }
+
+    void put(std::size_t i, const Variant& value) const {
+        // What was there ends with the variant that it changes places with.
+        Variant content;
+        if (mType == VT_VARIANT) {
+            check(VariantCopy(&content, const_cast<Variant*>(&value)));
+            std::swap(static_cast<VARIANT&>(content), *variant(i));
+            return;
+        }
+        check(convert(value, mType, content));
+        auto* const bytes = reinterpret_cast<std::byte*>(&content.llVal);
+        std::swap_ranges(bytes, bytes + mArray->cbElements, place(i));
+    }
+
+private:
+    /// Error 9 beyond the end.
+    std::byte* place(std::size_t i) const {
+        if (i >= count()) {
+            throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+        }
+        return static_cast<std::byte*>(mArray->pvData) + i * mArray->cbElements;
+    }
+    VARIANT* variant(std::size_t i) const { return reinterpret_cast<VARIANT*>(place(i)); }
+
+    SAFEARRAY* mArray;
+    VARTYPE mType = VT_EMPTY;
+};
 
 template <class Element, class Detach>
 Variant arrayOf(VARTYPE type, std::vector<Variant>& values, Detach detach) {
@@ -172,12 +189,9 @@ std::vector<Variant> elementsOf(const VARIANT& array) {
     if (values == nullptr && (direct.vt & VT_ARRAY) == 0) {
         throw RuntimeError(ErrorNumber::TypeMismatch);
     }
-    const Bounds bounds = boundsOf(values);
-    if (bounds.lower <= bounds.upper) {
-        const ElementType type(values);
-        for (LONG i = bounds.lower; i <= bounds.upper; ++i) {
-            elements.push_back(type.get(i));
-        }
+    const LockedElements locked(values);
+    for (std::size_t i = 0; i < locked.count(); ++i) {
+        elements.push_back(locked.get(i));
     }
     return elements;
 }
@@ -200,10 +214,9 @@ void assignElements(VARIANT& array, const std::vector<Variant>& values) {
     if (target == nullptr) {
         throw RuntimeError((direct.vt & VT_ARRAY) != 0 ? ErrorNumber::SubscriptOutOfRange : ErrorNumber::TypeMismatch);
     }
-    const LONG lower = boundsOf(target).lower;
-    const ElementType type(target);
+    const LockedElements locked(target);
     for (std::size_t i = 0; i < values.size(); ++i) {
-        type.put(lower + static_cast<LONG>(i), values[i]);
+        locked.put(i, values[i]);
     }
 }
 

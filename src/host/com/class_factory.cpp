@@ -2,17 +2,10 @@
 
 #include "host/com/automation.h"
 
+#include "core/run_time_error.h"
 #include "host/com/module.h"
 
 namespace quorvel::host {
-
-ClassFactory::ClassFactory(Create create) : mCreate(create) {
-    Module::addReference();
-}
-
-ClassFactory::~ClassFactory() {
-    Module::releaseReference();
-}
 
 STDMETHODIMP ClassFactory::QueryInterface(REFIID iid, void** object) {
     if (object == nullptr) {
@@ -47,8 +40,13 @@ STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** ob
     if (outer != nullptr) {
         return CLASS_E_NOAGGREGATION;
     }
+    if (!Module::prepareThread()) {
+        return E_OUTOFMEMORY;
+    }
     try {
         return mCreate()->QueryInterface(iid, object);
+    } catch (const RuntimeError&) {
+        return TYPE_E_CANTLOADLIBRARY;  // The one thing without which an object cannot be made.
     } catch (...) {
         return E_OUTOFMEMORY;
     }

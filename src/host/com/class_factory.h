@@ -5,6 +5,7 @@
 #include <atomic>
 
 #include "host/com/com_ptr.h"
+#include "host/com/module.h"
 
 namespace quorvel::host {
 
@@ -13,7 +14,7 @@ class ClassFactory final : public IClassFactory {
 public:
     using Create = ComPtr<IDispatch> (*)();
 
-    explicit ClassFactory(Create create);
+    explicit ClassFactory(Create create) : mCreate(create) {}
     ClassFactory(const ClassFactory&) = delete;
     ClassFactory& operator=(const ClassFactory&) = delete;
 
@@ -24,8 +25,9 @@ public:
     STDMETHODIMP LockServer(BOOL lock) override;
 
 private:
-    ~ClassFactory();
+    ~ClassFactory() = default;
 
+    ModuleReference mReference;
     Create mCreate;
     std::atomic<ULONG> mReferences = 0;
 };

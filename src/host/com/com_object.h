@@ -134,7 +134,7 @@ public:
         if (count == nullptr) {
             return E_POINTER;
         }
-        *count = mTable ? 1 : 0;
+        *count = 1;
         return S_OK;
     }
     STDMETHODIMP GetTypeInfo(UINT index, LCID /*locale*/, ITypeInfo** info) override {
@@ -142,7 +142,7 @@ public:
             return E_POINTER;
         }
         *info = nullptr;
-        if (index != 0 || !mTable) {
+        if (index != 0) {
             return DISP_E_BADINDEX;
         }
         *info = mTable->typeInfo();
@@ -153,14 +153,14 @@ public:
         if (names == nullptr || ids == nullptr) {
             return E_POINTER;
         }
-        return mTable ? mTable->typeInfo()->GetIDsOfNames(names, count, ids) : DISP_E_UNKNOWNNAME;
+        return mTable->typeInfo()->GetIDsOfNames(names, count, ids);
     }
     STDMETHODIMP Invoke(DISPID id, REFIID /*iid*/, LCID /*locale*/, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                         EXCEPINFO* /*exception*/, UINT* /*badArgument*/) override {
         if (result != nullptr) {
             VariantInit(result);
         }
-        if (!mTable || parameters == nullptr) {
+        if (parameters == nullptr) {
             return DISP_E_MEMBERNOTFOUND;
         }
         const HostCall bracket(this);
@@ -172,8 +172,8 @@ public:
     }
 
 protected:
-    ComObject() : mTable(DispatchTable::of(__uuidof(Interface))) { Module::objectBegins(); }
-    virtual ~ComObject() { Module::objectEnds(); }
+    ComObject() : mTable(DispatchTable::of(__uuidof(Interface))) {}
+    virtual ~ComObject() = default;
 
     /// An adapter whose element other elements hold hands it out here: `return ElementAccess::to(this,
     /// mElement)`.
@@ -219,6 +219,7 @@ protected:
     }
 
 private:
+    ObjectLife mLife;
     std::shared_ptr<const DispatchTable> mTable;
     std::atomic<ULONG> mReferences = 0;
 };

@@ -7,7 +7,7 @@
 #include "core/procedure.h"
 #include "host/com/arguments.h"
 #include "host/com/automation_error.h"
-#include "host/com/module.h"
+#include "host/com/type_library.h"
 
 namespace quorvel::host {
 
@@ -73,9 +73,7 @@ Text procedureName(ITypeInfo* info, const FUNCDESC& function) {
 ComPtr<ITypeInfo> typeInfoOf(REFIID iid) {
     ComPtr<ITypeLib> library;
     ComPtr<ITypeInfo> info;
-    const Text path = Module::path();
-    const std::wstring widePath(path.begin(), path.end());
-    if (SUCCEEDED(LoadTypeLibEx(widePath.c_str(), REGKIND_NONE, library.receive()))) {
+    if (SUCCEEDED(loadTypeLibrary(library))) {
         library->GetTypeInfoOfGuid(iid, info.receive());
     }
     return info;
@@ -304,6 +302,9 @@ std::shared_ptr<const DispatchTable> DispatchTable::of(REFIID iid) {
     std::shared_ptr<const DispatchTable>& table = all.byInterface[iid];
     if (!table) {
         table = read(iid);
+    }
+    if (!table) {
+        throw RuntimeError(ErrorNumber::CannotCreateObject);
     }
     return table;
 }

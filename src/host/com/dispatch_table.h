@@ -15,8 +15,8 @@ namespace quorvel::host {
 /// their parameters and their places in the vtable.
 class DispatchTable {
 public:
-    /// The table of an interface, made at its first use and kept until `releaseAll`. Empty when the type
-    /// library cannot be read.
+    /// The table of an interface, made at its first use and kept until `releaseAll`. Error 429 when the type
+    /// library cannot be loaded: an object without it would do nothing.
     static std::shared_ptr<const DispatchTable> of(REFIID iid);
     /// Lets go of all tables that no object uses.
     static void releaseAll();

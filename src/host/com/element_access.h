@@ -40,6 +40,9 @@ public:
         return access->mType == typeid(Element) ? std::static_pointer_cast<Element>(access->mElement) : nullptr;
     }
 
+    /// Makes the variable of the calling thread.
+    static void prepareThread() { handedOut() = nullptr; }
+
     STDMETHODIMP QueryInterface(REFIID iid, void** object) override { return mOwner->QueryInterface(iid, object); }
     STDMETHODIMP_(ULONG) AddRef() override { return ++mReferences; }
     STDMETHODIMP_(ULONG) Release() override {

@@ -1,9 +1,11 @@
 #include "host/com/module.h"
 
 #include <atomic>
-#include <vector>
+#include <cstdlib>
+#include <exception>
 
 #include "core/vbwprotector.h"
+#include "host/com/element_access.h"
 
 namespace quorvel::host {
 
@@ -11,7 +13,10 @@ namespace {
 
 HINSTANCE theHandle = nullptr;
 std::atomic<long> theReferences = 0;
-thread_local long theObjectsOfThisThread = 0;
+std::atomic<bool> isKept = false;
+
+// More than the variables of one thread take.
+constexpr std::size_t kRoomForAThread = 8192;
 
 }  // namespace
 
@@ -23,14 +28,45 @@ HINSTANCE Module::handle() {
     return theHandle;
 }
 
-Text Module::path() {
-    std::vector<wchar_t> buffer(MAX_PATH);
+std::wstring Module::path() {
+    std::wstring buffer(MAX_PATH, L'\0');
     DWORD length = GetModuleFileNameW(theHandle, buffer.data(), static_cast<DWORD>(buffer.size()));
     while (length == buffer.size()) {
         buffer.resize(buffer.size() * 2);
         length = GetModuleFileNameW(theHandle, buffer.data(), static_cast<DWORD>(buffer.size()));
     }
-    return Text(buffer.begin(), buffer.begin() + static_cast<std::ptrdiff_t>(length));
+    buffer.resize(length);
+    return buffer;
+}
+
+void Module::keepLoaded() {
+    isKept = true;
+    HMODULE module = nullptr;
+    // Where this fails the DLL is loaded and freed as any other is.
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<LPCWSTR>(theHandle), &module);
+}
+
+bool Module::isKeptLoaded() {
+    return isKept;
+}
+
+bool Module::prepareThread() noexcept {
+    // Volatile, so that the compiler does not take success for granted.
+    void* volatile room = std::malloc(kRoomForAThread);
+    if (room == nullptr) {
+        return false;
+    }
+    std::free(room);
+    try {
+        // The compiler would leave out a call whose result nobody takes.
+        [[maybe_unused]] const volatile int none = std::uncaught_exceptions();
+        VBWPROTECTOR::ofThisApartment();
+        ElementAccess::prepareThread();
+    } catch (...) {
+        return false;
+    }
+    return true;
 }
 
 void Module::addReference() {
@@ -45,16 +81,8 @@ bool Module::isInUse() {
     return theReferences != 0;
 }
 
-void Module::objectBegins() {
-    addReference();
-    ++theObjectsOfThisThread;
-}
-
-void Module::objectEnds() {
-    if (--theObjectsOfThisThread == 0) {
-        VBWPROTECTOR::ofThisApartment().releaseService();
-    }
-    releaseReference();
+void ObjectLife::lastOfThreadEnds() noexcept {
+    VBWPROTECTOR::ofThisApartment().releaseService();
 }
 
 }  // namespace quorvel::host

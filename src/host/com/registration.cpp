@@ -2,11 +2,13 @@
 
 #include "host/com/automation.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "host/com/com_ptr.h"
 #include "host/com/module.h"
+#include "host/com/type_library.h"
 #include "host/com/variant.h"
 
 // In the platform's import library, but in no header of MinGW.
@@ -37,11 +39,6 @@ std::wstring wide(REFGUID guid) {
     return buffer;
 }
 
-std::wstring modulePath() {
-    const Text path = Module::path();
-    return {path.begin(), path.end()};
-}
-
 /// A creatable class as the type library describes it.
 struct CreatableClass {
     std::wstring name;
@@ -70,7 +67,7 @@ CreatableClass describe(ITypeInfo* info, REFCLSID clsid) {
 }
 
 HRESULT read(Library& library) {
-    HRESULT outcome = LoadTypeLibEx(modulePath().c_str(), REGKIND_NONE, library.info.receive());
+    HRESULT outcome = loadEmbeddedTypeLibrary(library.info);
     TLIBATTR* libraryAttributes = nullptr;
     if (FAILED(outcome) || FAILED(outcome = library.info->GetLibAttr(&libraryAttributes))) {
         return outcome;
@@ -147,6 +144,21 @@ void removeTree(RegistrationScope scope, const std::wstring& key) {
     RegDeleteTreeW(rootOf(scope), (kClasses + key).c_str());
 }
 
+/// Whether a key is there for the 64-bit programs of the machine or for its 32-bit ones. Each have classes of
+/// their own, and share the names of the classes.
+bool isInEitherView(RegistrationScope scope, const std::wstring& key) {
+    constexpr REGSAM kViews[] = {KEY_WOW64_64KEY, KEY_WOW64_32KEY};
+    return std::any_of(std::begin(kViews), std::end(kViews), [&](REGSAM view) {
+        HKEY found = nullptr;
+        const LSTATUS status =
+            RegOpenKeyExW(rootOf(scope), (kClasses + key).c_str(), 0, KEY_QUERY_VALUE | view, &found);
+        if (status == ERROR_SUCCESS) {
+            RegCloseKey(found);
+        }
+        return status == ERROR_SUCCESS;
+    });
+}
+
 /// Removes a key unless somebody else has put something below it.
 void removeIfEmpty(RegistrationScope scope, const std::wstring& key) {
     RegDeleteKeyW(rootOf(scope), (kClasses + key).c_str());
@@ -160,7 +172,7 @@ HRESULT registerClasses(RegistrationScope scope) {
     if (FAILED(outcome)) {
         return outcome;
     }
-    const std::wstring path = modulePath();
+    const std::wstring path = Module::path();
     Writer writer(scope);
     for (const CreatableClass& creatable : library.classes) {
         write(writer, creatable, library, path);
@@ -183,8 +195,10 @@ HRESULT unregisterClasses(RegistrationScope scope) {
     }
     for (const CreatableClass& creatable : library.classes) {
         removeTree(scope, creatable.clsidKey());
-        removeTree(scope, creatable.progId());
-        removeTree(scope, creatable.versionedProgId());
+        if (!isInEitherView(scope, creatable.clsidKey())) {
+            removeTree(scope, creatable.progId());
+            removeTree(scope, creatable.versionedProgId());
+        }
     }
     unregisterTypeLibrary(scope, library.attributes);
     removeIfEmpty(scope, L"TypeLib\\" + wide(library.attributes.guid));

@@ -14,7 +14,8 @@ enum class RegistrationScope {
 /// What a failing registration has written is taken back.
 HRESULT registerClasses(RegistrationScope scope);
 
-/// Takes everything back that `registerClasses` wrote; what is not there is no failure.
+/// Takes everything back that `registerClasses` wrote; what is not there is no failure. The names of the
+/// classes stay as long as the library of the other width is registered.
 HRESULT unregisterClasses(RegistrationScope scope);
 
 }  // namespace quorvel::host

@@ -426,6 +426,11 @@ TEST_F(Citation, ALayoutOfTheHostsTakesThePlaceOfTheOwn) {
     citation.Reset(mla().options);
     EXPECT_EQ(output(), u"(Kuhn 52)");
     EXPECT_EQ(service().errors(), std::vector<Text>());
+    // A citation that begins anew holds nothing of what it was.
+    const auto filler = std::make_shared<Filler>();
+    citation.ResetLikeModelTemplate(0, filler);
+    citation.Initialize(std::make_shared<RecordingSink>(), true, keys, nullptr, nullptr, nullptr);
+    EXPECT_EQ(filler.use_count(), 1);
 }
 
 TEST_F(Citation, SurvivesWhatIsMissingFailsOrActs) {
