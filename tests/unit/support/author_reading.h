@@ -33,7 +33,7 @@ inline Text personsOf(const OutputTemplateAuthor& author) {
 inline Text read(OutputTemplateAuthor& author, TextView text, TextView previousStr = {}) {
     Text remainder(text);
     author.Parse(remainder, previousStr);
-    return personsOf(author) + (author.HasEtAl ? u" et al." : u"");
+    return personsOf(author) + (author.HasEtAl() ? u" et al." : u"");
 }
 
 }  // namespace quorvel::test
