@@ -32,26 +32,25 @@ const AuthorStyleRef& OutputTemplateAuthor::plainStyle() {
 
 void OutputTemplateAuthor::Initialize(const OutputSinkRef& formattedStr) {
     procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
-        mOutputTemplate = std::make_shared<outputTemplate>();
+        makeAssembly(formattedStr);
         layOut();
         mYearTemplate = std::make_shared<OutputTemplateYear>();
         held(mYearTemplate)->Initialize(nullptr);
         ClearAuthors();
         mFormattedStr = object(formattedStr).Clone();
-        held(mOutputTemplate)->Initialize(formattedStr);
     });
 }
 
 void OutputTemplateAuthor::Reset(const Options& options) {
-    resetProcedure<kAuthorOptions>(*this, options, [&] {
+    procedure(*this, u"Reset", reported(kAuthorOptions, options), [&] {
         // Hosts call it for each reference: what stays the same is not made anew.
         const AuthorStyleRef before = mStyle;
-        if (options == before->options && mOutputTemplate) {
+        if (options == before->options && assembly()) {
             return;
         }
         const AuthorStyleRef style = std::make_shared<AuthorStyle>(*this, options);
         mStyle = style;
-        if (!mOutputTemplate || !style->hasSeparatorsOf(*before)) {
+        if (!assembly() || !style->hasSeparatorsOf(*before)) {
             layOut();
         }
     });
@@ -63,15 +62,10 @@ void OutputTemplateAuthor::layOut() {
     const authorlayout::Texts separators = {style->andSeparator,          style->commaForm,
                                             style->twoPersonForm,         style->etAlSeparator,
                                             style->etAlCitationSeparator, style->options.editorSeparator};
-    held(mOutputTemplate)->Reset(authorlayout::kEditor);
+    held(assembly())->Reset(authorlayout::kEditor);
     for (std::int16_t slot = 0; slot <= authorlayout::kEditor; ++slot) {
-        Add(slot, authorlayout::separatorsAfter(slot, separators));
+        Add(slot, false, false, authorlayout::separatorsAfter(slot, separators));
     }
-}
-
-void OutputTemplateAuthor::Add(std::int16_t Index, const std::vector<Text>& separators) {
-    procedure(*this, u"Add", {{u"Index", Index}, {u"separators", separators}},
-              [&] { held(mOutputTemplate)->Add(Index, false, false, separators); });
 }
 
 std::shared_ptr<OutputTemplateAuthor> OutputTemplateAuthor::Clone() const {
@@ -137,14 +131,13 @@ std::shared_ptr<AuthorPersons> OutputTemplateAuthor::personsIn(TextView text) co
     return persons;
 }
 
-void OutputTemplateAuthor::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote,
-                                             bool shortenedVersion) {
-    writer().ToFormattedString(formattedStr, isFootnote, shortenedVersion);
+void OutputTemplateAuthor::write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
+    writer().write(formattedStr, isFootnote, shortenedVersion);
 }
 
-bool OutputTemplateAuthor::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
-                                                 std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
-    return writer().ToFormattedStringImpl(isFootnote, items, formattedItems, shortenedVersion);
+bool OutputTemplateAuthor::fillSlots(bool isFootnote, std::vector<Text>& items,
+                                     std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
+    return writer().fillSlots(isFootnote, items, formattedItems, shortenedVersion);
 }
 
 Text OutputTemplateAuthor::toString(bool isFootnote, bool shortenedVersion, bool isMinimal, bool isCitation,
@@ -170,8 +163,8 @@ Text OutputTemplateAuthor::toString(const std::shared_ptr<const AuthorPersons>& 
                       {u"forceNoInitials", form.forceNoInitials},
                       {u"isRTF", isRTF}},
                      [&] {
-                         AuthorWriter writer(*this, mStyle, persons, mOutputTemplate, mFormattedStr, form);
-                         return held(mOutputTemplate)->toString(writer, shortenedVersion, isFootnote, isRTF);
+                         AuthorWriter writer(*this, mStyle, persons, assembly(), mFormattedStr, form);
+                         return writer.assembledText(isFootnote, shortenedVersion, isRTF);
                      });
 }
 

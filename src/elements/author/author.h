@@ -4,10 +4,8 @@
 #include <memory>
 #include <vector>
 
-#include "core/implementor.h"
-#include "core/instrumented.h"
+#include "core/assembled_element.h"
 #include "core/output_sink.h"
-#include "core/output_template.h"
 #include "core/text.h"
 #include "elements/author/persons.h"
 #include "elements/author/reader.h"
@@ -29,7 +27,7 @@ namespace quorvel {
 ///
 /// It consists of the style in force (style.h), the persons (persons.h), the reading of a text (reader.h) and
 /// the writing (writer.h).
-class OutputTemplateAuthor final : public Instrumented, public Implementor {
+class OutputTemplateAuthor final : public AssembledElement {
 public:
     using enum AuthorPersons::Kind;
     using enum AuthorPersons::Role;
@@ -52,13 +50,6 @@ public:
     /// @param previousStr the authors of the reference before, for a dash that stands for them
     /// @param residueAlreadyRemoved nothing in the text belongs to other elements
     void Parse(Text& text, TextView previousStr, bool residueAlreadyRemoved = false);
-
-    /// Writes the list to the sink.
-    /// @param isFootnote the note's form
-    /// @param shortenedVersion last names only, without the tag
-    void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
-    bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
-                               bool shortenedVersion) override;
 
     /// The list as text, or as RTF.
     /// @param isMinimal, isCitation the thresholds of the minimal form or of the citation count
@@ -137,18 +128,19 @@ public:
 
 private:
     void CloneImpl(OutputTemplateAuthor& clone) const;
+    void write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
+    bool fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                   bool shortenedVersion) override;
     void layOut();
-    void Add(std::int16_t Index, const std::vector<Text>& separators);
     Text getEditorTags() const;
     AuthorReader reader() const { return {*this, mStyle->options.SquareBracketIsForFirstName}; }
-    AuthorWriter writer() const { return {*this, mStyle, mPersons, mOutputTemplate, mFormattedStr}; }
+    AuthorWriter writer() const { return {*this, mStyle, mPersons, assembly(), mFormattedStr}; }
     AuthorPersons& own();
 
     AuthorStyleRef mStyle = plainStyle();
     // Shared with outputs under way: changed only through `own`.
     std::shared_ptr<AuthorPersons> mPersons = std::make_shared<AuthorPersons>();
     Text mPreviousStr;
-    std::shared_ptr<outputTemplate> mOutputTemplate;
     OutputSinkRef mFormattedStr;
     std::shared_ptr<OutputTemplateYear> mYearTemplate;
 

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <tuple>
 #include <vector>
 
+#include "core/instrumented.h"
 #include "core/options.h"
 #include "core/text.h"
 
@@ -59,30 +61,30 @@ struct AuthorOptions {
 };
 
 /// In the order of `Reset`'s arguments.
-inline constexpr Option<AuthorOptions> kAuthorOptions[] = {
-    {u"SupportAnonAndPseudoAuthors", &AuthorOptions::SupportAnonAndPseudoAuthors},
-    {u"SquareBracketIsForFirstName", &AuthorOptions::SquareBracketIsForFirstName},
-    {u"editorTags", &AuthorOptions::editorTags},
-    {u"andSeparator", &AuthorOptions::andSeparator},
-    {u"twoAuthorsIsOnlyCaseHaveNoComma", &AuthorOptions::twoAuthorsIsOnlyCaseHaveNoComma},
-    {u"ReverseFirstOnFootnote", &AuthorOptions::ReverseFirstOnFootnote},
-    {u"reverseSecondaryAuthors", &AuthorOptions::reverseSecondaryAuthors},
-    {u"reversedAuthorUsesComma", &AuthorOptions::reversedAuthorUsesComma},
-    {u"reversedAuthorPostfixUsesComma", &AuthorOptions::reversedAuthorPostfixUsesComma},
-    {u"numAuthorsToTriggerEtAl", &AuthorOptions::numAuthorsToTriggerEtAl},
-    {u"numAuthorsToTriggerEtAlCitation", &AuthorOptions::numAuthorsToTriggerEtAlCitation},
-    {u"numAuthorsToTriggerEtAlMinimalString", &AuthorOptions::numAuthorsToTriggerEtAlMinimalString},
-    {u"numAuthorsInEtAl", &AuthorOptions::numAuthorsInEtAl},
-    {u"numAuthorsInEtAlMinimalString", &AuthorOptions::numAuthorsInEtAlMinimalString},
-    {u"etAlUsesElipses", &AuthorOptions::etAlUsesElipses},
-    {u"etAlInReferenceList", &AuthorOptions::etAlInReferenceList},
-    {u"etAlHasComma", &AuthorOptions::etAlHasComma},
-    {u"etAlCitationHasComma", &AuthorOptions::etAlCitationHasComma},
-    {u"editorSeparator", &AuthorOptions::editorSeparator},
-    {u"initialsOnly", &AuthorOptions::initialsOnly},
-    {u"initialsUsePeriods", &AuthorOptions::initialsUsePeriods},
-    {u"semicolonBetweenGroupAuthors", &AuthorOptions::semicolonBetweenGroupAuthors},
-    {u"supportsCompilerAndEditor", &AuthorOptions::supportsCompilerAndEditor},
+inline constexpr std::tuple kAuthorOptions{
+    Option{u"SupportAnonAndPseudoAuthors", &AuthorOptions::SupportAnonAndPseudoAuthors},
+    Option{u"SquareBracketIsForFirstName", &AuthorOptions::SquareBracketIsForFirstName},
+    Option{u"editorTags", &AuthorOptions::editorTags},
+    Option{u"andSeparator", &AuthorOptions::andSeparator},
+    Option{u"twoAuthorsIsOnlyCaseHaveNoComma", &AuthorOptions::twoAuthorsIsOnlyCaseHaveNoComma},
+    Option{u"ReverseFirstOnFootnote", &AuthorOptions::ReverseFirstOnFootnote},
+    Option{u"reverseSecondaryAuthors", &AuthorOptions::reverseSecondaryAuthors},
+    Option{u"reversedAuthorUsesComma", &AuthorOptions::reversedAuthorUsesComma},
+    Option{u"reversedAuthorPostfixUsesComma", &AuthorOptions::reversedAuthorPostfixUsesComma},
+    Option{u"numAuthorsToTriggerEtAl", &AuthorOptions::numAuthorsToTriggerEtAl},
+    Option{u"numAuthorsToTriggerEtAlCitation", &AuthorOptions::numAuthorsToTriggerEtAlCitation},
+    Option{u"numAuthorsToTriggerEtAlMinimalString", &AuthorOptions::numAuthorsToTriggerEtAlMinimalString},
+    Option{u"numAuthorsInEtAl", &AuthorOptions::numAuthorsInEtAl},
+    Option{u"numAuthorsInEtAlMinimalString", &AuthorOptions::numAuthorsInEtAlMinimalString},
+    Option{u"etAlUsesElipses", &AuthorOptions::etAlUsesElipses},
+    Option{u"etAlInReferenceList", &AuthorOptions::etAlInReferenceList},
+    Option{u"etAlHasComma", &AuthorOptions::etAlHasComma},
+    Option{u"etAlCitationHasComma", &AuthorOptions::etAlCitationHasComma},
+    Option{u"editorSeparator", &AuthorOptions::editorSeparator},
+    Option{u"initialsOnly", &AuthorOptions::initialsOnly},
+    Option{u"initialsUsePeriods", &AuthorOptions::initialsUsePeriods},
+    Option{u"semicolonBetweenGroupAuthors", &AuthorOptions::semicolonBetweenGroupAuthors},
+    Option{u"supportsCompilerAndEditor", &AuthorOptions::supportsCompilerAndEditor},
 };
 
 /// The settings, and the texts that are made of them once.

@@ -80,21 +80,16 @@ AuthorWriter::AuthorWriter(const Instrumented& element, AuthorStyleRef style,
     mName.reserve(kUsualName);
 }
 
-void AuthorWriter::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
-    procedure(mElement, u"ToFormattedString",
-              {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
-              [&] {
-                  object(mAssembly).ResetReferenceItems();
-                  if (!writesSemicolons()) {
-                      mAssembly->ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote);
-                      return;
-                  }
-                  const OutputSinkRef assembled = object(mMaker).BuildNewFormattedString();
-                  object(assembled).Reset();
-                  mAssembly->ToFormattedString(assembled, *this, shortenedVersion, isFootnote);
-                  const Text text = convertCommaToSemicolon(mElement, *mPersons, assembled->toString());
-                  object(formattedStr).Add(text, OutputSink::kPlain);
-              });
+void AuthorWriter::write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
+    if (!writesSemicolons()) {
+        AssembledElement::write(formattedStr, isFootnote, shortenedVersion);
+        return;
+    }
+    const OutputSinkRef assembled = object(mMaker).BuildNewFormattedString();
+    object(assembled).Reset();
+    AssembledElement::write(assembled, isFootnote, shortenedVersion);
+    const Text text = convertCommaToSemicolon(mElement, *mPersons, assembled->toString());
+    object(formattedStr).Add(text, OutputSink::kPlain);
 }
 
 /// A list without a group author has no semicolons, whatever the style.
@@ -107,49 +102,43 @@ bool AuthorWriter::reversesFirst(bool isFootnote) const {
     return !isFootnote || (options().ReverseFirstOnFootnote && !readsOn);
 }
 
-bool AuthorWriter::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
-                                         std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
-    return procedure(
-        mElement, u"ToFormattedStringImpl",
-        {{u"isFootnote", isFootnote}, {u"items", items}, {u"shortenedVersion", shortenedVersion}}, [&] {
-            static_cast<void>(formattedItems);
-            using namespace authorlayout;
-            const AuthorPersons& persons = *mPersons;
-            const std::int16_t all = persons.size();
-            if (!shortenedVersion) {
-                items.at(kEditor) = editorTag(mElement, *mStyle, persons);
-            }
-            const bool isWithinLimit = (!isFootnote && !options().etAlInReferenceList) || all < mTrigger;
-            if (isWithinLimit && (!persons.hasEtAl || options().etAlUsesElipses)) {
-                ToArray(isFootnote, items, shortenedVersion);
-                return false;
-            }
-            if (mKept < 1) {
-                items.at(kEtAl) = kEtAlText;
-                ToArray(isFootnote, items, shortenedVersion);
-                return false;
-            }
-            const std::int16_t last = std::min(all, mKept);
-            writePersons(isFootnote, items, shortenedVersion, last);
-            if (options().etAlUsesElipses && !mIsMinimal && !mIsCitation && all > mKept) {
-                // APA 6 6.27: the first six, an ellipsis, the last; a citation has "et al." all the same.
-                const TextView comma = last > 1 || !options().twoAuthorsIsOnlyCaseHaveNoComma ? u"," : u"";
-                const Text& name = toStringAuthor(before(all), options().reverseSecondaryAuthors, !shortenedVersion);
-                items.at(at(std::min<std::int16_t>(last, kSixthPerson))).append(comma).append(kOmission).append(name);
-            } else if (persons.firstGroup >= last && options().semicolonBetweenGroupAuthors) {
-                const Text& group =
-                    toStringAuthor(persons.firstGroup, options().reverseSecondaryAuthors, !shortenedVersion);
-                items.at(kEtAl).assign(kEtAlGroup).append(group);
-            } else {
-                items.at(kEtAl) = kEtAlText;
-            }
-            return false;
-        });
+bool AuthorWriter::fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& /*formattedItems*/,
+                             bool shortenedVersion) {
+    using namespace authorlayout;
+    const AuthorPersons& persons = *mPersons;
+    const std::int16_t all = persons.size();
+    if (!shortenedVersion) {
+        items.at(kEditor) = editorTag(mElement, *mStyle, persons);
+    }
+    const bool isWithinLimit = (!isFootnote && !options().etAlInReferenceList) || all < mTrigger;
+    if (isWithinLimit && (!persons.hasEtAl || options().etAlUsesElipses)) {
+        ToArray(isFootnote, items, shortenedVersion);
+        return false;
+    }
+    if (mKept < 1) {
+        items.at(kEtAl) = kEtAlText;
+        ToArray(isFootnote, items, shortenedVersion);
+        return false;
+    }
+    const std::int16_t last = std::min(all, mKept);
+    writePersons(isFootnote, items, shortenedVersion, last);
+    if (options().etAlUsesElipses && !mIsMinimal && !mIsCitation && all > mKept) {
+        // APA 6 6.27: the first six, an ellipsis, the last; a citation has "et al." all the same.
+        const TextView comma = last > 1 || !options().twoAuthorsIsOnlyCaseHaveNoComma ? u"," : u"";
+        const Text& name = toStringAuthor(before(all), options().reverseSecondaryAuthors, !shortenedVersion);
+        items.at(at(std::min<std::int16_t>(last, kSixthPerson))).append(comma).append(kOmission).append(name);
+    } else if (persons.firstGroup >= last && options().semicolonBetweenGroupAuthors) {
+        const Text& group = toStringAuthor(persons.firstGroup, options().reverseSecondaryAuthors, !shortenedVersion);
+        items.at(kEtAl).assign(kEtAlGroup).append(group);
+    } else {
+        items.at(kEtAl) = kEtAlText;
+    }
+    return false;
 }
 
 /// The full list: the persons in their slots, the last of several in the slot that the and-word precedes.
 void AuthorWriter::ToArray(bool isFootnote, std::vector<Text>& items, bool shortenedVersion) {
-    procedure(mElement, u"ToArray",
+    procedure(*this, u"ToArray",
               {{u"isFootnote", isFootnote}, {u"items", items}, {u"shortenedVersion", shortenedVersion}}, [&] {
                   using namespace authorlayout;
                   const std::int16_t all = mPersons->size();
@@ -193,7 +182,7 @@ void AuthorWriter::writePersons(bool isFootnote, std::vector<Text>& items, bool 
 
 const Text& AuthorWriter::toStringDiscussant(bool isFootnote, bool shortenedVersion) {
     mName.clear();
-    procedure(mElement, u"toStringDiscussant", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
+    procedure(*this, u"toStringDiscussant", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
               [&] {
                   if (mPersons->discussant) {
                       writeName(*mPersons->discussant, reversesFirst(isFootnote), !shortenedVersion);
@@ -204,7 +193,7 @@ const Text& AuthorWriter::toStringDiscussant(bool isFootnote, bool shortenedVers
 
 const Text& AuthorWriter::toStringFirstAuthor(bool isFootnote, bool shortenedVersion) {
     mName.clear();
-    procedure(mElement, u"toStringFirstAuthor", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
+    procedure(*this, u"toStringFirstAuthor", {{u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
               [&] {
                   if (mPersons->isEmpty()) {
                       return;
@@ -227,7 +216,7 @@ const Text& AuthorWriter::toStringFirstAuthor(bool isFootnote, bool shortenedVer
 
 const Text& AuthorWriter::toStringAuthor(std::int16_t index, bool Reverse, bool useFirst) {
     mName.clear();
-    procedure(mElement, u"toStringAuthor", {{u"index", index}, {u"Reverse", Reverse}, {u"useFirst", useFirst}},
+    procedure(*this, u"toStringAuthor", {{u"index", index}, {u"Reverse", Reverse}, {u"useFirst", useFirst}},
               [&] { writeName(mPersons->at(index), Reverse, useFirst); });
     return mName;
 }
@@ -256,7 +245,7 @@ void AuthorWriter::writeName(const AuthorRecord& person, bool reverse, bool useF
 
 /// Appends the first names as the style writes them.
 void AuthorWriter::toStringAuthorFirst(TextView firstNames) {
-    procedure(mElement, u"toStringAuthorFirst", {{u"firstNames", firstNames}}, [&] {
+    procedure(*this, u"toStringAuthorFirst", {{u"firstNames", firstNames}}, [&] {
         if (mInitialsOnly) {
             authorwords::appendInitials(mName, firstNames, options().initialsUsePeriods);
         } else {
@@ -266,7 +255,7 @@ void AuthorWriter::toStringAuthorFirst(TextView firstNames) {
 }
 
 void AuthorWriter::addPostFix(TextView postFix, bool forceUseSpace) {
-    procedure(mElement, u"addPostFix", {{u"author", mName}, {u"postFix", postFix}, {u"forceUseSpace", forceUseSpace}},
+    procedure(*this, u"addPostFix", {{u"author", mName}, {u"postFix", postFix}, {u"forceUseSpace", forceUseSpace}},
               [&] {
                   TextView written = postFix;
                   if (!options().initialsUsePeriods) {

@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "core/implementor.h"
+#include "core/assembled_element.h"
 #include "core/instrumented.h"
 #include "core/output_sink.h"
 #include "core/output_template.h"
@@ -25,19 +25,24 @@ struct AuthorForm {
 };
 
 /// Writes persons in a style: fills the slots of the author's assembly and has it written. Lives for one
-/// output.
-class AuthorWriter final : public Implementor {
+/// output and reports in the element's name.
+class AuthorWriter final : public AssembledElement {
 public:
     /// @param assembly laid out for the style
     /// @param maker a sink from which others are made
     AuthorWriter(const Instrumented& element, AuthorStyleRef style, std::shared_ptr<const AuthorPersons> persons,
                  std::shared_ptr<outputTemplate> assembly, OutputSinkRef maker, AuthorForm form = {});
 
-    void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
-    bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
-                               bool shortenedVersion) override;
+    using AssembledElement::assembledText;
+    void write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
+    bool fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                   bool shortenedVersion) override;
+
+    TextView className() const override { return mElement.className(); }
+    void dumpVariables(VBWPROTECTOR& report) const override { mElement.dumpVariables(report); }
 
 private:
+    std::shared_ptr<outputTemplate> assembly() const override { return mAssembly; }
     const AuthorOptions& options() const { return mStyle->options; }
     bool writesSemicolons() const;
     bool reversesFirst(bool isFootnote) const;
