@@ -48,7 +48,7 @@ private:
     Text mText;
 };
 
-std::shared_ptr<OutputTemplateAuthor> elementOf(const OutputTemplateAuthor::Options& options) {
+std::shared_ptr<OutputTemplateAuthor> elementOf(const AuthorOptions& options) {
     auto element = std::make_shared<OutputTemplateAuthor>();
     element->Initialize(std::make_shared<TextSink>());
     element->Reset(options);

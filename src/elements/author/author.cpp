@@ -41,7 +41,7 @@ void OutputTemplateAuthor::Initialize(const OutputSinkRef& formattedStr) {
     });
 }
 
-void OutputTemplateAuthor::Reset(const Options& options) {
+void OutputTemplateAuthor::Reset(const AuthorOptions& options) {
     procedure(*this, u"Reset", reported(kAuthorOptions, options), [&] {
         // Hosts call it for each reference: what stays the same is not made anew.
         const AuthorStyleRef before = mStyle;
@@ -92,7 +92,7 @@ std::shared_ptr<OutputTemplateAuthor> OutputTemplateAuthor::CloneForEditors() co
         auto clone = std::make_shared<OutputTemplateAuthor>();
         clone->mStyle = mStyle;
         clone->Initialize(OutputSinkRef(mFormattedStr));
-        Options settings = clone->mStyle->options;
+        AuthorOptions settings = clone->mStyle->options;
         settings.editorTags = getEditorTags();
         clone->Reset(settings);
         return clone;

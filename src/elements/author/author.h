@@ -32,13 +32,12 @@ public:
     using enum AuthorPersons::Kind;
     using enum AuthorPersons::Role;
     static constexpr std::int16_t kRoles = AuthorPersons::kRoles;
-    using Options = AuthorOptions;
 
     /// Keeps a clone of the sink for `toString`.
     void Initialize(const OutputSinkRef& formattedStr);
 
     /// The settings of the style in force; the persons stay.
-    void Reset(const Options& options);
+    void Reset(const AuthorOptions& options);
 
     /// A copy with the settings and the persons.
     std::shared_ptr<OutputTemplateAuthor> Clone() const;

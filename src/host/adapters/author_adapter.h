@@ -31,7 +31,7 @@ public:
                        BSTR editorSeparator, VARIANT_BOOL initialsOnly, VARIANT_BOOL initialsUsePeriods,
                        VARIANT_BOOL semicolonBetweenGroupAuthors, VARIANT_BOOL supportsCompilerAndEditor) override {
         return call([&] {
-            OutputTemplateAuthor::Options options;
+            AuthorOptions options;
             options.SupportAnonAndPseudoAuthors = asBool(SupportAnonAndPseudoAuthors);
             options.SquareBracketIsForFirstName = asBool(SquareBracketIsForFirstName);
             options.editorTags = view(editorTags);

@@ -7,7 +7,7 @@
 namespace quorvel {
 namespace {
 
-using Options = OutputTemplateAuthor::Options;
+using Options = AuthorOptions;
 
 /// A style of no rule but those that a test sets: "A, B, and C", nothing reversed, no et al.
 Options plainOptions() {
