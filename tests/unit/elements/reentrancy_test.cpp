@@ -109,31 +109,31 @@ Element modelElement() {
 Element citationElement(bool isLikeModelTemplate) {
     const auto citation = std::make_shared<OutputTemplateCitation>();
     const auto fields = std::make_shared<RecordingModel>();
-    return {[=](const OutputSinkRef& sink) {
-                const auto author = std::make_shared<OutputTemplateAuthor>();
-                author->Initialize(sink);
-                author->Reset(test::apaAuthorOptions());
-                const auto title = std::make_shared<OutputTemplateTitle>();
-                title->Initialize(sink);
-                resetTitle(*title);
-                citation->Initialize(sink, true, std::make_shared<NumberedKeys>(std::vector<Text>{}), author, title,
-                                     sink);
-            },
-            [=] {
-                citation->Reset(u", ", true, u"vol. ", false, true, true, true, true, true, true, true, false, u", ",
-                                u", ", u": ");
-                if (isLikeModelTemplate) {
-                    citation->ResetLikeModelTemplate(1, nullptr);
-                    citation->Add(0, true, u"", {u"", u", ", u"."});
-                    citation->Add(1, true, u"", {u"", u"."});
-                }
-            },
-            [=](TextView text) {
-                Text left(text);
-                citation->Parse(left, {});
-            },
-            [=](const OutputSinkRef& sink) { citation->ToFormattedString(sink, fields, 0, true, false); },
-            [=] { citation->toString(nullptr, 0, true); }};
+    return {
+        [=](const OutputSinkRef& sink) {
+            const auto author = std::make_shared<OutputTemplateAuthor>();
+            author->Initialize(sink);
+            author->Reset(test::apaAuthorOptions());
+            const auto title = std::make_shared<OutputTemplateTitle>();
+            title->Initialize(sink);
+            resetTitle(*title);
+            citation->Initialize(sink, true, std::make_shared<NumberedKeys>(std::vector<Text>{}), author, title, sink);
+        },
+        [=] {
+            citation->Reset(
+                {u", ", true, u"vol. ", false, true, true, true, true, true, true, true, false, u", ", u", ", u": "});
+            if (isLikeModelTemplate) {
+                citation->ResetLikeModelTemplate(1, nullptr);
+                citation->Add(0, true, u"", {u"", u", ", u"."});
+                citation->Add(1, true, u"", {u"", u"."});
+            }
+        },
+        [=](TextView text) {
+            Text left(text);
+            citation->Parse(left, {});
+        },
+        [=](const OutputSinkRef& sink) { citation->ToFormattedString(sink, fields, 0, true, false); },
+        [=] { citation->toString(nullptr, 0, true); }};
 }
 
 struct Case {
