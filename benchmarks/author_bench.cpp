@@ -8,7 +8,7 @@
 namespace quorvel::bench {
 namespace {
 
-std::shared_ptr<OutputTemplateAuthor> elementOf(const OutputTemplateAuthor::Options& options) {
+std::shared_ptr<OutputTemplateAuthor> elementOf(const AuthorOptions& options) {
     auto element = std::make_shared<OutputTemplateAuthor>();
     element->Initialize(std::make_shared<NullSink>());
     element->Reset(options);

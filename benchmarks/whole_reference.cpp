@@ -27,7 +27,7 @@ const Reference kReferences[] = {
 };
 
 struct StyleOptions {
-    OutputTemplateAuthor::Options authors;
+    AuthorOptions authors;
     std::int16_t format;
     bool sentenceCapitalization;
     PageOptions page;

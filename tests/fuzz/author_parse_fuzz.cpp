@@ -6,12 +6,12 @@ using namespace quorvel;
 
 namespace {
 
-OutputTemplateAuthor::Options optionsOf(FuzzInput& input) {
+AuthorOptions optionsOf(FuzzInput& input) {
     const std::uint8_t first = input.options();
     const std::uint8_t second = input.options();
     const std::uint8_t counts = input.options();
     constexpr TextView kAndWords[] = {u"and", u"&", u"", u" und "};
-    OutputTemplateAuthor::Options options;
+    AuthorOptions options;
     options.SupportAnonAndPseudoAuthors = (first & 1) != 0;
     options.SquareBracketIsForFirstName = (first & 2) != 0;
     options.editorTags = (first & 4) != 0 ? u"(Ed.),(Comp.),(Trans.)" : u"ed.,comp.,trans.";
@@ -42,7 +42,7 @@ OutputTemplateAuthor::Options optionsOf(FuzzInput& input) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     FuzzInput input(data, size);
-    const OutputTemplateAuthor::Options options = optionsOf(input);
+    const AuthorOptions options = optionsOf(input);
     const std::uint8_t forms = input.options();
     const std::vector<Text> texts = split(input.rest(), u"\n");
     const Text text = texts[0];

@@ -48,7 +48,7 @@ private:
     Text mText;
 };
 
-std::shared_ptr<OutputTemplateAuthor> elementOf(const OutputTemplateAuthor::Options& options) {
+std::shared_ptr<OutputTemplateAuthor> elementOf(const AuthorOptions& options) {
     auto element = std::make_shared<OutputTemplateAuthor>();
     element->Initialize(std::make_shared<TextSink>());
     element->Reset(options);
@@ -108,10 +108,10 @@ void accuracy(const std::vector<Case>& cases, bool showMisses) {
             Text text = list.printed;
             element->Parse(text, {});
             std::vector<AuthorRecord> read = personsOf(*element);
-            const bool isRight = areSamePersons(list.persons, read) && element->HasEtAl == list.isCut;
+            const bool isRight = areSamePersons(list.persons, read) && element->HasEtAl() == list.isCut;
             if (showMisses && (!isRight || (&element != &elements.front() && shown(read) != shown(first))) && isExact) {
                 std::printf("%s %s: %s\n    read  %s%s\n    right %s\n", list.id.c_str(), list.form.c_str(),
-                            utf8Of(list.printed).c_str(), shown(read).c_str(), element->HasEtAl ? " et al." : "",
+                            utf8Of(list.printed).c_str(), shown(read).c_str(), element->HasEtAl() ? " et al." : "",
                             shown(list.persons).c_str());
             }
             isExact = isExact && isRight;
@@ -153,7 +153,7 @@ void otherForms(const std::vector<Case>& cases) {
                 reader->Parse(again, {});
                 std::vector<AuthorRecord> before = personsOf(*writer);
                 const std::vector<AuthorRecord> after = personsOf(*reader);
-                if (reader->HasEtAl && before.size() > after.size()) {
+                if (reader->HasEtAl() && before.size() > after.size()) {
                     const AuthorRecord last = before.back();
                     before.resize(after.size());
                     if (preset.options.etAlUsesElipses && !after.empty()) {

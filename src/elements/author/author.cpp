@@ -1,194 +1,98 @@
 #include "elements/author/author.h"
 
-#include <algorithm>
-
 #include "core/procedure.h"
 #include "elements/author/layout.h"
+#include "elements/author/residue.h"
+#include "elements/author/words.h"
 
 namespace quorvel {
 
 namespace {
 
-constexpr TextView kComma = u",";
+// Shown in the report of the variables; what reads the tags knows more of them (lexicon.cpp).
+constexpr TextView kCompStrings[] = {u" comp.", u" comps.", u" (Comp.)", u" (Comps.)"};
+constexpr TextView kEditorStrings[] = {u" ed.", u" eds.", u" (Ed.)", u" (Eds.)"};
+constexpr TextView kTranslatorStrings[] = {u" trans.", u" (Trans.)"};
+constexpr TextView kEditorTokens[] = {u"ed", u"comp", u"trans", u"eds", u"comps"};
 
-std::vector<Text> texts(std::initializer_list<TextView> values) {
-    return {values.begin(), values.end()};
+template <std::size_t N>
+std::vector<Text> texts(const TextView (&table)[N]) {
+    return {std::begin(table), std::end(table)};
 }
 
-/// The and-word with its blanks.
-Text padded(TextView andSeparator) {
-    if (andSeparator.empty()) {
-        return u" ";
-    }
-    return contains(andSeparator, u" ") ? Text(andSeparator) : concatenate({u" ", andSeparator, u" "});
-}
-
-TextView etAlSeparator(bool hasComma) {
-    return hasComma ? u", " : u" ";
-}
-
-std::size_t at(std::int32_t index) {
-    if (index < 0) {
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
-    }
-    return static_cast<std::size_t>(index);
-}
+constexpr TextView kAmpersand = u"&";
+constexpr TextView kPseudonymMark = u"pseud.";
 
 }  // namespace
 
+const AuthorStyleRef& OutputTemplateAuthor::plainStyle() {
+    static const AuthorStyleRef style = std::make_shared<AuthorStyle>();
+    return style;
+}
+
 void OutputTemplateAuthor::Initialize(const OutputSinkRef& formattedStr) {
     procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
-        mCompStrings = texts({u" comp.", u" comps.", u" (Comp.)", u" (Comps.)"});
-        mEditorStrings = texts({u" ed.", u" eds.", u" (Ed.)", u" (Eds.)"});
-        mTranslatorStrings = texts({u" trans.", u" (Trans.)"});
-        mEditorTokens = texts({u"ed", u"comp", u"trans", u"eds", u"comps"});
-        mChapterTypes = texts({u"Afterword.", u"Foreword.", u"Introduction.", u"Preface."});
-        mOutputTemplate = std::make_shared<outputTemplate>();
-        mLaidOut.clear();
+        makeAssembly(formattedStr);
         layOut();
         mYearTemplate = std::make_shared<OutputTemplateYear>();
         held(mYearTemplate)->Initialize(nullptr);
         ClearAuthors();
         mFormattedStr = object(formattedStr).Clone();
-        held(mOutputTemplate)->Initialize(formattedStr);
     });
 }
 
-void OutputTemplateAuthor::Reset(bool SupportAnonAndPseudoAuthors, bool SquareBracketIsForFirstName,
-                                 TextView editorTags, TextView andSeparator, bool twoAuthorsIsOnlyCaseHaveNoComma,
-                                 bool ReverseFirstOnFootnote, bool reverseSecondaryAuthors,
-                                 bool reversedAuthorUsesComma, bool reversedAuthorPostfixUsesComma,
-                                 std::int16_t numAuthorsToTriggerEtAl, std::int16_t numAuthorsToTriggerEtAlCitation,
-                                 std::int16_t numAuthorsToTriggerEtAlMinimalString, std::int16_t numAuthorsInEtAl,
-                                 std::int16_t numAuthorsInEtAlMinimalString, bool etAlUsesElipses,
-                                 bool etAlInReferenceList, bool etAlHasComma, bool etAlCitationHasComma,
-                                 TextView editorSeparator, bool initialsOnly, bool initialsUsePeriods,
-                                 bool semicolonBetweenGroupAuthors, bool supportsCompilerAndEditor) {
-    procedure(*this, u"Reset",
-              {{u"SupportAnonAndPseudoAuthors", SupportAnonAndPseudoAuthors},
-               {u"SquareBracketIsForFirstName", SquareBracketIsForFirstName},
-               {u"editorTags", editorTags},
-               {u"andSeparator", andSeparator},
-               {u"twoAuthorsIsOnlyCaseHaveNoComma", twoAuthorsIsOnlyCaseHaveNoComma},
-               {u"ReverseFirstOnFootnote", ReverseFirstOnFootnote},
-               {u"reverseSecondaryAuthors", reverseSecondaryAuthors},
-               {u"reversedAuthorUsesComma", reversedAuthorUsesComma},
-               {u"reversedAuthorPostfixUsesComma", reversedAuthorPostfixUsesComma},
-               {u"numAuthorsToTriggerEtAl", numAuthorsToTriggerEtAl},
-               {u"numAuthorsToTriggerEtAlCitation", numAuthorsToTriggerEtAlCitation},
-               {u"numAuthorsToTriggerEtAlMinimalString", numAuthorsToTriggerEtAlMinimalString},
-               {u"numAuthorsInEtAl", numAuthorsInEtAl},
-               {u"numAuthorsInEtAlMinimalString", numAuthorsInEtAlMinimalString},
-               {u"etAlUsesElipses", etAlUsesElipses},
-               {u"etAlInReferenceList", etAlInReferenceList},
-               {u"etAlHasComma", etAlHasComma},
-               {u"etAlCitationHasComma", etAlCitationHasComma},
-               {u"editorSeparator", editorSeparator},
-               {u"initialsOnly", initialsOnly},
-               {u"initialsUsePeriods", initialsUsePeriods},
-               {u"semicolonBetweenGroupAuthors", semicolonBetweenGroupAuthors},
-               {u"supportsCompilerAndEditor", supportsCompilerAndEditor}},
-              [&] {
-                  mSupportAnonAndPseudoAuthors = SupportAnonAndPseudoAuthors;
-                  mSquareBracketIsForFirstName = SquareBracketIsForFirstName;
-                  const std::vector<Text> singular = split(editorTags, kComma);
-                  std::vector<Text> plural;
-                  for (std::size_t role = 0; role < singular.size(); ++role) {
-                      plural.push_back(role == kTranslator ? singular[role] : generateTag(singular[role], true));
-                  }
-                  mEditorTagsSingular = singular;
-                  mEditorTagsPlural = plural;
-                  mAndSeparator = padded(andSeparator);
-                  mTwoAuthorsIsOnlyCaseHaveNoComma = twoAuthorsIsOnlyCaseHaveNoComma;
-                  mReverseFirstOnFootnote = ReverseFirstOnFootnote;
-                  mReverseSecondaryAuthors = reverseSecondaryAuthors;
-                  mReversedAuthorUsesComma = reversedAuthorUsesComma;
-                  mReversedAuthorPostfixUsesComma = reversedAuthorPostfixUsesComma;
-                  mNumAuthorsToTriggerEtAl = numAuthorsToTriggerEtAl;
-                  mNumAuthorsToTriggerEtAlCitation = numAuthorsToTriggerEtAlCitation;
-                  mNumAuthorsToTriggerEtAlMinimalString = numAuthorsToTriggerEtAlMinimalString;
-                  mNumAuthorsInEtAl = numAuthorsInEtAl;
-                  mNumAuthorsInEtAlMinimalString = numAuthorsInEtAlMinimalString;
-                  mEtAlUsesElipses = etAlUsesElipses;
-                  mEtAlInReferenceList = etAlInReferenceList;
-                  mEtAlSeparator = etAlSeparator(etAlHasComma);
-                  mEtAlCitationSeparator = etAlSeparator(etAlCitationHasComma);
-                  mEditorSeparator = editorSeparator;
-                  mInitialsOnly = initialsOnly;
-                  mInitialsUsePeriods = initialsUsePeriods;
-                  mSemicolonBetweenGroupAuthors = semicolonBetweenGroupAuthors;
-                  mSupportsCompilerAndEditor = supportsCompilerAndEditor;
-                  layOut();
-              });
+void OutputTemplateAuthor::Reset(const AuthorOptions& options) {
+    procedure(*this, u"Reset", reported(kAuthorOptions, options), [&] {
+        // Hosts call it for each reference: what stays the same is not made anew.
+        const AuthorStyleRef before = mStyle;
+        if (options == before->options && assembly()) {
+            return;
+        }
+        const AuthorStyleRef style = std::make_shared<AuthorStyle>(*this, options);
+        mStyle = style;
+        if (!assembly() || !style->hasSeparatorsOf(*before)) {
+            layOut();
+        }
+    });
 }
 
-void OutputTemplateAuthor::Reset(const Options& options) {
-    Reset(options.SupportAnonAndPseudoAuthors, options.SquareBracketIsForFirstName, options.editorTags,
-          options.andSeparator, options.twoAuthorsIsOnlyCaseHaveNoComma, options.ReverseFirstOnFootnote,
-          options.reverseSecondaryAuthors, options.reversedAuthorUsesComma, options.reversedAuthorPostfixUsesComma,
-          options.numAuthorsToTriggerEtAl, options.numAuthorsToTriggerEtAlCitation,
-          options.numAuthorsToTriggerEtAlMinimalString, options.numAuthorsInEtAl, options.numAuthorsInEtAlMinimalString,
-          options.etAlUsesElipses, options.etAlInReferenceList, options.etAlHasComma, options.etAlCitationHasComma,
-          options.editorSeparator, options.initialsOnly, options.initialsUsePeriods,
-          options.semicolonBetweenGroupAuthors, options.supportsCompilerAndEditor);
-}
-
-/// Registers the ten slots, unless the last style had the same separators: hosts call `Reset` for each
-/// reference.
 void OutputTemplateAuthor::layOut() {
-    const Text commaForm = concatenate({kComma, mAndSeparator});
-    const TextView twoPersonForm = mTwoAuthorsIsOnlyCaseHaveNoComma ? TextView(mAndSeparator) : TextView(commaForm);
-    const authorlayout::Texts separators = {mAndSeparator,          commaForm,       twoPersonForm, mEtAlSeparator,
-                                            mEtAlCitationSeparator, mEditorSeparator};
-    const TextView wanted[] = {mAndSeparator, twoPersonForm, mEtAlSeparator, mEtAlCitationSeparator, mEditorSeparator};
-    if (std::equal(std::begin(wanted), std::end(wanted), mLaidOut.begin(), mLaidOut.end())) {
-        return;
-    }
-    mLaidOut.assign(std::begin(wanted), std::end(wanted));
-    held(mOutputTemplate)->Reset(authorlayout::kEditor);
+    // Held, since each slot is reported and the host may set another style meanwhile.
+    const AuthorStyleRef style = mStyle;
+    const authorlayout::Texts separators = {style->andSeparator,          style->commaForm,
+                                            style->twoPersonForm,         style->etAlSeparator,
+                                            style->etAlCitationSeparator, style->options.editorSeparator};
+    held(assembly())->Reset(authorlayout::kEditor);
     for (std::int16_t slot = 0; slot <= authorlayout::kEditor; ++slot) {
-        Add(slot, authorlayout::separatorsAfter(slot, separators));
+        Add(slot, false, false, authorlayout::separatorsAfter(slot, separators));
     }
-}
-
-void OutputTemplateAuthor::Add(std::int16_t Index, const std::vector<Text>& separators) {
-    procedure(*this, u"Add", {{u"Index", Index}, {u"separators", separators}}, [&] {
-        const std::shared_ptr<outputTemplate> assembly = mOutputTemplate;
-        object(assembly).Add(Index, false, false, separators);
-    });
 }
 
 std::shared_ptr<OutputTemplateAuthor> OutputTemplateAuthor::Clone() const {
     return procedure(*this, u"Clone", kNoParameters, [&] {
         auto clone = std::make_shared<OutputTemplateAuthor>();
         CloneImpl(*clone);
-        clone->Reset(options());
+        clone->Reset(clone->mStyle->options);
         return clone;
     });
 }
 
 void OutputTemplateAuthor::CloneImpl(OutputTemplateAuthor& clone) const {
     procedure(*this, u"CloneImpl", kNoParameters, [&] {
+        const std::shared_ptr<const AuthorPersons> persons = mPersons;
+        clone.mStyle = mStyle;
         clone.Initialize(OutputSinkRef(mFormattedStr));
-        clone.Pseudoname = Pseudoname;
-        clone.AuthorType = AuthorType;
-        clone.HasEtAl = HasEtAl;
-        clone.mLastNameFirstForAuthor1 = mLastNameFirstForAuthor1;
-        clone.mAnthologies = mAnthologies;
-        clone.mAuthors = mAuthors;
-        clone.mNumAuthors = mNumAuthors;
-        clone.mFirstGroupAuthorIndex = mFirstGroupAuthorIndex;
-        clone.mResidue = mResidue;
+        clone.own() = *persons;
         clone.mPreviousStr = mPreviousStr;
-        clone.mDiscussant = mDiscussant;
     });
 }
 
 std::shared_ptr<OutputTemplateAuthor> OutputTemplateAuthor::CloneForEditors() const {
     return procedure(*this, u"CloneForEditors", kNoParameters, [&] {
         auto clone = std::make_shared<OutputTemplateAuthor>();
+        clone->mStyle = mStyle;
         clone->Initialize(OutputSinkRef(mFormattedStr));
-        Options settings = options();
+        AuthorOptions settings = clone->mStyle->options;
         settings.editorTags = getEditorTags();
         clone->Reset(settings);
         return clone;
@@ -196,179 +100,245 @@ std::shared_ptr<OutputTemplateAuthor> OutputTemplateAuthor::CloneForEditors() co
 }
 
 Text OutputTemplateAuthor::getEditorTags() const {
-    return procedure(*this, u"getEditorTags", kNoParameters, [&] { return join(mEditorTagsSingular, kComma); });
+    return procedure(*this, u"getEditorTags", kNoParameters, [&] { return mStyle->options.editorTags; });
 }
 
-/// The settings as `Reset` received them.
-OutputTemplateAuthor::Options OutputTemplateAuthor::options() const {
-    Options options;
-    options.SupportAnonAndPseudoAuthors = mSupportAnonAndPseudoAuthors;
-    options.SquareBracketIsForFirstName = mSquareBracketIsForFirstName;
-    options.editorTags = join(mEditorTagsSingular, kComma);
-    options.andSeparator = mAndSeparator;
-    options.twoAuthorsIsOnlyCaseHaveNoComma = mTwoAuthorsIsOnlyCaseHaveNoComma;
-    options.ReverseFirstOnFootnote = mReverseFirstOnFootnote;
-    options.reverseSecondaryAuthors = mReverseSecondaryAuthors;
-    options.reversedAuthorUsesComma = mReversedAuthorUsesComma;
-    options.reversedAuthorPostfixUsesComma = mReversedAuthorPostfixUsesComma;
-    options.numAuthorsToTriggerEtAl = mNumAuthorsToTriggerEtAl;
-    options.numAuthorsToTriggerEtAlCitation = mNumAuthorsToTriggerEtAlCitation;
-    options.numAuthorsToTriggerEtAlMinimalString = mNumAuthorsToTriggerEtAlMinimalString;
-    options.numAuthorsInEtAl = mNumAuthorsInEtAl;
-    options.numAuthorsInEtAlMinimalString = mNumAuthorsInEtAlMinimalString;
-    options.etAlUsesElipses = mEtAlUsesElipses;
-    options.etAlInReferenceList = mEtAlInReferenceList;
-    options.etAlHasComma = startsWith(mEtAlSeparator, kComma);
-    options.etAlCitationHasComma = startsWith(mEtAlCitationSeparator, kComma);
-    options.editorSeparator = mEditorSeparator;
-    options.initialsOnly = mInitialsOnly;
-    options.initialsUsePeriods = mInitialsUsePeriods;
-    options.semicolonBetweenGroupAuthors = mSemicolonBetweenGroupAuthors;
-    options.supportsCompilerAndEditor = mSupportsCompilerAndEditor;
-    return options;
-}
-
-const AuthorRecord& OutputTemplateAuthor::author(std::int32_t index) const {
-    if (index < 0 || index >= mNumAuthors) {
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+/// The persons to be changed. An output under way keeps those with which it began.
+AuthorPersons& OutputTemplateAuthor::own() {
+    if (mPersons.use_count() > 1) {
+        mPersons = std::make_shared<AuthorPersons>(*mPersons);
     }
-    return mAuthors.at(at(index));
+    return *mPersons;
 }
 
-/// The record behind the last person, emptied; it counts from now on.
-AuthorRecord& OutputTemplateAuthor::nextAuthor() {
-    if (mNumAuthors == INT16_MAX) {
-        throw RuntimeError(ErrorNumber::Overflow);
-    }
-    if (at(mNumAuthors) == mAuthors.size()) {
-        mAuthors.emplace_back();
-    }
-    AuthorRecord& record = mAuthors[at(mNumAuthors)];
-    record.lastName.clear();
-    record.firstNames.clear();
-    record.postfix.clear();
-    ++mNumAuthors;
-    return record;
+void OutputTemplateAuthor::Parse(Text& text, TextView previousStr, bool residueAlreadyRemoved) {
+    procedure(*this, u"Parse",
+              {{u"text", text}, {u"previousStr", previousStr}, {u"residueAlreadyRemoved", residueAlreadyRemoved}}, [&] {
+                  mPreviousStr = previousStr;
+                  ClearAuthors();
+                  // Held, and set again, since the host may have another text read in the middle of this one.
+                  const std::shared_ptr<AuthorPersons> persons = mPersons;
+                  readPersons(reader(), text, previousStr, residueAlreadyRemoved, *persons);
+                  mPersons = persons;
+              });
 }
 
-void OutputTemplateAuthor::ClearAuthors() {
-    procedure(*this, u"ClearAuthors", kNoParameters, [&] {
-        mNumAuthors = 0;
-        mFirstGroupAuthorIndex = -1;
-        mLastNameFirstForAuthor1 = false;
-        mDiscussant.reset();
-        mResidue.clear();
-        mAnthologies.assign(kRoles, false);
-        Pseudoname.clear();
-        AuthorType = kOrdinary;
-        HasEtAl = false;
+std::shared_ptr<AuthorPersons> OutputTemplateAuthor::personsIn(TextView text) const {
+    auto persons = std::make_shared<AuthorPersons>();
+    Text remainder(text);
+    procedure(*this, u"Parse", {{u"text", remainder}, {u"previousStr", TextView()}, {u"residueAlreadyRemoved", false}},
+              [&] { readPersons(reader(), remainder, {}, false, *persons); });
+    return persons;
+}
+
+void OutputTemplateAuthor::write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
+    writer().write(formattedStr, isFootnote, shortenedVersion);
+}
+
+bool OutputTemplateAuthor::fillSlots(bool isFootnote, std::vector<Text>& items,
+                                     std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
+    return writer().fillSlots(isFootnote, items, formattedItems, shortenedVersion);
+}
+
+Text OutputTemplateAuthor::toString(bool isFootnote, bool shortenedVersion, bool isMinimal, bool isCitation,
+                                    bool forceNoInitials, bool isRTF) {
+    const AuthorForm form = {isMinimal, isCitation, forceNoInitials};
+    Text text = toString(mPersons, isFootnote, shortenedVersion, form, isRTF);
+    if (forceNoInitials && !mStyle->options.initialsOnly) {
+        // Not the former value: deliberate, hosts have come to rely on it.
+        const auto style = std::make_shared<AuthorStyle>(*mStyle);
+        style->options.initialsOnly = true;
+        mStyle = style;
+    }
+    return text;
+}
+
+Text OutputTemplateAuthor::toString(const std::shared_ptr<const AuthorPersons>& persons, bool isFootnote,
+                                    bool shortenedVersion, AuthorForm form, bool isRTF) const {
+    return procedure(*this, u"toString",
+                     {{u"isFootnote", isFootnote},
+                      {u"shortenedVersion", shortenedVersion},
+                      {u"isMinimal", form.isMinimal},
+                      {u"isCitation", form.isCitation},
+                      {u"forceNoInitials", form.forceNoInitials},
+                      {u"isRTF", isRTF}},
+                     [&] {
+                         AuthorWriter writer(*this, mStyle, persons, assembly(), mFormattedStr, form);
+                         return writer.assembledText(isFootnote, shortenedVersion, isRTF);
+                     });
+}
+
+void OutputTemplateAuthor::toCitationFormat(Text& form1, Text& form2) {
+    procedure(*this, u"toCitationFormat", {{u"form1", form1}, {u"form2", form2}}, [&] {
+        form1 = toString(false, true);
+        form2 = replaceAll(form1, kAmpersand, u"and");
     });
 }
 
+std::vector<Text> OutputTemplateAuthor::toKeywordList() const {
+    return procedure(*this, u"toKeywordList", kNoParameters, [&] { return keywordsOf(persons()); });
+}
+
+Text OutputTemplateAuthor::toMergedString() const {
+    return procedure(*this, u"toMergedString", kNoParameters, [&] {
+        return mergedText(persons(), contains(mStyle->andSeparator, kAmpersand) ? u" & " : u" and ");
+    });
+}
+
+bool OutputTemplateAuthor::isSameAuthor(TextView str1, TextView str2) {
+    return procedure(*this, u"isSameAuthor", {{u"str1", str1}, {u"str2", str2}},
+                     [&] { return areSame(*personsIn(str1), *personsIn(str2)); });
+}
+
+std::vector<Text> OutputTemplateAuthor::authors() const {
+    return procedure(*this, u"authors[Get]", kNoParameters, [&] { return rowsOf(persons()); });
+}
+
+void OutputTemplateAuthor::authors(const std::vector<Text>& values) {
+    procedure(*this, u"authors[Let]", {{u"values", values}}, [&] {
+        own();
+        const std::shared_ptr<AuthorPersons> persons = mPersons;
+        readRows(reader(), values, *persons);
+        mPersons = persons;
+    });
+}
+
+Text OutputTemplateAuthor::authorsForQVDb() const {
+    return procedure(*this, u"authorsForQVDb[Get]", kNoParameters, [&] { return join(rowsOf(persons()), u"; "); });
+}
+
+Text OutputTemplateAuthor::collapsePseudoToFirstName(TextView firstAuthor) const {
+    return procedure(*this, u"collapsePseudoToFirstName", {{u"firstAuthor", firstAuthor}}, [&] {
+        const Text& pseudoname = persons().pseudoname;
+        const bool isUnknown = pseudoname.empty() || pseudoname == kPseudonymMark;
+        return isUnknown ? Text(firstAuthor) : concatenate({firstAuthor, u" [", pseudoname, u"]"});
+    });
+}
+
+Text OutputTemplateAuthor::convertCommaToSemicolon(TextView text) const {
+    const std::shared_ptr<const AuthorPersons> persons = mPersons;
+    return quorvel::convertCommaToSemicolon(*this, *persons, text);
+}
+
+void OutputTemplateAuthor::ClearAuthors() {
+    procedure(*this, u"ClearAuthors", kNoParameters, [&] { own().clear(); });
+}
+
 bool OutputTemplateAuthor::isEmptyArrayAuthor() const {
-    return procedure(*this, u"isEmptyArrayAuthor", kNoParameters, [&] { return mNumAuthors == 0; });
+    return procedure(*this, u"isEmptyArrayAuthor", kNoParameters, [&] { return persons().isEmpty(); });
 }
 
 bool OutputTemplateAuthor::hasDiscussant() const {
-    return procedure(*this, u"hasDiscussant[Get]", kNoParameters, [&] { return mDiscussant != nullptr; });
+    return procedure(*this, u"hasDiscussant[Get]", kNoParameters, [&] { return persons().discussant.has_value(); });
 }
 
 bool OutputTemplateAuthor::Anthologies(std::int16_t index) const {
     return procedure(*this, u"Anthologies[Get]", {{u"index", index}},
-                     [&]() -> bool { return mAnthologies.at(at(index)); });
+                     [&]() -> bool { return persons().roles.at(static_cast<std::size_t>(index)); });
 }
 
 void OutputTemplateAuthor::Anthologies(std::int16_t index, bool value) {
     procedure(*this, u"Anthologies[Let]", {{u"index", index}, {u"value", value}},
-              [&] { mAnthologies.at(at(index)) = value; });
+              [&] { own().roles.at(static_cast<std::size_t>(index)) = value; });
+}
+
+Text OutputTemplateAuthor::editor() const {
+    const std::shared_ptr<const AuthorPersons> persons = mPersons;
+    const AuthorStyleRef style = mStyle;
+    return editorTag(*this, *style, *persons);
 }
 
 std::vector<bool> OutputTemplateAuthor::checkingArray() const {
     return procedure(*this, u"checkingArray[Get]", kNoParameters,
-                     [&] { return std::vector<bool>(at(authorlayout::kEditor) + 1, false); });
+                     [&] { return std::vector<bool>(authorlayout::kEditor + 1, false); });
 }
 
 Text OutputTemplateAuthor::residue() const {
-    return procedure(*this, u"residue[Get]", kNoParameters, [&] { return mResidue; });
+    return procedure(*this, u"residue[Get]", kNoParameters, [&] { return persons().residue; });
 }
 
 void OutputTemplateAuthor::residue(TextView value) {
-    procedure(*this, u"residue[Let]", {{u"value", value}}, [&] { mResidue = value; });
+    procedure(*this, u"residue[Let]", {{u"value", value}}, [&] { own().residue = value; });
 }
 
 bool OutputTemplateAuthor::LastNameFirstForAuthor1() const {
-    return procedure(*this, u"LastNameFirstForAuthor1[Get]", kNoParameters, [&] { return mLastNameFirstForAuthor1; });
+    return procedure(*this, u"LastNameFirstForAuthor1[Get]", kNoParameters, [&] { return persons().lastNameFirst; });
 }
 
 bool OutputTemplateAuthor::isJapaneseOrChineseLastName() const {
     return procedure(*this, u"isJapaneseOrChineseLastName[Get]", kNoParameters, [&] {
-        return mNumAuthors > 0 && author(0).firstNames.empty() &&
-               authorwords::wordOf(author(0).lastName).is(authorwords::kEastAsianLastName);
+        return numAuthors() > 0 && person(0).firstNames.empty() &&
+               authorwords::wordOf(person(0).lastName).is(authorwords::kEastAsianLastName);
     });
 }
 
 bool OutputTemplateAuthor::supportsCompilerAndEditor() const {
     return procedure(*this, u"supportsCompilerAndEditor[Get]", kNoParameters,
-                     [&] { return mSupportsCompilerAndEditor; });
+                     [&] { return mStyle->options.supportsCompilerAndEditor; });
 }
 
 bool OutputTemplateAuthor::SupportAnonAndPseudoAuthors() const {
     return procedure(*this, u"SupportAnonAndPseudoAuthors[Get]", kNoParameters,
-                     [&] { return mSupportAnonAndPseudoAuthors; });
+                     [&] { return mStyle->options.SupportAnonAndPseudoAuthors; });
 }
 
 bool OutputTemplateAuthor::SquareBracketIsForFirstName() const {
     return procedure(*this, u"SquareBracketIsForFirstName[Get]", kNoParameters,
-                     [&] { return mSquareBracketIsForFirstName; });
+                     [&] { return mStyle->options.SquareBracketIsForFirstName; });
 }
 
 void OutputTemplateAuthor::dumpVariables(VBWPROTECTOR& report) const {
+    // Held, since the host may replace them between two of the reports.
+    const AuthorStyleRef style = mStyle;
+    const AuthorOptions& options = style->options;
+    const AuthorPersons persons = *mPersons;
+    const OutputSinkRef formattedStr = mFormattedStr;
     std::vector<Text> people;
-    for (std::int32_t i = 0; i < mNumAuthors; ++i) {
-        const AuthorRecord& person = mAuthors[at(i)];
+    for (std::int16_t i = 0; i < persons.size(); ++i) {
+        const AuthorRecord& person = persons.at(i);
         people.push_back(concatenate({person.lastName, u"|", person.firstNames, u"|", person.postfix}));
     }
-    report.vbwReportVariable(u"Pseudoname", Pseudoname);
-    report.vbwReportVariable(u"AuthorType", AuthorType);
-    report.vbwReportVariable(u"HasEtAl", HasEtAl);
-    report.vbwReportVariable(u"mLastNameFirstForAuthor1", mLastNameFirstForAuthor1);
-    report.vbwReportVariable(u"mSupportAnonAndPseudoAuthors", mSupportAnonAndPseudoAuthors);
-    report.vbwReportVariable(u"mSquareBracketIsForFirstName", mSquareBracketIsForFirstName);
-    report.vbwReportVariable(u"mEditorTagsSingular", mEditorTagsSingular);
-    report.vbwReportVariable(u"mEditorTagsPlural", mEditorTagsPlural);
-    report.vbwReportVariable(u"mAndSeparator", mAndSeparator);
-    report.vbwReportVariable(u"mReverseSecondaryAuthors", mReverseSecondaryAuthors);
-    report.vbwReportVariable(u"mReversedAuthorUsesComma", mReversedAuthorUsesComma);
-    report.vbwReportVariable(u"mReversedAuthorPostfixUsesComma", mReversedAuthorPostfixUsesComma);
-    report.vbwReportVariable(u"mNumAuthorsToTriggerEtAl", mNumAuthorsToTriggerEtAl);
-    report.vbwReportVariable(u"mNumAuthorsToTriggerEtAlCitation", mNumAuthorsToTriggerEtAlCitation);
-    report.vbwReportVariable(u"mNumAuthorsToTriggerEtAlMinimalString", mNumAuthorsToTriggerEtAlMinimalString);
-    report.vbwReportVariable(u"mNumAuthorsInEtAl", mNumAuthorsInEtAl);
-    report.vbwReportVariable(u"mNumAuthorsInEtAlMinimalString", mNumAuthorsInEtAlMinimalString);
-    report.vbwReportVariable(u"mEtAlUsesElipses", mEtAlUsesElipses);
-    report.vbwReportVariable(u"mEtAlInReferenceList", mEtAlInReferenceList);
-    report.vbwReportVariable(u"mInitialsOnly", mInitialsOnly);
-    report.vbwReportVariable(u"mInitialsUsePeriods", mInitialsUsePeriods);
-    report.vbwReportVariable(u"mSemicolonBetweenGroupAuthors", mSemicolonBetweenGroupAuthors);
-    report.vbwReportVariable(u"mAnthologies", mAnthologies);
-    report.vbwReportVariable(u"mCompStrings", mCompStrings);
-    report.vbwReportVariable(u"mEditorStrings", mEditorStrings);
-    report.vbwReportVariable(u"mTranslatorStrings", mTranslatorStrings);
-    report.vbwReportVariable(u"mSupportsCompilerAndEditor", mSupportsCompilerAndEditor);
-    report.vbwReportVariable(u"mReverseFirstOnFootnote", mReverseFirstOnFootnote);
-    report.vbwReportVariable(u"mEtAlSeparator", mEtAlSeparator);
-    report.vbwReportVariable(u"mEtAlCitationSeparator", mEtAlCitationSeparator);
-    report.vbwReportVariable(u"mEditorSeparator", mEditorSeparator);
-    report.vbwReportVariable(u"mTwoAuthorsIsOnlyCaseHaveNoComma", mTwoAuthorsIsOnlyCaseHaveNoComma);
+    report.vbwReportVariable(u"Pseudoname", persons.pseudoname);
+    report.vbwReportVariable(u"AuthorType", persons.authorType);
+    report.vbwReportVariable(u"HasEtAl", persons.hasEtAl);
+    report.vbwReportVariable(u"mLastNameFirstForAuthor1", persons.lastNameFirst);
+    report.vbwReportVariable(u"mSupportAnonAndPseudoAuthors", options.SupportAnonAndPseudoAuthors);
+    report.vbwReportVariable(u"mSquareBracketIsForFirstName", options.SquareBracketIsForFirstName);
+    report.vbwReportVariable(u"mEditorTagsSingular", style->editorTagsSingular);
+    report.vbwReportVariable(u"mEditorTagsPlural", style->editorTagsPlural);
+    report.vbwReportVariable(u"mAndSeparator", style->andSeparator);
+    report.vbwReportVariable(u"mReverseSecondaryAuthors", options.reverseSecondaryAuthors);
+    report.vbwReportVariable(u"mReversedAuthorUsesComma", options.reversedAuthorUsesComma);
+    report.vbwReportVariable(u"mReversedAuthorPostfixUsesComma", options.reversedAuthorPostfixUsesComma);
+    report.vbwReportVariable(u"mNumAuthorsToTriggerEtAl", options.numAuthorsToTriggerEtAl);
+    report.vbwReportVariable(u"mNumAuthorsToTriggerEtAlCitation", options.numAuthorsToTriggerEtAlCitation);
+    report.vbwReportVariable(u"mNumAuthorsToTriggerEtAlMinimalString", options.numAuthorsToTriggerEtAlMinimalString);
+    report.vbwReportVariable(u"mNumAuthorsInEtAl", options.numAuthorsInEtAl);
+    report.vbwReportVariable(u"mNumAuthorsInEtAlMinimalString", options.numAuthorsInEtAlMinimalString);
+    report.vbwReportVariable(u"mEtAlUsesElipses", options.etAlUsesElipses);
+    report.vbwReportVariable(u"mEtAlInReferenceList", options.etAlInReferenceList);
+    report.vbwReportVariable(u"mInitialsOnly", options.initialsOnly);
+    report.vbwReportVariable(u"mInitialsUsePeriods", options.initialsUsePeriods);
+    report.vbwReportVariable(u"mSemicolonBetweenGroupAuthors", options.semicolonBetweenGroupAuthors);
+    report.vbwReportVariable(u"mAnthologies", std::vector<bool>(persons.roles.begin(), persons.roles.end()));
+    report.vbwReportVariable(u"mCompStrings", texts(kCompStrings));
+    report.vbwReportVariable(u"mEditorStrings", texts(kEditorStrings));
+    report.vbwReportVariable(u"mTranslatorStrings", texts(kTranslatorStrings));
+    report.vbwReportVariable(u"mSupportsCompilerAndEditor", options.supportsCompilerAndEditor);
+    report.vbwReportVariable(u"mReverseFirstOnFootnote", options.ReverseFirstOnFootnote);
+    report.vbwReportVariable(u"mEtAlSeparator", style->etAlSeparator);
+    report.vbwReportVariable(u"mEtAlCitationSeparator", style->etAlCitationSeparator);
+    report.vbwReportVariable(u"mEditorSeparator", options.editorSeparator);
+    report.vbwReportVariable(u"mTwoAuthorsIsOnlyCaseHaveNoComma", options.twoAuthorsIsOnlyCaseHaveNoComma);
     report.vbwReportVariable(u"mAuthors", people);
-    report.vbwReportVariable(u"mNumAuthors", mNumAuthors);
-    report.vbwReportVariable(u"mFirstGroupAuthorIndex", mFirstGroupAuthorIndex);
-    report.vbwReportVariable(u"mResidue", mResidue);
+    report.vbwReportVariable(u"mNumAuthors", persons.size());
+    report.vbwReportVariable(u"mFirstGroupAuthorIndex", persons.firstGroup);
+    report.vbwReportVariable(u"mResidue", persons.residue);
     report.vbwReportVariable(u"mPreviousStr", mPreviousStr);
-    report.vbwReportVariable(u"mEditorTokens", mEditorTokens);
-    report.vbwReportVariable(u"mChapterTypes", mChapterTypes);
+    report.vbwReportVariable(u"mEditorTokens", texts(kEditorTokens));
+    report.vbwReportVariable(u"mChapterTypes", texts(authorwords::kChapterTypes));
     report.vbwReportVariable(u"mOutputTemplate", HostObjectRef());
-    report.vbwReportVariable(u"mFormattedStr", mFormattedStr);
+    report.vbwReportVariable(u"mFormattedStr", formattedStr);
     report.vbwReportVariable(u"mYearTemplate", HostObjectRef());
 }
 

@@ -1,12 +1,10 @@
+#include "elements/author/institutions.h"
+
 #include <algorithm>
 
 #include "core/procedure.h"
-#include "elements/author/author.h"
 
-/// Corporate authors: which names are institutions, and which commas and and-words are part of one.
-namespace quorvel {
-
-using namespace authorwords;
+namespace quorvel::authorwords {
 
 namespace {
 
@@ -52,10 +50,6 @@ bool hasHead(WordSpan words) {
         }
     }
     return false;
-}
-
-bool beginsWithThe(WordSpan words) {
-    return words.size() > 1 && words[0].text == u"The";
 }
 
 bool holdsTopic(WordSpan words) {
@@ -106,40 +100,45 @@ bool isOneOf(PieceKind kind, std::initializer_list<PieceKind> kinds) {
 
 }  // namespace
 
-bool OutputTemplateAuthor::isInstitutionalAuthor(WordSpan words) const {
-    return procedure(*this, u"isInstitutionalAuthor", {{u"words", authorwords::textOf(words)}},
-                     [&] { return beginsWithThe(words) || isInstitution(words); });
+bool beginsWithThe(WordSpan words) {
+    return words.size() > 1 && words[0].text == u"The";
 }
 
-bool OutputTemplateAuthor::isInstitution(WordSpan words) const {
-    return procedure(*this, u"isInstitution", {{u"words", authorwords::textOf(words)}}, [&] {
+bool isInstitutionalAuthor(const Instrumented& element, WordSpan words) {
+    return procedure(element, u"isInstitutionalAuthor", {{u"words", textOf(words)}},
+                     [&] { return beginsWithThe(words) || isInstitution(element, words); });
+}
+
+bool isInstitution(const Instrumented& element, WordSpan words) {
+    return procedure(element, u"isInstitution", {{u"words", textOf(words)}}, [&] {
         if (!hasInstitutionalWord(words) || isCompactPerson(words) || isPersonWithSuchName(words)) {
             return false;
         }
         return beginsWithThe(words) || hasPreposition(words) ||
-               std::any_of(words.begin(), words.end(), [&](const Word& word) { return isInstitutionWord(word); });
+               std::any_of(words.begin(), words.end(),
+                           [&](const Word& word) { return isInstitutionWord(element, word); });
     });
 }
 
-bool OutputTemplateAuthor::isInstitutionWord(const Word& word) const {
-    return procedure(*this, u"isInstitutionWord", {{u"word", word.text}}, [&] {
+bool isInstitutionWord(const Instrumented& element, const Word& word) {
+    return procedure(element, u"isInstitutionWord", {{u"word", word.text}}, [&] {
         return word.is(kInstitutionHead | kInstitutionWord | kCompanyEnding) || isBareNumber(word);
     });
 }
 
-bool OutputTemplateAuthor::possibleAuthor(TextView text) const {
-    return procedure(*this, u"possibleAuthor", {{u"text", text}}, [&] {
-        const ListText list{Text(text)};
+bool possibleAuthor(const Instrumented& element, TextView text) {
+    return procedure(element, u"possibleAuthor", {{u"text", text}}, [&] {
+        const AuthorListText list{Text(text)};
         return std::any_of(std::begin(kPossibleAuthorMarks), std::end(kPossibleAuthorMarks),
                            [&](TextView mark) { return contains(text, mark); }) ||
-               (!list.words().empty() && isInstitutionalAuthor(list.words()));
+               (!list.words().empty() && isInstitutionalAuthor(element, list.words()));
     });
 }
 
 /// Whether the and-word between two pieces is part of an institution's name.
-bool OutputTemplateAuthor::isOneAuthorWithAnAndInIt(const ListText& text, std::size_t leftPiece,
-                                                    const Piece& right) const {
-    return procedure(*this, u"isOneAuthorWithAnAndInIt", {{u"text", text.text()}}, [&] {
+bool isOneAuthorWithAnAndInIt(const Instrumented& element, const AuthorListText& text, std::size_t leftPiece,
+                              const Piece& right) {
+    return procedure(element, u"isOneAuthorWithAnAndInIt", {{u"text", text.text()}}, [&] {
         using enum PieceKind;
         const Words& words = text.words();
         const Piece& left = text.pieces()[leftPiece];
@@ -188,7 +187,7 @@ bool OutputTemplateAuthor::isOneAuthorWithAnAndInIt(const ListText& text, std::s
 }
 
 /// Puts together what a comma parts and is one institution.
-void OutputTemplateAuthor::mergeInstitutions(ListText& text) const {
+void mergeInstitutions(AuthorListText& text) {
     std::pmr::vector<Piece>& pieces = text.pieces();
     const bool isPair = pieces.size() == 2;
     std::size_t kept = 0;
@@ -223,4 +222,4 @@ void OutputTemplateAuthor::mergeInstitutions(ListText& text) const {
     }
 }
 
-}  // namespace quorvel
+}  // namespace quorvel::authorwords

@@ -1,14 +1,13 @@
+#include "elements/author/names.h"
+
 #include <algorithm>
 
 #include "core/common_testing_functions.h"
 #include "core/letter_case.h"
 #include "core/procedure.h"
-#include "elements/author/author.h"
+#include "elements/author/institutions.h"
 
-/// From a name in direct order to its parts: where the last name begins, postfixes, prefixes.
-namespace quorvel {
-
-using namespace authorwords;
+namespace quorvel::authorwords {
 
 namespace {
 
@@ -89,10 +88,8 @@ void appendInitials(TextView word, Text& firstNames) {
     }
 }
 
-}  // namespace
-
 /// The first names with each initial on its own and with its full stop, however they were printed.
-void OutputTemplateAuthor::writeFirstNames(const Person& person, Text& firstNames) {
+void writeFirstNames(const Person& person, Text& firstNames) {
     for (std::size_t from = 0; from < person.first.size();) {
         const std::size_t end = std::min(person.first.find(u' ', from), person.first.size());
         const TextView word = person.first.substr(from, end - from);
@@ -112,21 +109,55 @@ void OutputTemplateAuthor::writeFirstNames(const Person& person, Text& firstName
 }
 
 /// "Chao Wu-chi", "Kurosawa Akira": the last name stands first without a comma.
-bool OutputTemplateAuthor::isLastNameFirst(WordSpan words) {
+bool isLastNameFirst(WordSpan words) {
     return words.size() == 2 && !words[0].is(kFirstName) && words[0].shape == Shape::Name &&
            words[1].shape == Shape::Name && (words[0].is(kEastAsianLastName) || isHyphenedGivenName(words[1].text));
 }
 
-bool OutputTemplateAuthor::beginsWithThe(WordSpan words) {
-    return words.size() > 1 && words[0].text == u"The";
+bool isArabicLastName(const Instrumented& element, const Word& word) {
+    return procedure(element, u"isArabicLastName", {{u"word", word.text}}, [&] {
+        return word.is(kArabicOpening) ||
+               std::any_of(std::begin(kArabicPrefixes), std::end(kArabicPrefixes), [&](TextView prefix) {
+                   return word.text.size() > prefix.size() && startsWith(word.text, prefix);
+               });
+    });
+}
+
+/// "Ibn Khaldun", "Ibn al-Haytham": no first names.
+bool isArabicName(const Instrumented& element, WordSpan words) {
+    return procedure(element, u"isArabicName", {{u"words", textOf(words)}}, [&] {
+        return words.size() > 1 && words[0].is(kArabicOpening) &&
+               (words.size() == 2 || isArabicLastName(element, words[1]));
+    });
+}
+
+/// Whether a word that is neither the first nor the last begins the last name.
+bool isPartialLastName(const Instrumented& element, const Word& word) {
+    return procedure(element, u"isPartialLastName", {{u"word", word.text}}, [&] {
+        if (word.isInitials()) {
+            return false;
+        }
+        return word.is(kParticle | kPartialLastName) || word.isLower() || isArabicLastName(element, word);
+    });
+}
+
+/// The "de" before this name stands with the first names.
+bool dePartOfFirstName(const Instrumented& element, const Word& lastName) {
+    return procedure(element, u"dePartOfFirstName", {{u"lastName", lastName.text}},
+                     [&] { return isOneOf(toLower(lastName.text), kNamesWithoutDe); });
+}
+
+bool isSpanishY(const Instrumented& element, const Word& word) {
+    return procedure(element, u"isSpanishY", {{u"word", word.text}},
+                     [&] { return word.isLower() && word.is(kNameConjunction); });
 }
 
 /// The index of the last word of the first names, -1 when there are none: the last name begins at the
 /// first word that belongs to one.
-std::int16_t OutputTemplateAuthor::getFirstNameUbound(WordSpan words) const {
-    return procedure(*this, u"getFirstNameUbound", {{u"words", authorwords::textOf(words)}}, [&]() -> std::int16_t {
+std::int16_t getFirstNameUbound(const Instrumented& element, WordSpan words) {
+    return procedure(element, u"getFirstNameUbound", {{u"words", textOf(words)}}, [&]() -> std::int16_t {
         const auto n = std::min<std::size_t>(words.size(), INT16_MAX);
-        if (n < 2 || (words[0].is(kArabicOpening) && isArabicName(words)) ||
+        if (n < 2 || (words[0].is(kArabicOpening) && isArabicName(element, words)) ||
             (words[0].isLower() && words[0].is(kParticle | kLowerParticle))) {
             return -1;
         }
@@ -150,54 +181,22 @@ std::int16_t OutputTemplateAuthor::getFirstNameUbound(WordSpan words) const {
                     continue;
                 }
             }
-            if (isSpanishY(words[i])) {
+            if (isSpanishY(element, words[i])) {
                 begin = std::max<std::size_t>(i - 1, 1);
-            } else if (isPartialLastName(words[i]) || endsWithHyphenedParticle(words[i])) {
+            } else if (isPartialLastName(element, words[i]) || endsWithHyphenedParticle(words[i])) {
                 begin = i;
             }
         }
-        if (begin + 2 == n && words[begin].isLower() && dePartOfFirstName(words[begin + 1])) {
+        if (begin + 2 == n && words[begin].isLower() && dePartOfFirstName(element, words[begin + 1])) {
             ++begin;
         }
         return static_cast<std::int16_t>(begin - 1);
     });
 }
 
-/// Whether a word that is neither the first nor the last begins the last name.
-bool OutputTemplateAuthor::isPartialLastName(const Word& word) const {
-    return procedure(*this, u"isPartialLastName", {{u"word", word.text}}, [&] {
-        if (word.isInitials()) {
-            return false;
-        }
-        return word.is(kParticle | kPartialLastName) || word.isLower() || isArabicLastName(word);
-    });
-}
-
-/// The "de" before this name stands with the first names.
-bool OutputTemplateAuthor::dePartOfFirstName(const Word& lastName) const {
-    return procedure(*this, u"dePartOfFirstName", {{u"lastName", lastName.text}},
-                     [&] { return isOneOf(toLower(lastName.text), kNamesWithoutDe); });
-}
-
-/// "Ibn Khaldun", "Ibn al-Haytham": no first names.
-bool OutputTemplateAuthor::isArabicName(WordSpan words) const {
-    return procedure(*this, u"isArabicName", {{u"words", authorwords::textOf(words)}}, [&] {
-        return words.size() > 1 && words[0].is(kArabicOpening) && (words.size() == 2 || isArabicLastName(words[1]));
-    });
-}
-
-bool OutputTemplateAuthor::isArabicLastName(const Word& word) const {
-    return procedure(*this, u"isArabicLastName", {{u"word", word.text}}, [&] {
-        return word.is(kArabicOpening) ||
-               std::any_of(std::begin(kArabicPrefixes), std::end(kArabicPrefixes), [&](TextView prefix) {
-                   return word.text.size() > prefix.size() && startsWith(word.text, prefix);
-               });
-    });
-}
-
 /// "Hakim, Tawfiq al-" is al-Hakim, "Medici, Lorenzo de'" is de' Medici.
-void OutputTemplateAuthor::moveApostrophePrefix(Person& person) const {
-    procedure(*this, u"moveApostrophePrefix", {{u"firstNames", person.first}}, [&] {
+void moveApostrophePrefix(const Instrumented& element, Person& person) {
+    procedure(element, u"moveApostrophePrefix", {{u"firstNames", person.first}}, [&] {
         const std::size_t blank = person.first.rfind(u' ');
         if (blank == TextView::npos || !isOneOf(person.first.substr(blank + 1), kApostrophePrefixes)) {
             return;
@@ -207,29 +206,105 @@ void OutputTemplateAuthor::moveApostrophePrefix(Person& person) const {
     });
 }
 
-bool OutputTemplateAuthor::isSpanishY(const Word& word) const {
-    return procedure(*this, u"isSpanishY", {{u"word", word.text}},
-                     [&] { return word.isLower() && word.is(kNameConjunction); });
-}
-
-bool OutputTemplateAuthor::isFirstName(const Word& word) const {
-    return procedure(*this, u"isFirstName", {{u"word", word.text}}, [&] { return word.is(kFirstName); });
-}
-
-void OutputTemplateAuthor::parseAndRemovePostfix(WordSpan& words, Person& person) const {
-    procedure(*this, u"parseAndRemovePostfix", {{u"words", authorwords::textOf(words)}}, [&] {
+void parseAndRemovePostfix(const Instrumented& element, WordSpan& words, Person& person) {
+    procedure(element, u"parseAndRemovePostfix", {{u"words", textOf(words)}}, [&] {
         const WordSpan name = withoutPostfix(words);
         if (name.size() < words.size()) {
-            person.postfix = authorwords::textOf(words.subspan(name.size()));
+            person.postfix = textOf(words.subspan(name.size()));
             words = name;
         }
     });
 }
 
-bool OutputTemplateAuthor::isRomanNumeralPostfix(TextView word) const {
-    return procedure(*this, u"isRomanNumeralPostfix", {{u"word", word}}, [&] {
+}  // namespace
+
+/// One name that stands by itself, first names first.
+Person parseAuthor(const Instrumented& element, WordSpan words) {
+    Person person;
+    procedure(element, u"parseAuthor", {{u"words", textOf(words)}}, [&] {
+        if (words.size() > 1 && words.back().isBracketed) {
+            person.supplied = words.back().text;
+            words = words.first(words.size() - 1);
+        }
+        if (beginsWithThe(words)) {
+            person.last = textOf(words);
+            person.isGroup = true;
+            return;
+        }
+        if (words.back().is(kPostfix)) {
+            parseAndRemovePostfix(element, words, person);
+        }
+        if (isLastNameFirst(words)) {
+            person.last = words[0].text;
+            person.first = words[1].text;
+            return;
+        }
+        const auto firstNames = static_cast<std::size_t>(getFirstNameUbound(element, words) + 1);
+        person.first = textOf(words.first(firstNames));
+        person.last = textOf(words.subspan(firstNames));
+    });
+    return person;
+}
+
+Person parseReversedAuthor(const Instrumented& element, WordSpan last, WordSpan first) {
+    Person person;
+    if (first.back().is(kPostfix)) {
+        parseAndRemovePostfix(element, first, person);
+    } else if (last.back().is(kPostfix)) {
+        parseAndRemovePostfix(element, last, person);
+    }
+    person.last = textOf(last);
+    if (first.size() > 1 && first.back().isBracketed) {
+        person.supplied = first.back().text;
+        first = first.first(first.size() - 1);
+    }
+    person.first = textOf(first);
+    if (first.size() > 1 && first.back().isLower()) {
+        moveApostrophePrefix(element, person);
+    }
+    return person;
+}
+
+Person parseCompactAuthor(const Instrumented& element, WordSpan words) {
+    Person person;
+    if (words.back().is(kPostfix)) {
+        parseAndRemovePostfix(element, words, person);
+    }
+    // "Smith JA", "Smith J A"
+    std::size_t initials = words.size() - 1;
+    while (initials > 1 && words[initials - 1].isInitials()) {
+        --initials;
+    }
+    person.last = textOf(words.first(initials));
+    person.first = textOf(words.subspan(initials));
+    return person;
+}
+
+bool isRomanNumeralPostfix(const Instrumented& element, TextView word) {
+    return procedure(element, u"isRomanNumeralPostfix", {{u"word", word}}, [&] {
         return CommonTestingFunctions::isRomanNumeral(word) && word.find_first_not_of(kPostfixDigits) == TextView::npos;
     });
 }
 
-}  // namespace quorvel
+bool isFirstName(const Instrumented& element, const Word& word) {
+    return procedure(element, u"isFirstName", {{u"word", word.text}}, [&] { return word.is(kFirstName); });
+}
+
+void store(const Person& person, AuthorPersons& persons) {
+    if (person.last.empty() && person.first.empty()) {
+        return;
+    }
+    if (person.isGroup && persons.firstGroup < 0) {
+        persons.firstGroup = persons.size();
+    }
+    AuthorRecord& record = persons.add();
+    record.lastName.append(person.prefix);
+    if (!person.prefix.empty() && person.prefix.back() != u'-') {
+        record.lastName.push_back(u' ');
+    }
+    record.lastName.append(person.last);
+    writeFirstNames(person, record.firstNames);
+    record.postfix = writtenPostfix(person.postfix);
+}
+
+}  // namespace quorvel::authorwords

@@ -1,13 +1,12 @@
+#include "elements/author/residue.h"
+
 #include <algorithm>
 
 #include "core/letter_case.h"
 #include "core/procedure.h"
-#include "elements/author/author.h"
+#include "elements/author/institutions.h"
 
-/// Text of other elements that stands in the author's place. Each step takes one kind of it off.
-namespace quorvel {
-
-using namespace authorwords;
+namespace quorvel::authorwords {
 
 namespace {
 
@@ -15,6 +14,7 @@ constexpr TextView kEllipses[] = {u". . . .", u". . .", u"....", u"...", u"\u202
 constexpr TextView kFinalSeparator = u", & ";
 constexpr TextView kSameAuthorMarks[] = {u"---", u"\u2014\u2014\u2014"};
 constexpr TextView kTranslatorMarks[] = {u", trans.", u"trans. "};
+
 constexpr TextView kNoDate = u"(n.d.";
 constexpr TextView kInPress = u"in press";
 constexpr TextView kVolumeMarks[] = {u"vol. ", u", edited by "};
@@ -54,46 +54,43 @@ bool isTagOrAnd(const Word& word) {
     return word.is(kAnyTag | kAnd | kTagOrnament);
 }
 
-}  // namespace
+bool isAtSuffixIndex(const Instrumented& element, TextView text, std::size_t index) {
+    return procedure(element, u"isAtSuffixIndex", {{u"text", text}, {u"index", static_cast<std::int32_t>(index)}}, [&] {
+        const Text lower = toLower(text.substr(std::min(index, text.size()), kUsualSuffixLength));
+        return std::any_of(std::begin(kSuffixes), std::end(kSuffixes),
+                           [&](TextView suffix) { return isAt(lower, 0, suffix); });
+    });
+}
 
-void OutputTemplateAuthor::parseAndRemoveResidue(ListText& text) {
-    /// A step, and the features without which a text cannot concern it.
-    struct Step {
-        void (OutputTemplateAuthor::*remove)(ListText&);
-        std::uint32_t features;
-    };
-    using Author = OutputTemplateAuthor;
-    // The order matters: each step relies on what the ones before it took off.
-    static constexpr Step kSteps[] = {
-        {&Author::parseAndRemoveElipses, kHasEllipsis},
-        {&Author::parseAndRemoveSameAsLastAuthor, kHasDashes},
-        {&Author::parseAndRemoveTranslator, kHasTranslator},
-        {&Author::parseAndRemoveResidueChapterType, kHasResidueWord},
-        {&Author::parseAndRemoveResidueNoDate, kHasBracket},
-        {&Author::parseAndRemoveResidueBracket, kHasResidueWord},
-        {&Author::parseAndRemoveResidueQuote, kHasQuote},
-        {&Author::parseAndRemoveResidueVolume, kHasResidueWord},
-        {&Author::parseAndRemoveResidueEditor, kHasColon},
-        {&Author::parseAndRemoveResidueAMAAuthor, kHasSentenceBreak | kHasEt | kHasCompactName},
-        {&Author::parseAndRemoveCorporateAuthor, kHasSentenceBreak},
-        {&Author::parseAndRemoveResidueByInitials, kHasSentenceBreak},
-        {&Author::parseAndRemoveResidueByNumeral, kHasDigit},
-        {&Author::parseAndRemoveResidueByPublisher, kHasColon},
-    };
-    procedure(*this, u"parseAndRemoveResidue", {{u"text", text.text()}}, [&] {
-        for (const Step& step : kSteps) {
-            if (text.has(step.features)) {
-                (this->*step.remove)(text);
+bool isAtInitialOrPostfixIndex(const Instrumented& element, TextView text, std::size_t index) {
+    return procedure(
+        element, u"isAtInitialOrPostfixIndex", {{u"text", text}, {u"index", static_cast<std::int32_t>(index)}}, [&] {
+            if (isAtSuffixIndex(element, text, index)) {
+                return true;
             }
-        }
+            const Text lower = toLower(text.substr(std::min(index, text.size()), kUsualSuffixLength));
+            const bool isAbbreviation =
+                std::any_of(std::begin(kAbbreviations), std::end(kAbbreviations), [&](TextView mark) {
+                    return isAt(lower, 0, mark) && (lower.size() <= mark.size() || !isCasedLetter(lower[mark.size()]));
+                });
+            const bool isInitial = lower.size() > 2 && lower[0] == u' ' && lower[2] == u'.';
+            return isAbbreviation || isInitial;
+        });
+}
+
+bool isAtEtAlIndex(const Instrumented& element, TextView text, std::size_t index) {
+    return procedure(element, u"isAtEtAlIndex", {{u"text", text}, {u"index", static_cast<std::int32_t>(index)}}, [&] {
+        return isAt(toLower(text.substr(std::min(index, text.size()), kEtAlMark.size())), 0, kEtAlMark);
     });
 }
 
 /// The text from `from` on belongs to other elements; its first `skip` characters to nobody.
-void OutputTemplateAuthor::cutResidue(ListText& text, std::size_t from, std::size_t skip) {
+void cutResidue(AuthorReading& reading, std::size_t from, std::size_t skip = 0) {
+    AuthorListText& text = reading.list;
+    Text& residue = reading.persons.residue;
     const TextView whole = text.text();
     const TextView tail = trim(whole.substr(std::min(from + skip, whole.size())));
-    mResidue = mResidue.empty() ? Text(tail) : concatenate({tail, u" ", mResidue});
+    residue = residue.empty() ? Text(tail) : concatenate({tail, u" ", residue});
     TextView head = whole.substr(0, from);
     while (!head.empty() && kSeparatorsAtEnd.find(head.back()) != TextView::npos) {
         head.remove_suffix(1);
@@ -101,15 +98,16 @@ void OutputTemplateAuthor::cutResidue(ListText& text, std::size_t from, std::siz
     text.assign(Text(head));
 }
 
-void OutputTemplateAuthor::parseAndRemoveElipses(ListText& text) {
-    procedure(*this, u"parseAndRemoveElipses", {{u"text", text.text()}}, [&] {
+void parseAndRemoveElipses(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveElipses", {{u"text", text.text()}}, [&] {
         const TextView whole = text.text();
         for (const TextView ellipsis : kEllipses) {
             const std::size_t at = whole.find(ellipsis);
             if (at == TextView::npos) {
                 continue;
             }
-            HasEtAl = true;
+            reading.persons.hasEtAl = true;
             TextView head = whole.substr(0, at);
             while (!head.empty() && (head.back() == u' ' || head.back() == u',')) {
                 head.remove_suffix(1);
@@ -124,8 +122,9 @@ void OutputTemplateAuthor::parseAndRemoveElipses(ListText& text) {
     });
 }
 
-void OutputTemplateAuthor::parseAndRemoveSameAsLastAuthor(ListText& text) {
-    procedure(*this, u"parseAndRemoveSameAsLastAuthor", {{u"text", text.text()}}, [&] {
+void parseAndRemoveSameAsLastAuthor(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveSameAsLastAuthor", {{u"text", text.text()}}, [&] {
         for (const TextView mark : kSameAuthorMarks) {
             if (!startsWith(text.text(), mark)) {
                 continue;
@@ -134,15 +133,16 @@ void OutputTemplateAuthor::parseAndRemoveSameAsLastAuthor(ListText& text) {
             while (!rest.empty() && (rest.front() == mark.front() || rest.front() == u'.')) {
                 rest.remove_prefix(1);
             }
-            text.assign(cleanUp(concatenate({mPreviousStr, rest})));
+            text.assign(cleanUp(concatenate({reading.previousStr, rest})));
             return;
         }
     });
 }
 
 /// ", trans." at the very end is the tag of these persons; with a name behind it it is not theirs.
-void OutputTemplateAuthor::parseAndRemoveTranslator(ListText& text) {
-    procedure(*this, u"parseAndRemoveTranslator", {{u"text", text.text()}}, [&] {
+void parseAndRemoveTranslator(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveTranslator", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
         const auto last = std::find_if_not(words.rbegin(), words.rend(), isTagOrAnd);
         if (last == words.rend()) {
@@ -153,7 +153,7 @@ void OutputTemplateAuthor::parseAndRemoveTranslator(ListText& text) {
         for (const TextView mark : kTranslatorMarks) {
             for (std::size_t at = lower.find(mark); at < lastOther; at = lower.find(mark, at + 1)) {
                 if (mark.front() == u',' || at == 0 || lower[at - 1] == u' ') {
-                    cutResidue(text, at, mark.front() == u',' ? 1 : 0);
+                    cutResidue(reading, at, mark.front() == u',' ? 1 : 0);
                     return;
                 }
             }
@@ -161,82 +161,89 @@ void OutputTemplateAuthor::parseAndRemoveTranslator(ListText& text) {
     });
 }
 
-void OutputTemplateAuthor::parseAndRemoveResidueChapterType(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueChapterType", {{u"text", text.text()}}, [&] {
-        for (const Text& type : mChapterTypes) {
+void parseAndRemoveResidueChapterType(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueChapterType", {{u"text", text.text()}}, [&] {
+        for (const TextView type : kChapterTypes) {
             const std::size_t at = text.text().find(type);
             if (at == Text::npos) {
                 continue;
             }
             if (at > 0) {
-                cutResidue(text, at);
+                cutResidue(reading, at);
                 return;
             }
-            mResidue = type;
+            reading.persons.residue = type;
             text.assign(Text(trim(TextView(text.text()).substr(type.size()))));
             return;
         }
     });
 }
 
-void OutputTemplateAuthor::parseAndRemoveResidueNoDate(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueNoDate", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueNoDate(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueNoDate", {{u"text", text.text()}}, [&] {
         const std::size_t at = text.text().find(kNoDate);
         if (at != Text::npos) {
-            cutResidue(text, at);
+            cutResidue(reading, at);
         }
     });
 }
 
-void OutputTemplateAuthor::parseAndRemoveResidueBracket(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueBracket", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueBracket(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueBracket", {{u"text", text.text()}}, [&] {
         std::size_t at = toLower(text.text()).find(kInPress);
         if (at == Text::npos) {
             return;
         }
         const bool isBracketed = at > 0 && (text.text()[at - 1] == u'(' || text.text()[at - 1] == u'[');
-        cutResidue(text, isBracketed ? at - 1 : at);
+        cutResidue(reading, isBracketed ? at - 1 : at);
     });
 }
 
 /// A title in quotation marks; 'William "Bill" Gates' is none.
-void OutputTemplateAuthor::parseAndRemoveResidueQuote(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueQuote", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueQuote(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueQuote", {{u"text", text.text()}}, [&] {
         const TextView whole = text.text();
         const std::size_t at = whole.find_first_of(kOpeningQuotes);
         const std::size_t before =
             at == 0 || at == TextView::npos ? TextView::npos : whole.find_last_not_of(u' ', at - 1);
         if (before != TextView::npos && (whole[before] == u'.' || whole[before] == u',' || whole[before] == u':')) {
-            cutResidue(text, at);
+            cutResidue(reading, at);
         }
     });
 }
 
-void OutputTemplateAuthor::parseAndRemoveResidueVolume(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueVolume", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueVolume(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueVolume", {{u"text", text.text()}}, [&] {
         const Text lower = toLower(text.text());
         for (const TextView mark : kVolumeMarks) {
             const std::size_t at = lower.find(mark);
             if (at != Text::npos && (mark.front() == u',' || (at > 0 && lower[at - 1] == u' '))) {
-                cutResidue(text, at, mark.front() == u',' ? 1 : 0);
+                cutResidue(reading, at, mark.front() == u',' ? 1 : 0);
                 return;
             }
         }
     });
 }
 
-void OutputTemplateAuthor::parseAndRemoveResidueEditor(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueEditor", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueEditor(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueEditor", {{u"text", text.text()}}, [&] {
         const std::size_t at = text.text().find(kInMark);
         if (at != Text::npos) {
-            cutResidue(text, at, 1);
+            cutResidue(reading, at, 1);
         }
     });
 }
 
 /// "Smith J, Jones K. Title", "Smith J, et al. Title": what stands behind a compact list.
-void OutputTemplateAuthor::parseAndRemoveResidueAMAAuthor(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueAMAAuthor", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueAMAAuthor(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueAMAAuthor", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
         // "Thomas C. King" is no compact list: a single initial with its stop says nothing.
         const bool hasInitials =
@@ -244,12 +251,13 @@ void OutputTemplateAuthor::parseAndRemoveResidueAMAAuthor(ListText& text) {
             (words[1].shape == Shape::Capitals || (isCompactInitialsWithStop(words[1]) && words[1].text.size() > 2));
         const bool isCompact = hasInitials && words[0].shape == Shape::Name && words[1].before == Separator::Blank;
         for (std::size_t i = 1; isCompact && i + 1 < words.size(); ++i) {
-            const bool isAfterEtAl = isAtEtAlIndex(text.text(), positionOf(text.text(), words[i - 1]));
+            const bool isAfterEtAl =
+                isAtEtAlIndex(reading.element(), text.text(), positionOf(text.text(), words[i - 1]));
             const bool endsList = words[i].before == Separator::Blank && words[i + 1].before == Separator::Blank &&
                                   (isAfterEtAl || (words[i - 1].isName() && isCompactInitialsWithStop(words[i])));
             if (endsList && !isTagOrAnd(words[i + 1]) && !words[i + 1].isInitials()) {
                 const std::size_t end = positionOf(text.text(), words[i]) + words[i].text.size();
-                cutResidue(text, end);
+                cutResidue(reading, end);
                 return;
             }
         }
@@ -257,16 +265,18 @@ void OutputTemplateAuthor::parseAndRemoveResidueAMAAuthor(ListText& text) {
 }
 
 /// "World Health Organization. Title"; "United States. Dept. of Labor" is one name.
-void OutputTemplateAuthor::parseAndRemoveCorporateAuthor(ListText& text) {
-    procedure(*this, u"parseAndRemoveCorporateAuthor", {{u"text", text.text()}}, [&] {
+void parseAndRemoveCorporateAuthor(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveCorporateAuthor", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
         for (std::size_t i = 1; i + 1 < words.size() && words[i].before == Separator::Blank; ++i) {
             if (!words[i].endsWithStop || words[i].shape != Shape::Name || words[i].is(kCompanyEnding | kSubdivision)) {
                 continue;
             }
             // Only the first sentence can be the author's.
-            if (!words[i + 1].is(kSubdivision) && isInstitutionalAuthor(WordSpan(words).first(i + 1))) {
-                cutResidue(text, positionOf(text.text(), words[i]) + words[i].text.size());
+            if (!words[i + 1].is(kSubdivision) &&
+                isInstitutionalAuthor(reading.element(), WordSpan(words).first(i + 1))) {
+                cutResidue(reading, positionOf(text.text(), words[i]) + words[i].text.size());
             }
             return;
         }
@@ -274,8 +284,9 @@ void OutputTemplateAuthor::parseAndRemoveCorporateAuthor(ListText& text) {
 }
 
 /// A sentence that ends behind a word and not behind an initial: "Smith, John. The History of Things".
-void OutputTemplateAuthor::parseAndRemoveResidueByInitials(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueByInitials", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueByInitials(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueByInitials", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
         for (std::size_t i = 1; i + 1 < words.size(); ++i) {
             const bool breaks =
@@ -283,8 +294,9 @@ void OutputTemplateAuthor::parseAndRemoveResidueByInitials(ListText& text) {
                 !words[i + 1].is(kSubdivision) && !words[i + 1].isInitials() &&
                 !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition | kSubdivision);
             const std::size_t position = positionOf(text.text(), words[i]);
-            if (breaks && !isAtInitialOrPostfixIndex(text.text(), position == 0 ? 0 : position - 1)) {
-                cutResidue(text, position + words[i].text.size());
+            if (breaks &&
+                !isAtInitialOrPostfixIndex(reading.element(), text.text(), position == 0 ? 0 : position - 1)) {
+                cutResidue(reading, position + words[i].text.size());
                 return;
             }
         }
@@ -292,12 +304,13 @@ void OutputTemplateAuthor::parseAndRemoveResidueByInitials(ListText& text) {
 }
 
 /// "Smith, J. (1990). Title": from the year on.
-void OutputTemplateAuthor::parseAndRemoveResidueByNumeral(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueByNumeral", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueByNumeral(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueByNumeral", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
         for (std::size_t i = 1; i < words.size(); ++i) {
             if (isYear(words[i].text)) {
-                cutResidue(text, positionOf(text.text(), words[i]));
+                cutResidue(reading, positionOf(text.text(), words[i]));
                 return;
             }
         }
@@ -305,45 +318,50 @@ void OutputTemplateAuthor::parseAndRemoveResidueByNumeral(ListText& text) {
 }
 
 /// "Smith, John, New York: Knopf": from the place of publication on.
-void OutputTemplateAuthor::parseAndRemoveResidueByPublisher(ListText& text) {
-    procedure(*this, u"parseAndRemoveResidueByPublisher", {{u"text", text.text()}}, [&] {
+void parseAndRemoveResidueByPublisher(AuthorReading& reading) {
+    AuthorListText& text = reading.list;
+    procedure(reading.element(), u"parseAndRemoveResidueByPublisher", {{u"text", text.text()}}, [&] {
         const TextView whole = text.text();
         const std::size_t colon = whole.find(u": ");
         const std::size_t comma = whole.substr(0, std::min(colon, whole.size())).find_last_of(u",(");
         if (colon != TextView::npos && comma != TextView::npos) {
-            cutResidue(text, comma, 1);
+            cutResidue(reading, comma, 1);
         }
     });
 }
 
-bool OutputTemplateAuthor::isAtSuffixIndex(TextView text, std::size_t index) const {
-    return procedure(*this, u"isAtSuffixIndex", {{u"text", text}, {u"index", static_cast<std::int32_t>(index)}}, [&] {
-        const Text lower = toLower(text.substr(std::min(index, text.size()), kUsualSuffixLength));
-        return std::any_of(std::begin(kSuffixes), std::end(kSuffixes),
-                           [&](TextView suffix) { return isAt(lower, 0, suffix); });
-    });
-}
+}  // namespace
 
-bool OutputTemplateAuthor::isAtInitialOrPostfixIndex(TextView text, std::size_t index) const {
-    return procedure(
-        *this, u"isAtInitialOrPostfixIndex", {{u"text", text}, {u"index", static_cast<std::int32_t>(index)}}, [&] {
-            if (isAtSuffixIndex(text, index)) {
-                return true;
+void parseAndRemoveResidue(AuthorReading& reading) {
+    /// A step, and the features without which a text cannot concern it.
+    struct Step {
+        void (*remove)(AuthorReading&);
+        std::uint32_t features;
+    };
+    // The order matters: each step relies on what the ones before it took off.
+    static constexpr Step kSteps[] = {
+        {parseAndRemoveElipses, kHasEllipsis},
+        {parseAndRemoveSameAsLastAuthor, kHasDashes},
+        {parseAndRemoveTranslator, kHasTranslator},
+        {parseAndRemoveResidueChapterType, kHasResidueWord},
+        {parseAndRemoveResidueNoDate, kHasBracket},
+        {parseAndRemoveResidueBracket, kHasResidueWord},
+        {parseAndRemoveResidueQuote, kHasQuote},
+        {parseAndRemoveResidueVolume, kHasResidueWord},
+        {parseAndRemoveResidueEditor, kHasColon},
+        {parseAndRemoveResidueAMAAuthor, kHasSentenceBreak | kHasEt | kHasCompactName},
+        {parseAndRemoveCorporateAuthor, kHasSentenceBreak},
+        {parseAndRemoveResidueByInitials, kHasSentenceBreak},
+        {parseAndRemoveResidueByNumeral, kHasDigit},
+        {parseAndRemoveResidueByPublisher, kHasColon},
+    };
+    procedure(reading.element(), u"parseAndRemoveResidue", {{u"text", reading.list.text()}}, [&] {
+        for (const Step& step : kSteps) {
+            if (reading.list.has(step.features)) {
+                step.remove(reading);
             }
-            const Text lower = toLower(text.substr(std::min(index, text.size()), kUsualSuffixLength));
-            const bool isAbbreviation =
-                std::any_of(std::begin(kAbbreviations), std::end(kAbbreviations), [&](TextView mark) {
-                    return isAt(lower, 0, mark) && (lower.size() <= mark.size() || !isCasedLetter(lower[mark.size()]));
-                });
-            const bool isInitial = lower.size() > 2 && lower[0] == u' ' && lower[2] == u'.';
-            return isAbbreviation || isInitial;
-        });
-}
-
-bool OutputTemplateAuthor::isAtEtAlIndex(TextView text, std::size_t index) const {
-    return procedure(*this, u"isAtEtAlIndex", {{u"text", text}, {u"index", static_cast<std::int32_t>(index)}}, [&] {
-        return isAt(toLower(text.substr(std::min(index, text.size()), kEtAlMark.size())), 0, kEtAlMark);
+        }
     });
 }
 
-}  // namespace quorvel
+}  // namespace quorvel::authorwords

@@ -61,23 +61,10 @@ bool asksOrExclaims(TextView text) {
     return last != TextView::npos && (text[last] == u'?' || text[last] == u'!');
 }
 
-/// A citation has no "Jr." (MLA 7 6.2, APA 6 6.12). A list with an institution that has a comma in its name is left
-/// alone: the names go back to the element as "Last, First".
-void removePostfixes(OutputTemplateAuthor& author) {
-    std::vector<Text> names;
-    bool hasPostfix = false;
-    bool hasComma = false;
-    for (std::int16_t i = 0; i < author.numAuthors(); ++i) {
-        const AuthorRecord& person = author.person(i);
-        hasPostfix = hasPostfix || !person.postfix.empty();
-        hasComma = hasComma || contains(person.lastName, u",");
-        names.push_back(person.firstNames.empty() ? person.lastName
-                                                  : concatenate({person.lastName, u", ", person.firstNames}));
-    }
-    if (hasPostfix && !hasComma) {
-        const bool hasEtAl = author.HasEtAl;
-        author.authors(names);
-        author.HasEtAl = hasEtAl;
+/// A citation has no "Jr." (MLA 7 6.2, APA 6 6.12).
+void removePostfixes(AuthorPersons& persons) {
+    for (std::int16_t i = 0; i < persons.size(); ++i) {
+        persons.at(i).postfix.clear();
     }
 }
 
@@ -324,34 +311,36 @@ void OutputTemplateCitation::fill(Slots& slots, const CitationFields& fields, st
     addLocator(slots, fields);
 }
 
-/// A copy of the style's author element that has read the text; empty without that element, or when the text names
-/// nobody.
-std::shared_ptr<OutputTemplateAuthor> OutputTemplateCitation::personsIn(TextView text) const {
+/// The persons that the text names, as the style's author element reads them; empty without that element, or when
+/// there are none.
+std::shared_ptr<AuthorPersons> OutputTemplateCitation::personsIn(TextView text) const {
     const std::shared_ptr<OutputTemplateAuthor> style = mAuthorModelOutputTemplate;
     if (!style || text.empty()) {
         return nullptr;
     }
-    std::shared_ptr<OutputTemplateAuthor> author = style->Clone();
-    Text remainder(text);
-    object(author).Parse(remainder, {});
-    return author->numAuthors() > 0 ? author : nullptr;
+    const std::shared_ptr<AuthorPersons> persons = style->personsIn(text);
+    return persons->isEmpty() ? nullptr : persons;
 }
 
 /// The authors, or the editors of a work without; empty when there are neither.
 Text OutputTemplateCitation::nameOf(const CitationFields& fields, std::int16_t firstNameCommand, bool isMinimal) const {
     Text text = fields.author.empty() ? fields.editor : fields.author;
-    const std::shared_ptr<OutputTemplateAuthor> author = personsIn(text);
-    if (!author) {
+    const std::shared_ptr<AuthorPersons> persons = personsIn(text);
+    const std::shared_ptr<OutputTemplateAuthor> style = mAuthorModelOutputTemplate;
+    if (!persons || !style) {
         return text;
     }
-    removePostfixes(*author);
-    Text names = author->toString(true, true, isMinimal, !isMinimal);
-    if (author->numAuthors() == 2 && !author->HasEtAl &&
-        names == concatenate({author->person(0).lastName, u" ", author->person(1).lastName})) {
+    removePostfixes(*persons);
+    AuthorForm form;
+    form.isMinimal = isMinimal;
+    form.isCitation = !isMinimal;
+    Text names = style->toString(persons, true, true, form);
+    if (persons->size() == 2 && !persons->hasEtAl &&
+        names == concatenate({persons->at(0).lastName, u" ", persons->at(1).lastName})) {
         // A style without and-word has one in the text (AMA 10 3.6).
-        names = concatenate({author->person(0).lastName, u" and ", author->person(1).lastName});
+        names = concatenate({persons->at(0).lastName, u" and ", persons->at(1).lastName});
     }
-    const Text firstNames = author->person(0).firstNames;
+    const Text& firstNames = persons->at(0).firstNames;
     if (firstNames.empty() || (firstNameCommand != kInitials && firstNameCommand != kFirstNames)) {
         return names;
     }
@@ -360,8 +349,11 @@ Text OutputTemplateCitation::nameOf(const CitationFields& fields, std::int16_t f
 
 /// "T. K. Lutes", in AMA with his degree.
 Text OutputTemplateCitation::communicatorOf(const CitationFields& fields) const {
-    const std::shared_ptr<OutputTemplateAuthor> author = personsIn(fields.author);
-    const Text name = author ? author->toString(true, false, false, true) : fields.author;
+    const std::shared_ptr<AuthorPersons> persons = personsIn(fields.author);
+    const std::shared_ptr<OutputTemplateAuthor> style = mAuthorModelOutputTemplate;
+    AuthorForm form;
+    form.isCitation = true;
+    const Text name = persons && style ? style->toString(persons, true, false, form) : fields.author;
     return mOptions.useDegree && !fields.degree.empty() ? concatenate({name, u", ", fields.degree}) : name;
 }
 

@@ -84,7 +84,7 @@ inline constexpr std::tuple kCitationOptions{
 /// cited comes from the host's model, under the names of citation_fields.h, or from a citation that
 /// `Parse` read.
 ///
-/// The style's author and title elements write their parts; they are copied or only asked, never changed.
+/// The style's author and title elements write their parts; they are only asked, never changed.
 class OutputTemplateCitation final : public Instrumented {
 public:
     /// How the first author's first names are written (`firstNameCommand`). Other values count as 0.
@@ -178,7 +178,7 @@ private:
                bool hasOtherTitlesByAuthor, bool shouldReadFromModel, bool isMinimal);
     void layOut();
 
-    std::shared_ptr<OutputTemplateAuthor> personsIn(TextView text) const;
+    std::shared_ptr<AuthorPersons> personsIn(TextView text) const;
     Text nameOf(const CitationFields& fields, std::int16_t firstNameCommand, bool isMinimal) const;
     Text communicatorOf(const CitationFields& fields) const;
     Text yearOf(const CitationFields& fields);

@@ -31,15 +31,31 @@ public:
                        BSTR editorSeparator, VARIANT_BOOL initialsOnly, VARIANT_BOOL initialsUsePeriods,
                        VARIANT_BOOL semicolonBetweenGroupAuthors, VARIANT_BOOL supportsCompilerAndEditor) override {
         return call([&] {
-            mAuthor->Reset(asBool(SupportAnonAndPseudoAuthors), asBool(SquareBracketIsForFirstName), view(editorTags),
-                           view(andSeparator), asBool(twoAuthorsIsOnlyCaseHaveNoComma), asBool(ReverseFirstOnFootnote),
-                           asBool(reverseSecondaryAuthors), asBool(reversedAuthorUsesComma),
-                           asBool(reversedAuthorPostfixUsesComma), numAuthorsToTriggerEtAl,
-                           numAuthorsToTriggerEtAlCitation, numAuthorsToTriggerEtAlMinimalString, numAuthorsInEtAl,
-                           numAuthorsInEtAlMinimalString, asBool(etAlUsesElipses), asBool(etAlInReferenceList),
-                           asBool(etAlHasComma), asBool(etAlCitationHasComma), view(editorSeparator),
-                           asBool(initialsOnly), asBool(initialsUsePeriods), asBool(semicolonBetweenGroupAuthors),
-                           asBool(supportsCompilerAndEditor));
+            AuthorOptions options;
+            options.SupportAnonAndPseudoAuthors = asBool(SupportAnonAndPseudoAuthors);
+            options.SquareBracketIsForFirstName = asBool(SquareBracketIsForFirstName);
+            options.editorTags = view(editorTags);
+            options.andSeparator = view(andSeparator);
+            options.twoAuthorsIsOnlyCaseHaveNoComma = asBool(twoAuthorsIsOnlyCaseHaveNoComma);
+            options.ReverseFirstOnFootnote = asBool(ReverseFirstOnFootnote);
+            options.reverseSecondaryAuthors = asBool(reverseSecondaryAuthors);
+            options.reversedAuthorUsesComma = asBool(reversedAuthorUsesComma);
+            options.reversedAuthorPostfixUsesComma = asBool(reversedAuthorPostfixUsesComma);
+            options.numAuthorsToTriggerEtAl = numAuthorsToTriggerEtAl;
+            options.numAuthorsToTriggerEtAlCitation = numAuthorsToTriggerEtAlCitation;
+            options.numAuthorsToTriggerEtAlMinimalString = numAuthorsToTriggerEtAlMinimalString;
+            options.numAuthorsInEtAl = numAuthorsInEtAl;
+            options.numAuthorsInEtAlMinimalString = numAuthorsInEtAlMinimalString;
+            options.etAlUsesElipses = asBool(etAlUsesElipses);
+            options.etAlInReferenceList = asBool(etAlInReferenceList);
+            options.etAlHasComma = asBool(etAlHasComma);
+            options.etAlCitationHasComma = asBool(etAlCitationHasComma);
+            options.editorSeparator = view(editorSeparator);
+            options.initialsOnly = asBool(initialsOnly);
+            options.initialsUsePeriods = asBool(initialsUsePeriods);
+            options.semicolonBetweenGroupAuthors = asBool(semicolonBetweenGroupAuthors);
+            options.supportsCompilerAndEditor = asBool(supportsCompilerAndEditor);
+            mAuthor->Reset(options);
         });
     }
     STDMETHODIMP Clone(IDispatch** result) override {
@@ -145,22 +161,22 @@ public:
         return call(result, [&] { return mAuthor->isEmptyArrayAuthor(); });
     }
     STDMETHODIMP get_Pseudoname(BSTR* result) override {
-        return call(result, [&] { return mAuthor->Pseudoname; });
+        return call(result, [&] { return mAuthor->Pseudoname(); });
     }
     STDMETHODIMP put_Pseudoname(BSTR Pseudoname) override {
-        return call([&] { mAuthor->Pseudoname = view(Pseudoname); });
+        return call([&] { mAuthor->Pseudoname(view(Pseudoname)); });
     }
     STDMETHODIMP get_AuthorType(short* result) override {
-        return call(result, [&] { return mAuthor->AuthorType; });
+        return call(result, [&] { return mAuthor->AuthorType(); });
     }
     STDMETHODIMP put_AuthorType(short AuthorType) override {
-        return call([&] { mAuthor->AuthorType = AuthorType; });
+        return call([&] { mAuthor->AuthorType(AuthorType); });
     }
     STDMETHODIMP get_HasEtAl(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->HasEtAl; });
+        return call(result, [&] { return mAuthor->HasEtAl(); });
     }
     STDMETHODIMP put_HasEtAl(VARIANT_BOOL HasEtAl) override {
-        return call([&] { mAuthor->HasEtAl = asBool(HasEtAl); });
+        return call([&] { mAuthor->HasEtAl(asBool(HasEtAl)); });
     }
 
 private:

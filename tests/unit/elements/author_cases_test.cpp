@@ -60,7 +60,7 @@ TEST(AuthorCases, AreReadExactlyWhateverTheStyle) {
                 continue;
             }
             const Text read = test::read(*author, list.printed);
-            EXPECT_TRUE(authorcases::areSamePersons(list.persons, recordsOf(*author)) && author->HasEtAl == list.isCut)
+            EXPECT_TRUE(authorcases::areSamePersons(list.persons, recordsOf(*author)) && author->HasEtAl() == list.isCut)
                 << list.id << " " << list.form << ": " << authorcases::utf8Of(list.printed) << " read as "
                 << authorcases::utf8Of(read);
         }
@@ -85,7 +85,7 @@ TEST(AuthorCases, SurviveTheWayThroughEveryStyle) {
                 const auto again = test::authorWith(to.options);
                 test::read(*again, written);
                 const std::vector<AuthorRecord> read = recordsOf(*again);
-                if (again->HasEtAl && read.size() < expected.size() && !read.empty()) {
+                if (again->HasEtAl() && read.size() < expected.size() && !read.empty()) {
                     // Cut: the first ones, and after an ellipsis the last.
                     const AuthorRecord last = expected.back();
                     expected.resize(read.size());

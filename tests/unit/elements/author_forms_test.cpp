@@ -123,24 +123,24 @@ TEST(AuthorForms, WritesWhatItReadInEveryStyle) {
 TEST(AuthorForms, AnonymousAndPseudonymousAuthors) {
     const auto author = test::authorWith(test::turabianAuthorOptions());
     test::read(*author, u"[Horsley, Samuel?]");
-    EXPECT_EQ(author->AuthorType, OutputTemplateAuthor::kAttributed);
+    EXPECT_EQ(author->AuthorType(), OutputTemplateAuthor::kAttributed);
     EXPECT_EQ(author->toString(false, false), u"[Horsley, Samuel?]");
     EXPECT_EQ(author->toString(false, true), u"Horsley");
 
     test::read(*author, u"Stendhal [pseud.]");
-    EXPECT_EQ(author->AuthorType, OutputTemplateAuthor::kPseudonym);
-    EXPECT_EQ(author->Pseudoname, u"");
+    EXPECT_EQ(author->AuthorType(), OutputTemplateAuthor::kPseudonym);
+    EXPECT_EQ(author->Pseudoname(), u"");
     EXPECT_EQ(author->toString(false, false), u"Stendhal [pseud.]");
 
     test::read(*author, u"Le Carré, John [David Cornwell]");
-    EXPECT_EQ(author->Pseudoname, u"David Cornwell");
+    EXPECT_EQ(author->Pseudoname(), u"David Cornwell");
     EXPECT_EQ(author->toString(true, false), u"John Le Carré [David Cornwell]");
     EXPECT_EQ(author->collapsePseudoToFirstName(u"Le Carré, John"), u"Le Carré, John [David Cornwell]");
 
     // Where brackets are for first names they stay with them.
     author->Reset(test::mlaAuthorOptions());
     EXPECT_EQ(test::read(*author, u"Le Carré, John [David Cornwell]"), u"Le Carré|John [David Cornwell]");
-    EXPECT_EQ(author->AuthorType, OutputTemplateAuthor::kOrdinary);
+    EXPECT_EQ(author->AuthorType(), OutputTemplateAuthor::kOrdinary);
     EXPECT_EQ(author->toString(false, false), u"Le Carré, John [David Cornwell]");
     EXPECT_EQ(test::read(*author, u"Hinton, S[usan] E[loise]"), u"Hinton|S[usan] E[loise]");
     author->Reset(test::apaAuthorOptions());

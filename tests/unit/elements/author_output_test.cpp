@@ -7,7 +7,7 @@
 namespace quorvel {
 namespace {
 
-using Options = OutputTemplateAuthor::Options;
+using Options = AuthorOptions;
 
 /// A style of no rule but those that a test sets: "A, B, and C", nothing reversed, no et al.
 Options plainOptions() {
@@ -104,7 +104,7 @@ TEST(AuthorOutput, EtAl) {
         options.etAlInReferenceList = c.inReferenceList;
         options.etAlHasComma = c.hasComma;
         const auto author = authorOf(options, c.persons);
-        author->HasEtAl = c.hasEtAl;
+        author->HasEtAl(c.hasEtAl);
         EXPECT_EQ(author->toString(false, false), c.list);
         EXPECT_EQ(author->toString(true, false), c.note);
     }
@@ -128,7 +128,7 @@ TEST(AuthorOutput, EllipsisInThePlaceOfTheAndWord) {
         options.numAuthorsToTriggerEtAl = 4;
         options.numAuthorsToTriggerEtAlCitation = 3;
         const auto author = authorOf(options, c.persons);
-        author->HasEtAl = c.hasEtAl;
+        author->HasEtAl(c.hasEtAl);
         EXPECT_EQ(author->toString(false, false), c.written);
         EXPECT_EQ(author->toString(false, false, false, true), c.citation);
     }
@@ -137,7 +137,7 @@ TEST(AuthorOutput, EllipsisInThePlaceOfTheAndWord) {
     options.etAlUsesElipses = true;
     const auto author = test::authorWith(options);
     author->authors({u"Centers for Disease Control and Prevention", u"Smith", u"Jones"});
-    author->HasEtAl = true;
+    author->HasEtAl(true);
     EXPECT_EQ(author->toString(false, false), u"Centers for Disease Control and Prevention, Smith, . . . Jones");
 }
 

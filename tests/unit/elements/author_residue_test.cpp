@@ -45,7 +45,7 @@ TEST(AuthorResidue, TextOfOtherElementsIsKeptForThem) {
             SCOPED_TRACE(shown(c.text) + shown(preset.name));
             Text text(c.text);
             author->Parse(text, {});
-            EXPECT_EQ(test::personsOf(*author) + (author->HasEtAl ? u" et al." : u""), c.persons);
+            EXPECT_EQ(test::personsOf(*author) + (author->HasEtAl() ? u" et al." : u""), c.persons);
             EXPECT_EQ(author->residue(), c.residue);
             EXPECT_EQ(text, c.residue);
         }

@@ -15,7 +15,7 @@ using Fields = std::vector<std::pair<TextView, TextView>>;
 
 struct Style {
     TextView name;
-    OutputTemplateAuthor::Options authors;
+    AuthorOptions authors;
     std::int16_t format;
     CitationOptions options;
 };

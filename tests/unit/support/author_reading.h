@@ -9,7 +9,7 @@
 /// The author element as tests use it: texts in, persons as one text out.
 namespace quorvel::test {
 
-inline std::shared_ptr<OutputTemplateAuthor> authorWith(const OutputTemplateAuthor::Options& options) {
+inline std::shared_ptr<OutputTemplateAuthor> authorWith(const AuthorOptions& options) {
     auto author = std::make_shared<OutputTemplateAuthor>();
     author->Initialize(std::make_shared<RecordingSink>());
     author->Reset(options);
@@ -33,7 +33,7 @@ inline Text personsOf(const OutputTemplateAuthor& author) {
 inline Text read(OutputTemplateAuthor& author, TextView text, TextView previousStr = {}) {
     Text remainder(text);
     author.Parse(remainder, previousStr);
-    return personsOf(author) + (author.HasEtAl ? u" et al." : u"");
+    return personsOf(author) + (author.HasEtAl() ? u" et al." : u"");
 }
 
 }  // namespace quorvel::test

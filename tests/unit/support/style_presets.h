@@ -11,13 +11,13 @@ namespace quorvel::test {
 
 struct AuthorPreset {
     TextView name;
-    OutputTemplateAuthor::Options options;
+    AuthorOptions options;
 };
 
 /// MLA Handbook, 7th ed., 5.5.2-5.5.4: the first person reversed, from four persons on the first and
 /// "et al."
-inline OutputTemplateAuthor::Options mlaAuthorOptions() {
-    OutputTemplateAuthor::Options options;
+inline AuthorOptions mlaAuthorOptions() {
+    AuthorOptions options;
     options.SquareBracketIsForFirstName = true;
     options.editorTags = u"ed.,comp.,trans.";
     options.andSeparator = u"and";
@@ -38,8 +38,8 @@ inline OutputTemplateAuthor::Options mlaAuthorOptions() {
 
 /// Publication Manual of the APA, 6th ed., 6.12 (citations), 6.27: all persons reversed with initials, from
 /// eight persons on six, an ellipsis and the last.
-inline OutputTemplateAuthor::Options apaAuthorOptions() {
-    OutputTemplateAuthor::Options options;
+inline AuthorOptions apaAuthorOptions() {
+    AuthorOptions options;
     options.SquareBracketIsForFirstName = true;
     options.editorTags = u"(Ed.),(Comp.),(Trans.)";
     options.andSeparator = u"&";
@@ -63,8 +63,8 @@ inline OutputTemplateAuthor::Options apaAuthorOptions() {
 
 /// Turabian, 7th ed., 16.1.3, 17.1.1: all persons in the bibliography, in notes from four on the first and
 /// "et al."; anonymous and pseudonymous authors are marked.
-inline OutputTemplateAuthor::Options turabianAuthorOptions() {
-    OutputTemplateAuthor::Options options;
+inline AuthorOptions turabianAuthorOptions() {
+    AuthorOptions options;
     options.SupportAnonAndPseudoAuthors = true;
     options.editorTags = u"ed.,comp.,trans.";
     options.andSeparator = u"and";
@@ -83,8 +83,8 @@ inline OutputTemplateAuthor::Options turabianAuthorOptions() {
 
 /// AMA Manual of Style, 10th ed., 3.7: all persons reversed without commas and stops, more than six cut
 /// to three; group authors behind a semicolon.
-inline OutputTemplateAuthor::Options amaAuthorOptions() {
-    OutputTemplateAuthor::Options options;
+inline AuthorOptions amaAuthorOptions() {
+    AuthorOptions options;
     options.editorTags = u"ed,comp,trans";
     options.ReverseFirstOnFootnote = true;
     options.reverseSecondaryAuthors = true;
