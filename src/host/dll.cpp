@@ -4,16 +4,7 @@
 
 #include <string_view>
 
-#include "host/adapters/author_adapter.h"
-#include "host/adapters/citation_adapter.h"
-#include "host/adapters/date_time_adapter.h"
-#include "host/adapters/keywords_adapter.h"
-#include "host/adapters/model_adapter.h"
-#include "host/adapters/page_adapter.h"
-#include "host/adapters/place_adapter.h"
-#include "host/adapters/publisher_adapter.h"
-#include "host/adapters/title_adapter.h"
-#include "host/adapters/year_adapter.h"
+#include "host/classes.h"
 #include "host/com/class_factory.h"
 #include "host/com/dispatch_table.h"
 #include "host/com/module.h"
@@ -25,28 +16,6 @@
 using namespace quorvel::host;
 
 namespace {
-
-struct CreatableClass {
-    const CLSID& clsid;
-    ClassFactory::Create create;
-};
-
-// Every coclass of the type library, one a line.
-// clang-format off
-const CreatableClass kCreatableClasses[] = {
-    {CLSID_Main2, make<quorvel::host::Main2>},
-    {CLSID_OutputTemplateModel, make<ModelAdapter>},
-    {CLSID_OutputTemplateCitation, make<CitationAdapter>},
-    {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
-    {CLSID_OutputTemplateTitle, make<TitleAdapter>},
-    {CLSID_OutputTemplatePublisher, make<PublisherAdapter>},
-    {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
-    {CLSID_OutputTemplateYear, make<YearAdapter>},
-    {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
-    {CLSID_OutputTemplatePage, make<PageAdapter>},
-    {CLSID_OutputTemplateKeywords, make<KeywordsAdapter>},
-};
-// clang-format on
 
 /// An entry point lets no exception out; only memory can run out in one.
 template <class Body>
@@ -78,11 +47,9 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID iid, LPVOID* object) {
             return E_OUTOFMEMORY;
         }
         startUp();
-        for (const CreatableClass& creatable : kCreatableClasses) {
-            if (creatable.clsid == clsid) {
-                const ComPtr<IClassFactory> factory(new ClassFactory(creatable.create));
-                return factory->QueryInterface(iid, object);
-            }
+        if (const ClassFactory::Create create = creatorOf(clsid); create != nullptr) {
+            const ComPtr<IClassFactory> factory(new ClassFactory(create));
+            return factory->QueryInterface(iid, object);
         }
         return CLASS_E_CLASSNOTAVAILABLE;
     });

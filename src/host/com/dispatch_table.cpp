@@ -365,10 +365,9 @@ const DispatchTable::Member* DispatchTable::find(DISPID id, WORD flags) const {
     if ((flags & DISPATCH_PROPERTYPUTREF) != 0) {
         flags |= DISPATCH_PROPERTYPUT;
     }
-    // A script calls a property with arguments as if it were a method, and reads a method as if it were
-    // a property.
-    if ((flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET)) != 0) {
-        flags |= DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+    // A script calls a property with arguments as if it were a method. Reading a method does not run it.
+    if ((flags & DISPATCH_METHOD) != 0) {
+        flags |= DISPATCH_PROPERTYGET;
     }
     const auto member = std::find_if(mMembers.begin(), mMembers.end(), [&](const Member& candidate) {
         return candidate.id == id && (candidate.kind & flags) != 0;

@@ -31,6 +31,15 @@ check("sink", sink.text, "[1992?]");
 var codes = [-1, 18, 19, 20, 70000, "year", 18.4];
 for (var i = 0; i < codes.length; ++i) check("build " + codes[i], main.build(codes[i], sink), null);
 check("buildSubformProxy", main.buildSubformProxy(), null);
+// A method is called, not read: nothing runs.
+year.Year = "1992";
+var read = "";
+try {
+    read = year.Parse;
+} catch (error) {
+    check("a method is no property", error.number & 0xFFFF, 438);
+}
+check("nothing was read", read + year.Year, "1992");
 try {
     year.noSuchMember();
     WScript.Echo("FAILED a member that is not there was called");
