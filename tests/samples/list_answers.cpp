@@ -9,11 +9,11 @@
 
 #include <set>
 
-#include "data_file.h"
-#include "fields.h"
-#include "formatted_text.h"
-#include "styled_elements.h"
-#include "text_io.h"
+#include "data/data_file.h"
+#include "data/fields.h"
+#include "text/formatted_text.h"
+#include "text/text_io.h"
+#include "writing/styled_elements.h"
 
 namespace {
 
