@@ -137,10 +137,10 @@ TEST_F(Service, IsLookedForAgainByEachCallAndAfterTheLastFactory) {
     const LateBoundObject year = library.build(kYear);
     year.call(L"toString");
     EXPECT_EQ(service.taken(), L"");
-    // The library tests the name of a class that is not registered once a millisecond.
+    // The library looks again after a millisecond, after 50 where an installed host does not run.
     const auto appear = [&](const RecordingService& appearing) {
         host.emplace(appearing.object());
-        Sleep(5);
+        Sleep(60);
     };
     appear(service);
     constexpr const wchar_t* kCall = L"> OutputTemplateYear.toString \n<\n";
