@@ -7,6 +7,7 @@
 #include "elements/citation/citation.h"
 #include "elements/date/date_time.h"
 #include "elements/keywords.h"
+#include "elements/newspaper.h"
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
@@ -149,6 +150,11 @@ const Case kCases[] = {
      u"Smith, John, World Health Organization, and Ann Lee, eds.", u"Kuhn T"},
     {"title", [] { return elementOf<OutputTemplateTitle>(resetTitle); },
      u"Introduction to \u201CThe \u2018Other\u2019 Question,\u201D by Ann Lee [Die andere Frage]", u"A Life"},
+    {"newspaper",
+     [] {
+         return elementOf<OutputTemplateNewspaper>([](auto& newspaper) { newspaper.Reset({true, u"[]", u"hint"}); });
+     },
+     u"Globe and Mail [Toronto]", u"Times (London)"},
     {"publisher",
      [] {
          return elementOf<OutputTemplatePublisher>([](auto& publisher) {
