@@ -8,6 +8,7 @@
 #include "elements/date/date_time.h"
 #include "elements/keywords.h"
 #include "elements/newspaper.h"
+#include "elements/online.h"
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
@@ -155,6 +156,11 @@ const Case kCases[] = {
          return elementOf<OutputTemplateNewspaper>([](auto& newspaper) { newspaper.Reset({true, u"[]", u"hint"}); });
      },
      u"Globe and Mail [Toronto]", u"Times (London)"},
+    {"online",
+     [] { return elementOf<OutputTemplateOnline>([](auto& online) {
+              online.Reset({true, true, true, u"doi:"});
+          }); },
+     u"Abstract retrieved from https://www.example.org/a", u"DOI: 10.1000/182"},
     {"publisher",
      [] {
          return elementOf<OutputTemplatePublisher>([](auto& publisher) {
