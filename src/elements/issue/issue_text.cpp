@@ -1,0 +1,167 @@
+#include "elements/issue/issue_text.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "core/letter_case.h"
+#include "elements/title/quotes.h"
+#include "elements/volume_numbers.h"
+
+namespace quorvel::issuetext {
+
+namespace {
+
+constexpr TextView kBlank = u" ";
+// Signs between the parts of a text, and around them.
+constexpr TextView kSigns = u" .,;:";
+constexpr TextView kSignsAndBrackets = u" .,;:()[]";
+constexpr TextView kOpeningSigns = u" ([,.;";
+
+constexpr TextView kNumberWords[] = {u"no. ", u"nos. ", u"no ", u"nr. ", u"issue "};
+
+// The longer ones first.
+constexpr TextView kSupplementWords[] = {
+    u"supplemental material", u"supplement", u"suppl.", u"suppl", u"supp.", u"supp"};
+constexpr TextView kEditionWords[] = {u"ed.", u"ed", u"edition"};
+constexpr TextView kSpecialWords[] = {u"special issue", u"spec. issue", u"spec issue", u"theme issue"};
+constexpr TextView kOf = u" of ";
+// Each stands behind a blank or at the front.
+constexpr TextView kEditorWords[] = {u"ed. ", u"eds. ", u"edited by "};
+
+// A full stop behind these belongs to them: "Henry Louis Gates, Jr."
+constexpr TextView kAbbreviations[] = {u"Jr", u"Sr", u"al"};
+
+constexpr char16_t kQuotes[] = {kLeftDoubleQuotationMark, kRightDoubleQuotationMark, u'"'};
+
+bool isQuote(char16_t unit) {
+    return std::find(std::begin(kQuotes), std::end(kQuotes), unit) != std::end(kQuotes);
+}
+
+bool isInParentheses(TextView text) {
+    return text.size() > 2 && text.front() == u'(' && text.find(u')') == text.size() - 1;
+}
+
+/// What is joined to a person's name by no more than the sentence: a full stop of an initial or of "Jr." stays.
+TextView withoutEnd(TextView name) {
+    name = trim(name, u" ,;");
+    if (!name.ends_with(u'.')) {
+        return name;
+    }
+    const TextView shortened = name.substr(0, name.size() - 1);
+    const TextView last = shortened.substr(shortened.find_last_of(u" .-") + 1);
+    const bool isInitial = last.size() == 1 && isCapital(last.front());
+    return isInitial || isOneOf(last, kAbbreviations) ? name : shortened;
+}
+
+/// A title without the comma or full stop that joins it to what follows; an ellipsis stays.
+TextView withoutJoint(TextView title) {
+    title = trim(title);
+    const bool isJoined = title.ends_with(u',') || (title.ends_with(u'.') && !title.ends_with(u".."));
+    return isJoined ? title.substr(0, title.size() - 1) : title;
+}
+
+/// "“Identities,”" without its marks; those inside become double.
+Text withoutQuotes(TextView title) {
+    title = withoutJoint(title);
+    if (title.size() < 2 || !isQuote(title.front()) || !isQuote(title.back())) {
+        return Text(title);
+    }
+    return titlecase::withDoubleQuotationMarks(withoutJoint(title.substr(1, title.size() - 2)));
+}
+
+/// Where a word of the table first stands on its own, from its first letter; npos when none does.
+template <std::size_t N>
+std::size_t findWord(TextView text, const TextView (&words)[N], TextView& found) {
+    std::size_t first = TextView::npos;
+    for (const TextView word : words) {
+        std::size_t at = findIgnoringCase(text, word);
+        while (at != TextView::npos && at > 0 && kOpeningSigns.find(text[at - 1]) == TextView::npos) {
+            at = findIgnoringCase(text, word, at + word.size());
+        }
+        if (at < first) {
+            first = at;
+            found = word;
+        }
+    }
+    return first;
+}
+
+}  // namespace
+
+TextView withoutWord(TextView text) {
+    const TextView inside = isInParentheses(text) ? trim(text.substr(1, text.size() - 2)) : text;
+    for (const TextView word : kNumberWords) {
+        if (startsWithIgnoringCase(inside, word) && isNumber(trim(inside.substr(word.size())))) {
+            return trim(inside.substr(word.size()));
+        }
+    }
+    return isNumber(inside) ? inside : text;
+}
+
+bool isNumber(TextView text) {
+    return !contains(text, kBlank) && (text.find_first_of(kDigits) != TextView::npos || volumenumbers::isNumber(text));
+}
+
+std::optional<Supplement> supplement(TextView text) {
+    TextView word;
+    const std::size_t at = findWord(text, kSupplementWords, word);
+    if (at == TextView::npos) {
+        return std::nullopt;
+    }
+    const TextView issue = withoutWord(trim(text.substr(0, at), kSignsAndBrackets));
+    const TextView number = withoutWord(trim(text.substr(at + word.size()), kSignsAndBrackets));
+    // "Supplement A"
+    const bool isNumbered = number.size() <= 1 || isNumber(number);
+    const bool isOne = (issue.empty() || isNumber(issue)) && isNumbered;
+    return isOne ? std::optional<Supplement>({issue, number}) : std::nullopt;
+}
+
+bool isEdition(TextView text) {
+    const TextView inside = isInParentheses(text) ? text.substr(1, text.size() - 2) : text;
+    const std::size_t blank = inside.rfind(u' ');
+    return blank != TextView::npos && isOneOfIgnoringCase(inside.substr(blank + 1), kEditionWords);
+}
+
+std::optional<Special> special(TextView text) {
+    TextView words;
+    const std::size_t at = findWord(text, kSpecialWords, words);
+    if (at == TextView::npos) {
+        return std::nullopt;
+    }
+    const TextView front = text.substr(0, at);
+    const TextView behind = text.substr(at + words.size());
+    if (startsWithIgnoringCase(behind, kOf)) {
+        return Special{front, trim(behind.substr(kOf.size()))};
+    }
+    // The bracket that opened before the words.
+    const TextView rest = trim(behind, kSignsAndBrackets);
+    if (rest.empty()) {
+        return Special{trim(front, u" ,;:(["), {}};
+    }
+    const bool isInFront = trim(front, kSignsAndBrackets).empty() && !behind.starts_with(u' ');
+    return isInFront ? std::optional<Special>({trim(behind, u" .,;:)]"), {}}) : std::nullopt;
+}
+
+SpecialParts specialParts(TextView text) {
+    SpecialParts parts;
+    text = trim(text);
+    if (const TextView all = withoutWord(trim(text, kSigns)); isNumber(all)) {
+        parts.number = all;
+        return parts;
+    }
+    const std::size_t comma = text.find(u',');
+    if (const TextView number = withoutWord(text.substr(0, comma)); comma != TextView::npos && isNumber(number)) {
+        parts.number = number;
+        text = trim(text.substr(comma + 1));
+    }
+    TextView word;
+    const std::size_t at = findWord(text, kEditorWords, word);
+    if (at != TextView::npos) {
+        parts.editor = withoutEnd(text.substr(at + word.size()));
+        text = text.substr(0, at);
+    }
+    parts.title = withoutQuotes(text);
+    return parts;
+}
+
+}  // namespace quorvel::issuetext
