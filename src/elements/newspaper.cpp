@@ -222,9 +222,9 @@ bool OutputTemplateNewspaper::isPartOfTitle(TextView word, TextView rest) const 
     });
 }
 
-bool OutputTemplateNewspaper::isNewspaper(TextView title) const {
-    return procedure(*this, u"isNewspaper", {{u"title", title}}, [&] {
-        const Text lower = toLower(cleanUp(title));
+bool OutputTemplateNewspaper::isNewspaper(TextView text) const {
+    return procedure(*this, u"isNewspaper", {{u"text", text}}, [&] {
+        const Text lower = toLower(cleanUp(text));
         if (containsOneOf(lower, kOtherPeriodicals)) {
             return false;
         }

@@ -63,7 +63,7 @@ public:
 
     /// Whether a title names a newspaper: it is one of a few known ones or has a word such as "Herald", and nothing
     /// speaks against it. The element stays as it is.
-    bool isNewspaper(TextView title) const;
+    bool isNewspaper(TextView text) const;
 
     TextView className() const override { return u"OutputTemplateNewspaper"; }
     void dumpVariables(VBWPROTECTOR& report) const override;

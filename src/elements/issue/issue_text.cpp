@@ -15,6 +15,7 @@ constexpr TextView kBlank = u" ";
 // Signs between the parts of a text, and around them.
 constexpr TextView kSigns = u" .,;:";
 constexpr TextView kSignsAndBrackets = u" .,;:()[]";
+// A word stands on its own behind one of these.
 constexpr TextView kOpeningSigns = u" ([,.;";
 
 constexpr TextView kNumberWords[] = {u"no. ", u"nos. ", u"no ", u"nr. ", u"issue "};
@@ -69,21 +70,24 @@ Text withoutQuotes(TextView title) {
     return titlecase::withDoubleQuotationMarks(withoutJoint(title.substr(1, title.size() - 2)));
 }
 
-/// Where a word of the table first stands on its own, from its first letter; npos when none does.
+/// A word of the table where it first stands on its own.
+struct FoundWord {
+    std::size_t at;
+    std::size_t length;
+};
+
 template <std::size_t N>
-std::size_t findWord(TextView text, const TextView (&words)[N], TextView& found) {
-    std::size_t first = TextView::npos;
-    for (const TextView word : words) {
-        std::size_t at = findIgnoringCase(text, word);
-        while (at != TextView::npos && at > 0 && kOpeningSigns.find(text[at - 1]) == TextView::npos) {
-            at = findIgnoringCase(text, word, at + word.size());
+std::optional<FoundWord> findWord(TextView text, const TextView (&words)[N]) {
+    for (std::size_t at = 0; at != TextView::npos && at < text.size();) {
+        for (const TextView word : words) {
+            if (startsWithIgnoringCase(text.substr(at), word)) {
+                return FoundWord{at, word.size()};
+            }
         }
-        if (at < first) {
-            first = at;
-            found = word;
-        }
+        at = text.find_first_of(kOpeningSigns, at);
+        at = at == TextView::npos ? at : at + 1;
     }
-    return first;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -103,13 +107,12 @@ bool isNumber(TextView text) {
 }
 
 std::optional<Supplement> supplement(TextView text) {
-    TextView word;
-    const std::size_t at = findWord(text, kSupplementWords, word);
-    if (at == TextView::npos) {
+    const std::optional<FoundWord> word = findWord(text, kSupplementWords);
+    if (!word) {
         return std::nullopt;
     }
-    const TextView issue = withoutWord(trim(text.substr(0, at), kSignsAndBrackets));
-    const TextView number = withoutWord(trim(text.substr(at + word.size()), kSignsAndBrackets));
+    const TextView issue = withoutWord(trim(text.substr(0, word->at), kSignsAndBrackets));
+    const TextView number = withoutWord(trim(text.substr(word->at + word->length), kSignsAndBrackets));
     // "Supplement A"
     const bool isNumbered = number.size() <= 1 || isNumber(number);
     const bool isOne = (issue.empty() || isNumber(issue)) && isNumbered;
@@ -123,13 +126,12 @@ bool isEdition(TextView text) {
 }
 
 std::optional<Special> special(TextView text) {
-    TextView words;
-    const std::size_t at = findWord(text, kSpecialWords, words);
-    if (at == TextView::npos) {
+    const std::optional<FoundWord> words = findWord(text, kSpecialWords);
+    if (!words) {
         return std::nullopt;
     }
-    const TextView front = text.substr(0, at);
-    const TextView behind = text.substr(at + words.size());
+    const TextView front = text.substr(0, words->at);
+    const TextView behind = text.substr(words->at + words->length);
     if (startsWithIgnoringCase(behind, kOf)) {
         return Special{front, trim(behind.substr(kOf.size()))};
     }
@@ -154,11 +156,9 @@ SpecialParts specialParts(TextView text) {
         parts.number = number;
         text = trim(text.substr(comma + 1));
     }
-    TextView word;
-    const std::size_t at = findWord(text, kEditorWords, word);
-    if (at != TextView::npos) {
-        parts.editor = withoutEnd(text.substr(at + word.size()));
-        text = text.substr(0, at);
+    if (const std::optional<FoundWord> word = findWord(text, kEditorWords)) {
+        parts.editor = withoutEnd(text.substr(word->at + word->length));
+        text = text.substr(0, word->at);
     }
     parts.title = withoutQuotes(text);
     return parts;
