@@ -22,7 +22,7 @@ enum Slot : std::size_t { kNumberSlot, kTitleSlot, kEditorSlot, kWordsSlot };
 /// What stands between the number and the words of a special issue.
 enum StyleText { kBeforeWords };
 
-// Turabian 7 17.3.5
+// Turabian 7 17.3.6
 constexpr SlotLayout kTurabianLayout({
     {kPlainSlot, {u"", u", ", u", edited by ", u". ", u""}, {u"", u", ", u", ed. ", u", ", u""}},
     {kFormattedSlot, {u"", u", edited by ", u". ", u""}, {u"", u", ed. ", u", ", u""}},

@@ -37,7 +37,7 @@ inline constexpr std::tuple kIssueOptions{
 ///
 /// A text of no such form is a regular issue and stays as it is.
 ///
-/// Styles: MLA 7 5.4.3, 5.4.12, APA 6 7.01, Turabian 7 17.3.4-5, AMA 10 3.11.
+/// Styles: MLA 7 5.4.3, 5.4.12, APA 6 7.01, Turabian 7 17.3.4, 17.3.6, AMA 10 3.11.
 class OutputTemplateIssue final : public AssembledElement {
 public:
     /// Indexes of `value`. They are part of the interface.
