@@ -143,7 +143,7 @@ bool OutputTemplateIssue::fillSlots(bool isFootnote, std::vector<Text>& items,
         return false;
     }
     if (mFormat == stylecodes::kTurabian) {
-        object(fragment).Add(titlecase::quoted(title), OutputSink::kPlain);
+        object(fragment).Add(titlequotes::quoted(title), OutputSink::kPlain);
     } else {
         object(fragment).Add(title, stylecodes::isMla(mFormat) ? OutputSink::kItalic : OutputSink::kPlain);
     }

@@ -67,7 +67,7 @@ Text withoutQuotes(TextView title) {
     if (title.size() < 2 || !isQuote(title.front()) || !isQuote(title.back())) {
         return Text(title);
     }
-    return titlecase::withDoubleQuotationMarks(withoutJoint(title.substr(1, title.size() - 2)));
+    return titlequotes::withDoubleQuotationMarks(withoutJoint(title.substr(1, title.size() - 2)));
 }
 
 /// A word of the table where it first stands on its own.
