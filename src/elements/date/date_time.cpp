@@ -13,7 +13,6 @@ namespace quorvel {
 
 namespace {
 
-
 /// The separators of each slot: in front of the output, before each later slot, at the end.
 constexpr SlotLayout kJoined({
     {kPlainSlot, {u"", u", ", u", ", u""}},

@@ -117,34 +117,31 @@ TEST(Online, ReadsAndWritesWhatEveryStyleHas) {
 
 TEST(Online, TellsAnAddressWithoutSchemeFromOtherTexts) {
     constexpr TextView kAddresses[] = {
-        u"www.x",       u"WWW.example.invalid/a", u"ftp.example", u"example.org",     u"Example.ORG/a/b?c=1%20d",
-        u"host:80.com", u"a/index.html",          u"bbc.co.uk",   u"example.museum/",
-    };
+        u"www.x",       u"WWW.example.invalid/a", u"ftp.example", u"example.org",    u"Example.ORG/a/b?c=1%20d",
+        u"host:80.com", u"a/index.html",          u"bbc.co.uk",   u"example.museum/"};
     // They come out as they went in.
-    constexpr TextView kOthers[] = {
-        u"",
-        u"www. example.org",
-        u"org",
-        u"html",
-        u"kant@example.org",
-        u"a?index.html",
-        u"Vol. 3",
-        u"Retrieved from",
-        u"10.5 times",
-        u"St. Louis",
-        u"database",
-        u"Retrieved from the attic",
-        u"Abstract",
-        u"Abstract:",
-        u"http://",
-        u"ED12",
-        u"Edwards",
-        u"Abstract Art",
-        u"Eric Edam",
-        u"Retrieved by hand from a well",
-        u"doi:",
-        u"<>.",
-    };
+    constexpr TextView kOthers[] = {u"",
+                                    u"www. example.org",
+                                    u"org",
+                                    u"html",
+                                    u"kant@example.org",
+                                    u"a?index.html",
+                                    u"Vol. 3",
+                                    u"Retrieved from",
+                                    u"10.5 times",
+                                    u"St. Louis",
+                                    u"database",
+                                    u"Retrieved from the attic",
+                                    u"Abstract",
+                                    u"Abstract:",
+                                    u"http://",
+                                    u"ED12",
+                                    u"Edwards",
+                                    u"Abstract Art",
+                                    u"Eric Edam",
+                                    u"Retrieved by hand from a well",
+                                    u"doi:",
+                                    u"<>."};
     Online online = onlineWith(kApa);
     for (const TextView text : kAddresses) {
         EXPECT_EQ(parsed(online, text), u"");
