@@ -67,6 +67,7 @@ constexpr TextView kDirectories[] = {u"10.", u"11."};
 // The first words of an ERIC number, the longer ones first.
 constexpr TextView kEricWords[] = {
     u"ERIC Document Reproduction Service No.",
+    u"the ERIC database",
     u"ERIC database",
     u"ERIC",
 };

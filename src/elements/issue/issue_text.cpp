@@ -54,10 +54,11 @@ TextView withoutEnd(TextView name) {
     return isInitial || isOneOf(last, kAbbreviations) ? name : shortened;
 }
 
-/// A title without the comma or full stop that joins it to what follows; an ellipsis stays.
+/// A title without the comma or full stop that joins it to what follows; an ellipsis and "U.S." stay.
 TextView withoutJoint(TextView title) {
     title = trim(title);
-    const bool isJoined = title.ends_with(u',') || (title.ends_with(u'.') && !title.ends_with(u".."));
+    const TextView lastWord = title.substr(title.rfind(u' ') + 1);
+    const bool isJoined = title.ends_with(u',') || (!title.empty() && lastWord.find(u'.') + 1 == lastWord.size());
     return isJoined ? title.substr(0, title.size() - 1) : title;
 }
 
@@ -121,8 +122,10 @@ std::optional<Supplement> supplement(TextView text) {
 
 bool isEdition(TextView text) {
     const TextView inside = isInParentheses(text) ? text.substr(1, text.size() - 2) : text;
-    const std::size_t blank = inside.rfind(u' ');
-    return blank != TextView::npos && isOneOfIgnoringCase(inside.substr(blank + 1), kEditionWords);
+    // "late ed., sec. A"
+    const TextView edition = before(inside, u",");
+    const std::size_t blank = edition.rfind(u' ');
+    return blank != TextView::npos && isOneOfIgnoringCase(edition.substr(blank + 1), kEditionWords);
 }
 
 std::optional<Special> special(TextView text) {
@@ -135,12 +138,16 @@ std::optional<Special> special(TextView text) {
     if (startsWithIgnoringCase(behind, kOf)) {
         return Special{front, trim(behind.substr(kOf.size()))};
     }
+    // Turabian 7 17.3.6
+    if (behind.size() > 1 && behind.front() == u',') {
+        return Special{front, trim(behind, u" ,")};
+    }
     // The bracket that opened before the words.
     const TextView rest = trim(behind, kSignsAndBrackets);
     if (rest.empty()) {
         return Special{trim(front, u" ,;:(["), {}};
     }
-    const bool isInFront = trim(front, kSignsAndBrackets).empty() && !behind.starts_with(u' ');
+    const bool isInFront = trim(front, kSignsAndBrackets).empty() && behind.starts_with(u':');
     return isInFront ? std::optional<Special>({trim(behind, u" .,;:)]"), {}}) : std::nullopt;
 }
 

@@ -23,14 +23,14 @@ struct Supplement {
 /// "suppl 2", "(Suppl. 2)", "4, supp. 2", "4 (supplement)", "[Supplemental material]". Nothing for any other text.
 std::optional<Supplement> supplement(TextView text);
 
-/// True for a text that ends in "ed." or "edition": "late ed.", "final edition".
+/// True for a text that ends in "ed." or "edition", also before a comma: "late ed.", "final edition".
 bool isEdition(TextView text);
 
 /// A text that says that the issue is a special one.
 struct Special {
     /// What it says of the issue besides, in front of the words or behind them.
     TextView text;
-    /// The journal, where it follows: "Spec. issue of Critical Inquiry 18.4".
+    /// The journal, where it follows: "Spec. issue of Critical Inquiry 18.4", "special issue, Social Text 20, no. 2".
     TextView journal;
 };
 

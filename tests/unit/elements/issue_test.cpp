@@ -95,6 +95,7 @@ TEST(Issue, ReadsAndWritesWhatEveryStyleHas) {
                                                         {u"(S1)", u"S1"},
                                                         {u"Spring", u"Spring"},
                                                         {u"late ed.", u"late ed."},
+                                                        {u"natl. ed., sec. A", u"natl. ed., sec. A"},
                                                         {u"Supplement to the Times", u"Supplement to the Times"},
                                                         {u"a special issue price", u"a special issue price"},
                                                         {u"", u""}};
@@ -131,6 +132,9 @@ TEST(Issue, LeavesTheJournalAndTakesTheKindFromTheHost) {
     Issue issue = issueWith(2);
     EXPECT_EQ(parsed(issue, u"Identities. Ed. Anthony Appiah. Spec. issue of Critical Inquiry 18.4"),
               u"Critical Inquiry 18.4");
+    EXPECT_EQ(parsed(issue, u"“Made in the U.S.,” ed. Ann Lee, special issue, Social Text 20"), u"Social Text 20");
+    EXPECT_EQ(issue.value(Issue::kSpecialTitle), u"Made in the U.S.");
+    EXPECT_EQ(parsed(issue, u"Identities. Ed. Anthony Appiah. Spec. issue of Critical Inquiry"), u"Critical Inquiry");
     // No words in this style, deliberately.
     EXPECT_EQ(issue.toString(false, false, false), u"Identities. Anthony Appiah");
     struct Case {
