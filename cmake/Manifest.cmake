@@ -1,5 +1,5 @@
-# Writes the manifest with which the DLL is used without registration, from the coclasses of the
-# interface description. Called with -DIDL -DVERSION -DPROCESSOR -DOUTPUT.
+# Writes the manifest with which the DLL is used without registration, from the creatable
+# coclasses of the interface description. Called with -DIDL -DVERSION -DPROCESSOR -DOUTPUT.
 file(READ ${IDL} idl)
 # CMake's lists take square brackets as their own.
 string(REPLACE "[" "<" idl "${idl}")
@@ -10,6 +10,7 @@ string(REGEX MATCH "uuid\\((${guid})\\),[^>]*>[ \r\n]*library QuorvelTemplate" l
 set(library_id ${CMAKE_MATCH_1})
 string(REGEX MATCH "^([0-9]+\\.[0-9]+)" type_library_version ${VERSION})
 
+# A class that is not creatable has that word between its identifier and its help string, and is left out.
 string(REGEX MATCHALL "uuid\\(${guid}\\), helpstring\\(\"[^\"]*\"\\)>[ \r\n]*coclass [A-Za-z0-9]+" coclasses "${idl}")
 set(classes "")
 foreach(coclass IN LISTS coclasses)

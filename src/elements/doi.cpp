@@ -10,7 +10,8 @@ namespace quorvel::doi {
 namespace {
 
 constexpr TextView kAnnouncements[] = {
-    u"doi:", u"doi ", u"https://doi.org/", u"http://doi.org/", u"http://dx.doi.org/", u"https://dx.doi.org/"};
+    u"doi:",     u"doi ",       u"https://doi.org/", u"http://doi.org/", u"http://dx.doi.org/", u"https://dx.doi.org/",
+    u"doi.org/", u"dx.doi.org/"};
 constexpr TextView kDirectory = u"10.";
 constexpr TextView kSignsOfRegistrant = u"0123456789.";
 

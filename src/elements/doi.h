@@ -6,7 +6,8 @@
 ///
 ///   doi:10.1000/182      DOI: 10.1000/182      doi 10.1000/182      announced
 ///   http://dx.doi.org/10.1000/182              https://doi.org/10.1000/182
-///                                              as the address of the resolver, the older and the current one
+///                                              as the address of the resolver, the older and the current one,
+///                                              also without scheme
 ///   10.1000/182                                on its own
 namespace quorvel::doi {
 

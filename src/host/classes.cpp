@@ -7,8 +7,11 @@
 #include "host/adapters/author_adapter.h"
 #include "host/adapters/citation_adapter.h"
 #include "host/adapters/date_time_adapter.h"
+#include "host/adapters/issue_adapter.h"
 #include "host/adapters/keywords_adapter.h"
 #include "host/adapters/model_adapter.h"
+#include "host/adapters/newspaper_adapter.h"
+#include "host/adapters/online_adapter.h"
 #include "host/adapters/page_adapter.h"
 #include "host/adapters/place_adapter.h"
 #include "host/adapters/publisher_adapter.h"
@@ -39,9 +42,12 @@ const LibraryClass kClasses[] = {
     {&CLSID_OutputTemplateCitation, {kNone, kNone, kNone}, make<CitationAdapter>},
     {&CLSID_OutputTemplateAuthor, {0, 9, kNone}, make<AuthorAdapter>},
     {&CLSID_OutputTemplateTitle, {1, 2, 3}, make<TitleAdapter>},
+    {&CLSID_OutputTemplateNewspaper, {4, kNone, kNone}, make<NewspaperAdapter>},
     {&CLSID_OutputTemplatePublisher, {5, kNone, kNone}, make<PublisherAdapter>},
     {&CLSID_OutputTemplateYear, {6, kNone, kNone}, make<YearAdapter>},
     {&CLSID_OutputTemplatePage, {7, kNone, kNone}, make<PageAdapter>},
+    {nullptr, {11, kNone, kNone}, make<IssueAdapter>},
+    {&CLSID_OutputTemplateOnline, {13, kNone, kNone}, make<OnlineAdapter>},
     {&CLSID_OutputTemplateKeywords, {14, kNone, kNone}, make<KeywordsAdapter>},
     {&CLSID_OutputTemplatePlace, {15, kNone, kNone}, make<PlaceAdapter>},
     {&CLSID_OutputTemplateDateTime, {17, kNone, kNone}, make<DateTimeAdapter>},

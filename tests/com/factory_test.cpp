@@ -24,7 +24,7 @@ TEST_F(Factory, BuildMakesTheElementOfACodeOrReportsAnEmptyReference) {
     const auto sink = makeObject<FormattedText>();
     for (const std::int32_t code : codes) {
         std::wstring expected = L"Nothing";
-        for (const CreatableClass& creatable : kClasses) {
+        for (const CreatableClass& creatable : allClasses()) {
             if (std::count(creatable.codes.begin(), creatable.codes.end(), code) > 0) {
                 expected = std::wstring(L"_") + creatable.name;
             }

@@ -94,7 +94,7 @@ private:
 
 TEST_F(HostileCall, NoArgumentMakesAMemberFail) {
     const std::size_t oddCount = OddArguments().all().size();
-    for (const CreatableClass& creatable : kClasses) {
+    for (const CreatableClass& creatable : allClasses()) {
         const LateBoundObject object = library.create(creatable);
         for (const Member& member : membersOf(object)) {
             for (std::size_t position = 0; position < member.parameters; ++position) {
@@ -114,7 +114,7 @@ TEST_F(HostileCall, NoArgumentMakesAMemberFail) {
 }
 
 TEST_F(HostileCall, TheVtableTakesNullPointersAndZeros) {
-    for (const CreatableClass& creatable : kClasses) {
+    for (const CreatableClass& creatable : allClasses()) {
         const LateBoundObject object = library.create(creatable);
         ComPointer<ITypeInfo> dispatch;
         ComPointer<ITypeInfo> vtable;

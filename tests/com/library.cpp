@@ -20,13 +20,25 @@ const std::vector<CreatableClass> kClasses = {
     {L"OutputTemplateCitation", __uuidof(::OutputTemplateCitation), __uuidof(_OutputTemplateCitation), {}},
     {L"OutputTemplateAuthor", __uuidof(::OutputTemplateAuthor), __uuidof(_OutputTemplateAuthor), {0, 9}},
     {L"OutputTemplateTitle", __uuidof(::OutputTemplateTitle), __uuidof(_OutputTemplateTitle), {1, 2, 3}},
+    {L"OutputTemplateNewspaper", __uuidof(::OutputTemplateNewspaper), __uuidof(_OutputTemplateNewspaper), {4}},
     {L"OutputTemplatePublisher", __uuidof(::OutputTemplatePublisher), __uuidof(_OutputTemplatePublisher), {5}},
     {L"OutputTemplateYear", __uuidof(::OutputTemplateYear), __uuidof(_OutputTemplateYear), {kYear}},
     {L"OutputTemplatePage", __uuidof(::OutputTemplatePage), __uuidof(_OutputTemplatePage), {7}},
+    {L"OutputTemplateOnline", __uuidof(::OutputTemplateOnline), __uuidof(_OutputTemplateOnline), {13}},
     {L"OutputTemplateKeywords", __uuidof(::OutputTemplateKeywords), __uuidof(_OutputTemplateKeywords), {14}},
     {L"OutputTemplatePlace", __uuidof(::OutputTemplatePlace), __uuidof(_OutputTemplatePlace), {kPlace}},
     {L"OutputTemplateDateTime", __uuidof(::OutputTemplateDateTime), __uuidof(_OutputTemplateDateTime), {kDateTime}},
 };
+
+const std::vector<CreatableClass> kClassesOfBuild = {
+    {L"OutputTemplateIssue", __uuidof(::OutputTemplateIssue), __uuidof(_OutputTemplateIssue), {11}},
+};
+
+std::vector<CreatableClass> allClasses() {
+    std::vector<CreatableClass> all = kClasses;
+    all.insert(all.end(), kClassesOfBuild.begin(), kClassesOfBuild.end());
+    return all;
+}
 
 std::wstring Library::path() {
     std::wstring program(MAX_PATH, L'\0');

@@ -36,6 +36,11 @@ struct CreatableClass {
 /// Every creatable class, Main2 first.
 extern const std::vector<CreatableClass> kClasses;
 
+/// The classes that are not creatable: `build` alone makes them.
+extern const std::vector<CreatableClass> kClassesOfBuild;
+/// Those and the creatable ones.
+std::vector<CreatableClass> allClasses();
+
 struct Member {
     std::wstring name;
     DISPID id;

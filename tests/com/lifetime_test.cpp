@@ -43,6 +43,9 @@ TEST_F(Lifetime, ClassFactories) {
     void* none = &none;
     EXPECT_EQ(library.getClassObject(__uuidof(_Main2), IID_IClassFactory, &none), CLASS_E_CLASSNOTAVAILABLE);
     EXPECT_EQ(none, nullptr);
+    for (const CreatableClass& built : kClassesOfBuild) {
+        EXPECT_EQ(library.getClassObject(built.clsid, IID_IClassFactory, &none), CLASS_E_CLASSNOTAVAILABLE);
+    }
     EXPECT_EQ(library.getClassObject(__uuidof(::Main2), IID_IClassFactory, nullptr), E_POINTER);
     EXPECT_EQ(library.getClassObject(__uuidof(::Main2), IID_IDispatch, &none), E_NOINTERFACE);
     EXPECT_EQ(none, nullptr);
@@ -130,7 +133,7 @@ TEST_F(Lifetime, AnObjectHasItsTypeInformationOrIsNotMade) {
 }
 
 TEST_F(Lifetime, ElementsOutliveTheirFactoryAndClonesTheirOriginal) {
-    for (const CreatableClass& creatable : kClasses) {
+    for (const CreatableClass& creatable : allClasses()) {
         if (creatable.codes.empty()) continue;
         LateBoundObject element = library.create(creatable);
         if (idOf(element.dispatch(), L"Clone") != DISPID_UNKNOWN) {

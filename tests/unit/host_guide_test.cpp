@@ -19,8 +19,11 @@ const std::map<std::string, std::string> kElements = {
     {"Place (15)", "place"},
     {"Date and time (17)", "date-time"},
     {"Title (1, 2, 3)", "title"},
+    {"Newspaper (4)", "newspaper"},
     {"Publisher (5)", "publisher"},
     {"Page (7)", "page"},
+    {"Issue (11)", "issue"},
+    {"Online (13)", "online"},
 };
 
 /// A cell may say in words what a file says in full.

@@ -37,7 +37,7 @@ bool parseAnthologyTag(AuthorReading& reading, const Word& word) {
         bool isTag = false;
         for (const RoleOfTag& tag : kRolesOfTags) {
             if (word.is(tag.wordClass)) {
-                reading.persons.roles[tag.role] = true;
+                reading.persons.roles[static_cast<std::size_t>(tag.role)] = true;
                 isTag = true;
             }
         }

@@ -13,8 +13,6 @@ namespace quorvel {
 
 namespace {
 
-constexpr std::int16_t kLastSlot = OutputTemplateDateTime::kTimeZone;
-
 /// The separators of each slot: in front of the output, before each later slot, at the end.
 constexpr SlotLayout kJoined({
     {kPlainSlot, {u"", u", ", u", ", u""}},

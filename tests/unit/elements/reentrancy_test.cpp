@@ -6,7 +6,10 @@
 #include "elements/author/author.h"
 #include "elements/citation/citation.h"
 #include "elements/date/date_time.h"
+#include "elements/issue/issue.h"
 #include "elements/keywords.h"
+#include "elements/newspaper.h"
+#include "elements/online.h"
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
@@ -149,6 +152,20 @@ const Case kCases[] = {
      u"Smith, John, World Health Organization, and Ann Lee, eds.", u"Kuhn T"},
     {"title", [] { return elementOf<OutputTemplateTitle>(resetTitle); },
      u"Introduction to \u201CThe \u2018Other\u2019 Question,\u201D by Ann Lee [Die andere Frage]", u"A Life"},
+    {"issue", [] { return elementOf<OutputTemplateIssue>([](auto& issue) {
+                       issue.Reset({3, u"Special issue"});
+                   }); },
+     u"4, \u201CThe \u2018Other\u2019 Question,\u201D ed. Ann Lee, special issue", u"4 (suppl 2)"},
+    {"newspaper",
+     [] {
+         return elementOf<OutputTemplateNewspaper>([](auto& newspaper) { newspaper.Reset({true, u"[]", u"hint"}); });
+     },
+     u"Globe and Mail [Toronto]", u"Times (London)"},
+    {"online",
+     [] { return elementOf<OutputTemplateOnline>([](auto& online) {
+              online.Reset({true, true, true, u"doi:"});
+          }); },
+     u"Abstract retrieved from https://www.example.org/a", u"DOI: 10.1000/182"},
     {"publisher",
      [] {
          return elementOf<OutputTemplatePublisher>([](auto& publisher) {

@@ -1,0 +1,197 @@
+#include "elements/online.h"
+
+#include <gtest/gtest.h>
+
+#include "support/recording_service.h"
+#include "support/recording_sink.h"
+#include "support/shown.h"
+
+namespace quorvel {
+namespace {
+
+using Online = OutputTemplateOnline;
+
+const OnlineOptions kApa = {true, true, true, u"doi:"};
+const OnlineOptions kOthers = {false, false, false, u"doi:"};
+const OnlineOptions kResolver = {true, false, false, u"https://doi.org/"};
+
+Online onlineWith(const OnlineOptions& options) {
+    Online online;
+    online.Initialize(std::make_shared<RecordingSink>());
+    online.Reset(options);
+    return online;
+}
+
+/// What `Parse` leaves.
+Text parsed(Online& online, TextView text) {
+    Text left(text);
+    online.Parse(left, u"ignored");
+    return left;
+}
+
+/// 'u' address, 'e' ERIC number, 'd' database, '-' DOI or plain.
+char16_t kindOf(const Online& online) {
+    return online.isEric() ? u'e' : online.isDatabase ? u'd' : online.isURL() ? u'u' : u'-';
+}
+
+// Texts as they stand in finished references. What each style writes of them is read again with the same values.
+TEST(Online, ReadsAndWritesWhatEveryStyleHas) {
+    struct Case {
+        TextView text;
+        char16_t kind;
+        TextView online;
+        TextView apa;
+        TextView others;
+        TextView left = {};
+    };
+    constexpr Case kCases[] = {
+        {u"http://www.example.org/a.html", u'u', u"www.example.org/a.html",
+         u"Retrieved from http://www.example.org/a.html", u"http://www.example.org/a.html"},
+        {u"www.example.org/a.html", u'u', u"www.example.org/a.html", u"Retrieved from http://www.example.org/a.html",
+         u"http://www.example.org/a.html"},
+        {u"<HTTPS://example.org/?q=a%20b>.", u'u', u"example.org/?q=a%20b",
+         u"Retrieved from https://example.org/?q=a%20b", u"https://example.org/?q=a%20b"},
+        {u"retrieved from http://example.org/a b", u'u', u"example.org/a b", u"Retrieved from http://example.org/a b",
+         u"http://example.org/a b"},
+        {u"Retrieved May 5, 2011, from http://example.org/", u'u', u"example.org/",
+         u"Retrieved from http://example.org/", u"http://example.org/", u"May 5, 2011"},
+        {u"http://example.org. Published May 2, 2008. Accessed May 5, 2009.", u'u', u"example.org",
+         u"Retrieved from http://example.org", u"http://example.org", u"Published May 2, 2008. Accessed May 5, 2009"},
+        {u"http://example.org (accessed May 5, 2009)", u'u', u"example.org", u"Retrieved from http://example.org",
+         u"http://example.org", u"(accessed May 5, 2009)"},
+        {u"ftp://host/file", u'u', u"ftp://host/file", u"Retrieved from ftp://host/file", u"ftp://host/file"},
+        {u"doi:10.1000/182", u'-', u"10.1000/182", u"doi:10.1000/182", u"doi:10.1000/182"},
+        {u"DOI: 10.1000/182.", u'-', u"10.1000/182", u"doi:10.1000/182", u"doi:10.1000/182"},
+        {u"http://dx.doi.org/10.1000/182", u'-', u"10.1000/182", u"doi:10.1000/182", u"doi:10.1000/182"},
+        {u"Retrieved from https://dx.doi.org/10.1000/182", u'-', u"10.1000/182", u"doi:10.1000/182",
+         u"doi:10.1000/182"},
+        {u"http://doi.org/10.1000/182 (accessed May 5, 2009)", u'-', u"10.1000/182", u"doi:10.1000/182",
+         u"doi:10.1000/182", u"(accessed May 5, 2009)"},
+        {u"https://doi.org/10.1000/182", u'-', u"10.1000/182", u"doi:10.1000/182", u"doi:10.1000/182"},
+        {u"10.1000/182", u'-', u"10.1000/182", u"doi:10.1000/182", u"doi:10.1000/182"},
+        {u"11.1000/182", u'-', u"11.1000/182", u"doi:11.1000/182", u"doi:11.1000/182"},
+        {u"Retrieved from PsycINFO database.", u'd', u"PsycINFO", u"Retrieved from PsycINFO database", u"PsycINFO"},
+        {u"database: Kant Papers", u'd', u"Kant Papers", u"Retrieved from Kant Papers database",
+         u"Kant Papers database"},
+        {u"JSTOR", u'd', u"JSTOR", u"Retrieved from JSTOR database", u"JSTOR"},
+        {u"Retrieved from ERIC database. (ED482912)", u'e', u"ED482912", u"Retrieved from ERIC database. (ED482912)",
+         u"ED482912"},
+        {u"ERIC Document Reproduction Service No. ED 346 082", u'e', u"ED346082",
+         u"Retrieved from ERIC database. (ED346082)", u"ED346082"},
+        {u"ej695221", u'e', u"EJ695221", u"Retrieved from ERIC database. (EJ695221)", u"EJ695221"},
+        {u"Abstract retrieved from http://www.example.org/a", u'u', u"www.example.org/a",
+         u"Abstract retrieved from http://www.example.org/a", u"Abstract retrieved from http://www.example.org/a"},
+        {u"Abstract: https://example.org/a", u'u', u"example.org/a", u"Abstract retrieved from https://example.org/a",
+         u"Abstract retrieved from https://example.org/a"},
+        {u"abstract doi:10.1000/182", u'-', u"10.1000/182", u"Abstract retrieved from doi:10.1000/182",
+         u"Abstract retrieved from doi:10.1000/182"},
+        {u"Abstract retrieved from ERIC database. (ED482912)", u'e', u"ED482912",
+         u"Abstract retrieved from ERIC database. (ED482912)", u"Abstract retrieved from ED482912"},
+        {u"Abstract:the card catalogue", u'-', u"the card catalogue", u"Abstract retrieved from the card catalogue",
+         u"Abstract retrieved from the card catalogue"},
+    };
+    for (const Case& c : kCases) {
+        SCOPED_TRACE(shown(c.text));
+        Online online = onlineWith(kApa);
+        online.isDatabase = true;
+        EXPECT_EQ(parsed(online, c.text), c.left);
+        for (const TextView text : {c.text, c.apa, c.others}) {
+            parsed(online, text);
+            EXPECT_EQ(online.Online(), c.online) << shown(text);
+            EXPECT_EQ(kindOf(online), c.kind);
+            for (const auto& [options, written] : {std::pair(kOthers, c.others), std::pair(kApa, c.apa)}) {
+                online.Reset(options);
+                EXPECT_EQ(online.toString(false, false, false), written);
+                EXPECT_EQ(online.toString(false, true, false), written);
+            }
+            // In notes, and with a prefix that is the resolver's address.
+            online.Reset(kResolver);
+            parsed(online, online.toString(true, false, false));
+            EXPECT_EQ(online.Online(), c.online);
+            EXPECT_EQ(kindOf(online), c.kind);
+            online.Reset(kApa);
+            EXPECT_EQ(online.toString(false, false, false), c.apa);
+        }
+    }
+}
+
+TEST(Online, TellsAnAddressWithoutSchemeFromOtherTexts) {
+    constexpr TextView kAddresses[] = {
+        u"www.x",       u"WWW.example.invalid/a", u"ftp.example", u"example.org",    u"Example.ORG/a/b?c=1%20d",
+        u"host:80.com", u"a/index.html",          u"bbc.co.uk",   u"example.museum/"};
+    // They come out as they went in.
+    constexpr TextView kOthers[] = {u"",
+                                    u"www. example.org",
+                                    u"org",
+                                    u"html",
+                                    u"kant@example.org",
+                                    u"a?index.html",
+                                    u"Vol. 3",
+                                    u"Retrieved from",
+                                    u"10.5 times",
+                                    u"St. Louis",
+                                    u"database",
+                                    u"Retrieved from the attic",
+                                    u"Abstract",
+                                    u"Abstract:",
+                                    u"http://",
+                                    u"ED12",
+                                    u"Edwards",
+                                    u"Abstract Art",
+                                    u"Eric Edam",
+                                    u"Retrieved by hand from a well",
+                                    u"doi:",
+                                    u"<>."};
+    Online online = onlineWith(kApa);
+    for (const TextView text : kAddresses) {
+        EXPECT_EQ(parsed(online, text), u"");
+        EXPECT_TRUE(online.isURL()) << shown(text);
+        EXPECT_EQ(online.toString(false, false, false), concatenate({u"Retrieved from http://", text}));
+    }
+    for (const TextView text : kOthers) {
+        EXPECT_EQ(parsed(online, text), u"");
+        EXPECT_EQ(kindOf(online), u'-') << shown(text);
+        EXPECT_EQ(online.toString(false, false, false), text);
+    }
+}
+
+TEST(Online, MarksAbstractsAndTakesTheHostsWord) {
+    Online online = onlineWith(kApa);
+    parsed(online, u"Abstract retrieved from http://www.example.org/a");
+    // Without a blank, deliberately.
+    EXPECT_EQ(online.toString(true, false, false), u"Abstract:http://www.example.org/a");
+    EXPECT_EQ(parsed(online, u"the Kant Papers"), u"");
+    online.isDatabase = true;
+    EXPECT_EQ(online.toString(true, false, false), u"Retrieved from the Kant Papers database");
+    EXPECT_EQ(online.toString(false, false, true), u"{\\f0 Retrieved from the Kant Papers database}");
+    EXPECT_TRUE(online.SupportsWebsiteAsDatabase() && online.SupportsWebsiteAsEric());
+    online.Reset(kResolver);
+    EXPECT_TRUE(online.SupportsWebsiteAsDatabase() && !online.SupportsWebsiteAsEric());
+}
+
+class OnlineReports : public ReportingTest {};
+
+TEST_F(OnlineReports, ASinkThatFailsIsReported) {
+    Online online = onlineWith(kApa);
+    parsed(online, u"JSTOR");
+    const auto sink = std::make_shared<RecordingSink>();
+    sink->failAt(1);
+    online.ToFormattedString(sink, false, false);
+    EXPECT_EQ(service().errors().size(), 1U);
+    online.ToFormattedString(sink, false, false);
+    EXPECT_EQ(sink->plain(), u"Retrieved from JSTOR database");
+    const auto own = std::make_shared<RecordingSink>();
+    for (int call = 1; call <= 4; ++call) {
+        service().forget();
+        own->failAt(call);
+        online.Initialize(own);
+        EXPECT_EQ(online.toString(false, false, true) == u"{\\f0 Retrieved from JSTOR database}", call == 1);
+        EXPECT_EQ(service().errors().size(), 1U) << call;
+    }
+    online.Initialize(nullptr);
+    online.ToFormattedString(nullptr, false, false);
+    EXPECT_EQ(online.toString(false, false, false), u"Retrieved from JSTOR database");
+}
+
+}  // namespace
+}  // namespace quorvel
