@@ -16,64 +16,26 @@ using Fields = std::vector<std::pair<TextView, TextView>>;
 struct Style {
     TextView name;
     AuthorOptions authors;
-    std::int16_t format;
+    TitleOptions titles;
     CitationOptions options;
 };
 
-/// MLA 7 6.3-6.4: author and page.
+Style styleOf(TextView name, std::string_view file) {
+    const test::StyleFile& style = test::StyleFile::of(file);
+    return {name, style.options("author", kAuthorOptions), style.options("title", kTitleOptions),
+            style.options("citation", kCitationOptions)};
+}
 Style mla() {
-    CitationOptions options;
-    options.SEPAR = u", ";
-    options.volPrefix = u"vol. ";
-    options.titleIsQuoted = true;
-    options.supportsSubwork = true;
-    options.PSEPR = u" ";
-    options.VSEPR = u": ";
-    return {u"MLA", test::mlaAuthorOptions(), 2, options};
+    return styleOf(u"MLA", "mla");
 }
-
-/// APA 6 6.11-6.20: author and date.
 Style apa() {
-    CitationOptions options;
-    options.SEPAR = u", ";
-    options.useNoDate = true;
-    options.volPrefix = u"Vol. ";
-    options.useOriginalYear = true;
-    options.titleIsQuoted = true;
-    options.supportsSubwork = true;
-    options.PSEPR = u", ";
-    options.YSEPR = u", ";
-    options.VSEPR = u", ";
-    return {u"APA", test::apaAuthorOptions(), 1, options};
+    return styleOf(u"APA", "apa");
 }
-
-/// Turabian 7 16.4: author, short title and page.
 Style turabian() {
-    CitationOptions options;
-    options.SEPAR = u", ";
-    options.volPrefix = u"vol. ";
-    options.useAuthorOrPeriodicalTitle = true;
-    options.useTitle = true;
-    options.titleIsQuoted = true;
-    options.useEmailKey = true;
-    options.supportsSubwork = true;
-    options.PSEPR = u", ";
-    options.VSEPR = u":";
-    return {u"Turabian", test::turabianAuthorOptions(), 3, options};
+    return styleOf(u"Turabian", "turabian");
 }
-
-/// AMA 10 3.3: the journal; otherwise author and date.
 Style ama() {
-    CitationOptions options;
-    options.SEPAR = u", ";
-    options.volPrefix = u"vol ";
-    options.useEmailKey = true;
-    options.useDegree = true;
-    options.journalCentric = true;
-    options.PSEPR = u", ";
-    options.YSEPR = u", ";
-    options.VSEPR = u":";
-    return {u"AMA", test::amaAuthorOptions(), 0, options};
+    return styleOf(u"AMA", "ama");
 }
 
 /// The phrases, those in italics between "_".
@@ -98,7 +60,7 @@ protected:
 
     void use(const Style& style) {
         title->Initialize(std::make_shared<RecordingSink>());
-        title->Reset({style.format, nullptr, style.format < 2, true, u"", true, u"", true, u""});
+        title->Reset(style.titles);
         citation.Initialize(std::make_shared<RecordingSink>(), true, keys, test::authorWith(style.authors), title,
                             nullptr);
         citation.Reset(style.options);
