@@ -59,13 +59,11 @@ void OutputTemplateAuthor::Reset(const AuthorOptions& options) {
 void OutputTemplateAuthor::layOut() {
     // Held, since each slot is reported and the host may set another style meanwhile.
     const AuthorStyleRef style = mStyle;
-    const authorlayout::Texts separators = {style->andSeparator,          style->commaForm,
-                                            style->twoPersonForm,         style->etAlSeparator,
-                                            style->etAlCitationSeparator, style->options.editorSeparator};
-    held(assembly())->Reset(authorlayout::kEditor);
-    for (std::int16_t slot = 0; slot <= authorlayout::kEditor; ++slot) {
-        Add(slot, false, false, authorlayout::separatorsAfter(slot, separators));
-    }
+    const TextView styleTexts[authorlayout::kStyleTexts] = {
+        style->andSeparator,          style->commaForm,
+        style->twoPersonForm,         style->etAlSeparator,
+        style->etAlCitationSeparator, style->options.editorSeparator};
+    AssembledElement::layOut(authorlayout::kLayout, styleTexts);
 }
 
 std::shared_ptr<OutputTemplateAuthor> OutputTemplateAuthor::Clone() const {

@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include "elements/author/layout.h"
 #include "support/author_reading.h"
 #include "support/shown.h"
 
@@ -234,20 +233,6 @@ TEST(AuthorOutput, SemicolonsBesideGroupAuthors) {
     }
     EXPECT_EQ(author->convertCommaToSemicolon(u"Fox F, et al, Baltic Asthma Group"),
               u"Fox F, et al, Baltic Asthma Group");
-}
-
-/// Every row of the layout has the length that the assembly splits, and nothing stands before a slot.
-TEST(AuthorOutput, LayoutHasTwoFullListsForEachSlot) {
-    const authorlayout::Texts texts = {u" and ", u", and ", u" and ", u", ", u" ", u"; "};
-    for (std::int16_t slot = 0; slot <= authorlayout::kEditor; ++slot) {
-        const std::vector<Text> separators = authorlayout::separatorsAfter(slot, texts);
-        ASSERT_EQ(separators.size(), 2U * static_cast<std::size_t>(11 - slot));
-        EXPECT_EQ(separators[0], u"");
-        EXPECT_EQ(separators[separators.size() / 2], u"");
-    }
-    EXPECT_EQ(authorlayout::separatorsAfter(0, texts)[10], u". In discussion of:");
-    EXPECT_EQ(authorlayout::separatorsAfter(7, texts),
-              (std::vector<Text>{u"", u", ", u"; ", u"", u"", u" ", u"; ", u""}));
 }
 
 }  // namespace
