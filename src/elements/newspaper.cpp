@@ -86,25 +86,31 @@ bool isCity(TextView text) {
            !endsWithOneOf(text, kEndsOfEditions);
 }
 
-/// "Globe and Mail [Toronto]" and "(Toronto) Globe and Mail", with something on both sides.
+std::optional<TitleAndCity> ifBothThere(TextView title, TextView city) {
+    title = trim(title);
+    return !title.empty() && isCity(city) ? std::optional<TitleAndCity>({title, city}) : std::nullopt;
+}
+
+/// "Globe and Mail [Toronto]"
+std::optional<TitleAndCity> cityBehind(TextView text, const Brackets& pair) {
+    const std::size_t at = text.ends_with(pair.closing) ? text.rfind(pair.opening) : TextView::npos;
+    return at == TextView::npos ? std::nullopt
+                                : ifBothThere(text.substr(0, at), text.substr(at + 1, text.size() - at - 2));
+}
+
+/// "(Toronto) Globe and Mail"
+std::optional<TitleAndCity> cityInFront(TextView text, const Brackets& pair) {
+    const std::size_t at = text.starts_with(pair.opening) ? text.find(pair.closing) : TextView::npos;
+    return at == TextView::npos ? std::nullopt : ifBothThere(text.substr(at + 1), text.substr(1, at - 1));
+}
+
+/// The city behind the title in either kind of brackets, or else in front of it.
 std::optional<TitleAndCity> titleAndCity(TextView text) {
-    for (const Brackets& pair : kBrackets) {
-        TitleAndCity parts;
-        if (text.ends_with(pair.closing)) {
-            const std::size_t at = text.rfind(pair.opening);
-            if (at == TextView::npos) {
-                continue;
+    for (const auto find : {cityBehind, cityInFront}) {
+        for (const Brackets& pair : kBrackets) {
+            if (const std::optional<TitleAndCity> found = find(text, pair)) {
+                return found;
             }
-            parts = {trim(text.substr(0, at)), text.substr(at + 1, text.size() - at - 2)};
-        } else if (text.starts_with(pair.opening)) {
-            const std::size_t at = text.find(pair.closing);
-            if (at == TextView::npos) {
-                continue;
-            }
-            parts = {trim(text.substr(at + 1)), text.substr(1, at - 1)};
-        }
-        if (!parts.title.empty() && isCity(parts.city)) {
-            return parts;
         }
     }
     return std::nullopt;

@@ -140,6 +140,12 @@ TextView schemeOf(TextView text) {
     return startsWithIgnoringCase(text, kHttp) ? kHttp : startsWithIgnoringCase(text, kHttps) ? kHttps : TextView();
 }
 
+/// "ftp://ftp.example.org"
+bool hasOtherScheme(TextView address) {
+    const TextView scheme = before(address, kSignOfScheme);
+    return scheme.size() < address.size() && std::all_of(scheme.begin(), scheme.end(), isAsciiLetter);
+}
+
 /// Letters and digits of an ERIC number: "ED482912" for "ED 482 912"; empty for any other text.
 Text ericNumber(TextView text) {
     Text number = toUpper(replaceAll(text, u" ", u""));
@@ -228,7 +234,7 @@ void OutputTemplateOnline::Parse(Text& text, TextView previousStr) {
 /// @return False for a text that is no known source
 bool OutputTemplateOnline::parseSource(Text& text) {
     mOnline.clear();
-    isDatabase = mIsEric = mIsURL = mIsDOI = mIsHTTPS = false;
+    isDatabase = mIsEric = mIsURL = mIsDOI = mIsHTTPS = mHasOtherScheme = false;
     if (parseEric(text) || parseDatabase(text)) {
         text.clear();
         return true;
@@ -296,6 +302,7 @@ bool OutputTemplateOnline::parseAddress(Text& text) {
     }
     mIsURL = true;
     mIsHTTPS = scheme == kHttps;
+    mHasOtherScheme = scheme.empty() && hasOtherScheme(address);
     mOnline = address;
     text = Text(trim(TextView(text).substr(end)));
     return true;
@@ -349,7 +356,7 @@ Text OutputTemplateOnline::source() const {
         return concatenate({mOnline, isKnown ? TextView() : kDatabaseSuffix});
     }
     if (mIsURL) {
-        const TextView scheme = contains(mOnline, kSignOfScheme) ? TextView() : mIsHTTPS ? kHttps : kHttp;
+        const TextView scheme = mHasOtherScheme ? TextView() : mIsHTTPS ? kHttps : kHttp;
         return concatenate({scheme, mOnline});
     }
     return mIsDOI ? concatenate({mOptions.DOIPrefix, mOnline}) : mOnline;
@@ -376,6 +383,7 @@ void OutputTemplateOnline::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mIsHTTPS", mIsHTTPS);
     report.vbwReportVariable(u"mFormattedStr", mFormattedStr);
     report.vbwReportVariable(u"mIsAbstract", mIsAbstract);
+    report.vbwReportVariable(u"mHasOtherScheme", mHasOtherScheme);
 }
 
 }  // namespace quorvel

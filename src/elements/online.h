@@ -102,8 +102,9 @@ private:
     bool mIsURL = false;
     bool mIsDOI = false;
     bool mIsHTTPS = false;
-    bool mIsAbstract = false;
     OutputSinkRef mFormattedStr;
+    bool mIsAbstract = false;
+    bool mHasOtherScheme = false;
 };
 
 }  // namespace quorvel
