@@ -37,9 +37,10 @@ Text mapped(TextView text, Map map) {
     return result;
 }
 
-bool areSameIgnoringCase(char16_t left, char16_t right) {
+// A lambda is inlined where a pointer to a function is not.
+constexpr auto areSameIgnoringCase = [](char16_t left, char16_t right) {
     return left == right || toLower(left) == toLower(right);
-}
+};
 
 }  // namespace
 
@@ -78,13 +79,18 @@ bool endsWithIgnoringCase(TextView text, TextView suffix) {
 }
 
 std::size_t findIgnoringCase(TextView text, TextView part, std::size_t from) {
-    if (from > text.size()) {
-        return TextView::npos;
+    if (part.empty()) {
+        return from <= text.size() ? from : TextView::npos;
     }
-    const auto* const begin = text.begin() + from;
-    const auto* const found = std::search(begin, text.end(), part.begin(), part.end(), areSameIgnoringCase);
-    const bool isFound = found != text.end() || part.empty();
-    return isFound ? static_cast<std::size_t>(found - text.begin()) : TextView::npos;
+    // Most positions fall at the first letter.
+    const char16_t first = toLower(part[0]);
+    const TextView rest = part.substr(1);
+    for (std::size_t at = from; at + part.size() <= text.size(); ++at) {
+        if (toLower(text[at]) == first && equalsIgnoringCase(text.substr(at + 1, rest.size()), rest)) {
+            return at;
+        }
+    }
+    return TextView::npos;
 }
 
 bool containsIgnoringCase(TextView text, TextView part) {

@@ -7,6 +7,7 @@
 #include "host/adapters/author_adapter.h"
 #include "host/adapters/citation_adapter.h"
 #include "host/adapters/date_time_adapter.h"
+#include "host/adapters/edition_adapter.h"
 #include "host/adapters/issue_adapter.h"
 #include "host/adapters/keywords_adapter.h"
 #include "host/adapters/model_adapter.h"
@@ -46,6 +47,7 @@ const LibraryClass kClasses[] = {
     {&CLSID_OutputTemplatePublisher, {5, kNone, kNone}, make<PublisherAdapter>},
     {&CLSID_OutputTemplateYear, {6, kNone, kNone}, make<YearAdapter>},
     {&CLSID_OutputTemplatePage, {7, kNone, kNone}, make<PageAdapter>},
+    {&CLSID_OutputTemplateEdition, {8, kNone, kNone}, make<EditionAdapter>},
     {nullptr, {11, kNone, kNone}, make<IssueAdapter>},
     {&CLSID_OutputTemplateOnline, {13, kNone, kNone}, make<OnlineAdapter>},
     {&CLSID_OutputTemplateKeywords, {14, kNone, kNone}, make<KeywordsAdapter>},

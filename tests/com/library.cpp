@@ -24,6 +24,7 @@ const std::vector<CreatableClass> kClasses = {
     {L"OutputTemplatePublisher", __uuidof(::OutputTemplatePublisher), __uuidof(_OutputTemplatePublisher), {5}},
     {L"OutputTemplateYear", __uuidof(::OutputTemplateYear), __uuidof(_OutputTemplateYear), {kYear}},
     {L"OutputTemplatePage", __uuidof(::OutputTemplatePage), __uuidof(_OutputTemplatePage), {7}},
+    {L"OutputTemplateEdition", __uuidof(::OutputTemplateEdition), __uuidof(_OutputTemplateEdition), {8}},
     {L"OutputTemplateOnline", __uuidof(::OutputTemplateOnline), __uuidof(_OutputTemplateOnline), {13}},
     {L"OutputTemplateKeywords", __uuidof(::OutputTemplateKeywords), __uuidof(_OutputTemplateKeywords), {14}},
     {L"OutputTemplatePlace", __uuidof(::OutputTemplatePlace), __uuidof(_OutputTemplatePlace), {kPlace}},

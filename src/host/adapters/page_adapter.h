@@ -4,6 +4,7 @@
 
 #include "elements/page.h"
 #include "host/com/com_object.h"
+#include "host/com/element_access.h"
 #include "host/host_sink.h"
 #include "host/interfaces.h"
 
@@ -78,6 +79,9 @@ public:
     STDMETHODIMP put_Note(BSTR Note) override {
         return call([&] { mPage->Note = view(Note); });
     }
+
+protected:
+    ComPtr<IUnknown> elementAccess() override { return ElementAccess::to(this, mPage); }
 
 private:
     std::shared_ptr<OutputTemplatePage> mPage;

@@ -6,6 +6,7 @@
 #include "elements/author/author.h"
 #include "elements/citation/citation.h"
 #include "elements/date/date_time.h"
+#include "elements/edition/edition.h"
 #include "elements/issue/issue.h"
 #include "elements/keywords.h"
 #include "elements/newspaper.h"
@@ -146,6 +147,13 @@ struct Case {
     TextView other;
 };
 
+void resetEdition(OutputTemplateEdition& edition) {
+    const auto page = std::make_shared<OutputTemplatePage>();
+    page->Initialize(nullptr);
+    page->Reset(PageOptions());
+    edition.Reset({2, page});
+}
+
 const Case kCases[] = {
     {"author",
      [] { return elementOf<OutputTemplateAuthor>([](auto& author) { author.Reset(test::amaAuthorOptions()); }); },
@@ -175,6 +183,8 @@ const Case kCases[] = {
      u"Vintage-Knopf; London: Random House Press", u"MIT Press"},
     {"page", [] { return elementOf<OutputTemplatePage>([](auto& page) { page.Reset(PageOptions()); }); },
      u"pp. 112-15n3", u"chap. 4"},
+    {"edition", [] { return elementOf<OutputTemplateEdition>(resetEdition); },
+     u"Rpt. of \u201CChance.\u201D By A. Lee. Critical Inquiry 18.4 (1992): 625-884", u"(2nd ed.)"},
     {"keywords", [] { return elementOf<OutputTemplateKeywords>([](auto& keywords) { keywords.Reset(); }); },
      u"zebra, the cat and dogs", u"apple"},
     {"year",

@@ -1,0 +1,164 @@
+#pragma once
+
+#include <memory>
+
+#include "elements/edition/edition.h"
+#include "host/com/com_object.h"
+#include "host/com/element_access.h"
+#include "host/host_sink.h"
+#include "host/interfaces.h"
+#include "host/slot_arrays.h"
+
+namespace quorvel::host {
+
+/// The record of a first publication as the host sees it; it lives as long as somebody holds it.
+class EditionRecordAdapter final : public ComObject<_EditionBookChapterYear> {
+public:
+    explicit EditionRecordAdapter(std::shared_ptr<EditionBookChapterYear> record) : mRecord(std::move(record)) {}
+
+    STDMETHODIMP get_Title(BSTR* result) override {
+        return call(result, [&] { return mRecord->Title; });
+    }
+    STDMETHODIMP put_Title(BSTR Title) override {
+        return call([&] { mRecord->Title = view(Title); });
+    }
+    STDMETHODIMP get_PublisherOrNumber(BSTR* result) override {
+        return call(result, [&] { return mRecord->PublisherOrNumber; });
+    }
+    STDMETHODIMP put_PublisherOrNumber(BSTR PublisherOrNumber) override {
+        return call([&] { mRecord->PublisherOrNumber = view(PublisherOrNumber); });
+    }
+    STDMETHODIMP get_PlaceOrVolume(BSTR* result) override {
+        return call(result, [&] { return mRecord->PlaceOrVolume; });
+    }
+    STDMETHODIMP put_PlaceOrVolume(BSTR PlaceOrVolume) override {
+        return call([&] { mRecord->PlaceOrVolume = view(PlaceOrVolume); });
+    }
+    STDMETHODIMP get_Year(BSTR* result) override {
+        return call(result, [&] { return mRecord->Year; });
+    }
+    STDMETHODIMP put_Year(BSTR Year) override {
+        return call([&] { mRecord->Year = view(Year); });
+    }
+    STDMETHODIMP get_Page(BSTR* result) override {
+        return call(result, [&] { return mRecord->Page; });
+    }
+    STDMETHODIMP put_Page(BSTR Page) override {
+        return call([&] { mRecord->Page = view(Page); });
+    }
+    STDMETHODIMP get_author(BSTR* result) override {
+        return call(result, [&] { return mRecord->author; });
+    }
+    STDMETHODIMP put_author(BSTR author) override {
+        return call([&] { mRecord->author = view(author); });
+    }
+    STDMETHODIMP get_isReprintBook(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mRecord->isReprintBook; });
+    }
+    STDMETHODIMP put_isReprintBook(VARIANT_BOOL isReprintBook) override {
+        return call([&] { mRecord->isReprintBook = asBool(isReprintBook); });
+    }
+    STDMETHODIMP get_isSpecialIssue(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mRecord->isSpecialIssue; });
+    }
+    STDMETHODIMP put_isSpecialIssue(VARIANT_BOOL isSpecialIssue) override {
+        return call([&] { mRecord->isSpecialIssue = asBool(isSpecialIssue); });
+    }
+    STDMETHODIMP get_chapterOrArticleTitle(BSTR* result) override {
+        return call(result, [&] { return mRecord->chapterOrArticleTitle; });
+    }
+    STDMETHODIMP put_chapterOrArticleTitle(BSTR chapterOrArticleTitle) override {
+        return call([&] { mRecord->chapterOrArticleTitle = view(chapterOrArticleTitle); });
+    }
+    STDMETHODIMP get_AuthorType(BSTR* result) override {
+        return call(result, [&] { return mRecord->AuthorType; });
+    }
+    STDMETHODIMP put_AuthorType(BSTR AuthorType) override {
+        return call([&] { mRecord->AuthorType = view(AuthorType); });
+    }
+    STDMETHODIMP get_TitleType(BSTR* result) override {
+        return call(result, [&] { return mRecord->TitleType; });
+    }
+    STDMETHODIMP put_TitleType(BSTR TitleType) override {
+        return call([&] { mRecord->TitleType = view(TitleType); });
+    }
+
+private:
+    std::shared_ptr<EditionBookChapterYear> mRecord;
+};
+
+/// `OutputTemplateEdition` as the host sees it.
+class EditionAdapter final : public ComObject<_OutputTemplateEdition> {
+public:
+    explicit EditionAdapter(std::shared_ptr<OutputTemplateEdition> edition = std::make_shared<OutputTemplateEdition>())
+        : mEdition(std::move(edition)) {}
+
+    STDMETHODIMP Initialize(IDispatch* formattedStr) override {
+        return call([&] { mEdition->Initialize(HostSink::of(formattedStr)); });
+    }
+    STDMETHODIMP Reset(LONG format, IDispatch* pageTemplate) override {
+        return call([&] { mEdition->Reset({format, ElementAccess::elementOf<OutputTemplatePage>(pageTemplate)}); });
+    }
+    STDMETHODIMP get_format(LONG* result) override {
+        return call(result, [&] { return mEdition->format(); });
+    }
+    STDMETHODIMP get_isNumberedOrNamedEdition(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mEdition->isNumberedOrNamedEdition(); });
+    }
+    STDMETHODIMP get_EditionBookChapterYear(IDispatch** result) override {
+        return call(result, [&] { return adapterOf<EditionRecordAdapter>(mEdition->EditionBookChapterYear()); });
+    }
+    STDMETHODIMP clearEditionBookChapterYear() override {
+        return call([&] { mEdition->clearEditionBookChapterYear(); });
+    }
+    STDMETHODIMP ToFormattedString(IDispatch* formattedStr, VARIANT_BOOL isFootnote,
+                                   VARIANT_BOOL shortenedVersion) override {
+        return call([&] {
+            mEdition->ToFormattedString(HostSink::of(formattedStr), asBool(isFootnote), asBool(shortenedVersion));
+        });
+    }
+    STDMETHODIMP ToMLANonTitleString(BSTR* result) override {
+        return call(result, [&] { return mEdition->ToMLANonTitleString(); });
+    }
+    STDMETHODIMP get_oldAuthor(BSTR* result) override {
+        return call(result, [&] { return mEdition->oldAuthor(); });
+    }
+    STDMETHODIMP toString(VARIANT_BOOL isFootnote, VARIANT_BOOL shortenedVersion, BSTR* result) override {
+        return call(result, [&] { return mEdition->toString(asBool(isFootnote), asBool(shortenedVersion)); });
+    }
+    STDMETHODIMP Parse(BSTR* text, BSTR previousStr) override {
+        return call([&] { mEdition->Parse(InOutText(text), view(previousStr)); });
+    }
+    STDMETHODIMP get_NumberedEdition(BSTR* result) override {
+        return call(result, [&] { return mEdition->NumberedEdition(); });
+    }
+    STDMETHODIMP put_NumberedEdition(BSTR theVal) override {
+        return call([&] { mEdition->NumberedEdition(view(theVal)); });
+    }
+    STDMETHODIMP get_NamedEdition(BSTR* result) override {
+        return call(result, [&] { return mEdition->NamedEdition(); });
+    }
+    STDMETHODIMP put_NamedEdition(BSTR theVal) override {
+        return call([&] { mEdition->NamedEdition(view(theVal)); });
+    }
+    STDMETHODIMP ParseReprintOrPaperbackEdition(BSTR* text) override {
+        return call([&] { mEdition->ParseReprintOrPaperbackEdition(InOutText(text)); });
+    }
+    STDMETHODIMP get_EditionType(SHORT* result) override {
+        return call(result, [&] { return mEdition->EditionType(); });
+    }
+    STDMETHODIMP put_EditionType(SHORT EditionType) override {
+        return call([&] { mEdition->EditionType(EditionType); });
+    }
+    STDMETHODIMP ToFormattedStringImpl(VARIANT_BOOL isFootnote, VARIANT* items, VARIANT* formattedItems,
+                                       VARIANT_BOOL shortenedVersion, VARIANT_BOOL* result) override {
+        return call(result, [&] {
+            return fillSlotArrays(*mEdition, asBool(isFootnote), items, formattedItems, asBool(shortenedVersion));
+        });
+    }
+
+private:
+    std::shared_ptr<OutputTemplateEdition> mEdition;
+};
+
+}  // namespace quorvel::host
