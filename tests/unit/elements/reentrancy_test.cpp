@@ -10,6 +10,7 @@
 #include "elements/keywords.h"
 #include "elements/newspaper.h"
 #include "elements/online.h"
+#include "elements/multi_vol/multi_vol.h"
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
