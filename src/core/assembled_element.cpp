@@ -62,7 +62,7 @@ void AssembledElement::Add(std::int16_t Index, bool isFormatted, bool isChecking
 void AssembledElement::write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
     const std::shared_ptr<outputTemplate> inForce = held(assembly());
     inForce->ResetReferenceItems();
-    inForce->ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote, checkedSlots());
+    inForce->ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote, checkedSlots(isFootnote));
 }
 
 Text AssembledElement::assembledText(bool isFootnote, bool shortenedVersion, bool isRTF) {

@@ -39,7 +39,7 @@ protected:
     void Add(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
 
     /// The slots that are checked in the output that is being made; empty: none.
-    virtual std::vector<bool> checkedSlots() const { return {}; }
+    virtual std::vector<bool> checkedSlots(bool /*isFootnote*/) const { return {}; }
     /// What `ToFormattedString` does.
     virtual void write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion);
     /// What `ToFormattedStringImpl` does.

@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(element.toMergedString() == element.toString(false, false));
 
     // No word of any text is one of ours when it has this letter.
-    constexpr char16_t kMark = u'\u4E2D';
+    static constexpr char16_t kMark = u'\u4E2D';
     const auto marks = [](const Text& from) { return std::count(from.begin(), from.end(), kMark); };
     const Text values =
         concatenate({element.Volume, element.Number, element.Title(), element.editor, element.Vols, element.Year,

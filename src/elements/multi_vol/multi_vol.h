@@ -178,7 +178,7 @@ private:
     static bool offers(const std::vector<bool>& options, std::size_t offer);
 
     bool usesSecond() const override { return !useMultiVol(); }
-    std::vector<bool> checkedSlots() const override;
+    std::vector<bool> checkedSlots(bool isFootnote) const override;
     bool fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
                    bool shortenedVersion) override;
     void fill(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,

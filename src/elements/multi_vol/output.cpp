@@ -27,7 +27,8 @@ public:
     void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override {
         const auto inForce = held(mElement.assembly());
         inForce->ResetReferenceItems();
-        inForce->ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote, mElement.checkedSlots());
+        inForce->ToFormattedString(formattedStr, *this, shortenedVersion, isFootnote,
+                                   mElement.checkedSlots(isFootnote));
     }
     bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
                                bool /*shortenedVersion*/) override {
@@ -159,7 +160,7 @@ Text OutputTemplateMultiVol::getYear(const std::vector<bool>& supportOptions) co
     });
 }
 
-std::vector<bool> OutputTemplateMultiVol::checkedSlots() const {
+std::vector<bool> OutputTemplateMultiVol::checkedSlots(bool /*isFootnote*/) const {
     return useMultiVol() ? multiVolCheckingArray() : seriesCheckingArray();
 }
 

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/letter_case.h"
+#include "elements/sentences.h"
 #include "elements/volume_numbers.h"
 
 namespace quorvel::volumetext {
@@ -131,18 +132,6 @@ std::size_t lastWord(TextView text, std::size_t end) {
 /// The end of a text without the full stop of its sentence.
 TextView withoutStop(TextView text) {
     return text.ends_with(u'.') ? text.substr(0, text.size() - 1) : text;
-}
-
-/// Where the last sentence of a text begins: behind ". ", unless what ends there is an initial.
-std::size_t lastSentence(TextView text) {
-    for (std::size_t end = text.rfind(u". "); end != TextView::npos && end > 0; end = text.rfind(u". ", end - 1)) {
-        const std::size_t word = lastWord(text, end);
-        const bool isInitial = end - word == 1 && isCapital(text[word]);
-        if (!isInitial) {
-            return end + 2;
-        }
-    }
-    return 0;
 }
 
 }  // namespace

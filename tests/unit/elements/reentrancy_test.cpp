@@ -174,6 +174,15 @@ const Case kCases[] = {
          });
      },
      u"Vintage-Knopf; London: Random House Press", u"MIT Press"},
+    {"multi-volume",
+     [] {
+         return elementOf<OutputTemplateMultiVol>([](auto& volumes) {
+             MultiVolOptions options;
+             options.SupportGeneralEditor = true;
+             volumes.Reset(options);
+         });
+     },
+     u"Studies, 2nd ser., vol. 12, no. 3, edited by A. Lee", u"Records 7"},
     {"page", [] { return elementOf<OutputTemplatePage>([](auto& page) { page.Reset(PageOptions()); }); },
      u"pp. 112-15n3", u"chap. 4"},
     {"keywords", [] { return elementOf<OutputTemplateKeywords>([](auto& keywords) { keywords.Reset(); }); },
