@@ -33,9 +33,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // No word of any text is one of ours when it has this letter.
     static constexpr char16_t kMark = u'\u4E2D';
     const auto marks = [](const Text& from) { return std::count(from.begin(), from.end(), kMark); };
-    const Text values =
-        concatenate({element.Volume, element.Number, element.Title(), element.editor, element.Vols, element.Year,
-                     element.SeriesType});
+    const Text values = concatenate({element.Volume, element.Number, element.Title(), element.editor, element.Vols,
+                                     element.Year, element.SeriesType});
     require(marks(values) == marks(text));
     require(marks(element.toString(false, false)) == marks(text));
     return 0;

@@ -54,7 +54,7 @@ inline constexpr std::tuple kMediumOptions{
 class OutputTemplateMedium final : public TwoAssembliesElement {
 public:
     /// Indexes of `value`. They are part of the interface.
-    enum Value : std::int16_t {
+    enum Value : std::size_t {
         kVersion = 0,
         kDisc = 1,
         kReel = 2,

@@ -10,6 +10,7 @@
 #include "elements/keywords.h"
 #include "elements/newspaper.h"
 #include "elements/online.h"
+#include "elements/medium/medium.h"
 #include "elements/multi_vol/multi_vol.h"
 #include "elements/page.h"
 #include "elements/place.h"
@@ -174,6 +175,8 @@ const Case kCases[] = {
          });
      },
      u"Vintage-Knopf; London: Random House Press", u"MIT Press"},
+    {"medium", [] { return elementOf<OutputTemplateMedium>([](auto& medium) { medium.Reset({}); }); },
+     u"Microform. NewsBank: Welfare 12 (1990): fiche 1, grids A8-11", u"CD-ROM. Disc 3"},
     {"multi-volume",
      [] {
          return elementOf<OutputTemplateMultiVol>([](auto& volumes) {
