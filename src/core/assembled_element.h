@@ -38,6 +38,8 @@ protected:
     void layOut(std::span<const SlotRow> rows, std::span<const TextView> styleTexts = {});
     void Add(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
 
+    /// The slots that are checked in the output that is being made; empty: none.
+    virtual std::vector<bool> checkedSlots(bool /*isFootnote*/) const { return {}; }
     /// What `ToFormattedString` does.
     virtual void write(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion);
     /// What `ToFormattedStringImpl` does.
@@ -47,12 +49,31 @@ protected:
     /// The whole output as plain text or as RTF, for `toString`.
     Text assembledText(bool isFootnote, bool shortenedVersion, bool isRTF = false);
 
-    /// The assembly in force; an element with several chooses. Whoever calls it holds it: the host may have
-    /// another one made meanwhile.
+    /// The assembly that the output goes through; an element with several chooses. Whoever calls it holds it: the host
+    /// may have another one made meanwhile.
     virtual std::shared_ptr<outputTemplate> assembly() const { return mOutputTemplate; }
 
 private:
     std::shared_ptr<outputTemplate> mOutputTemplate;
+};
+
+/// An element with two assemblies, of which its values choose one for each output.
+class TwoAssembliesElement : public AssembledElement {
+public:
+    /// Register a slot of the first and of the second assembly; see `outputTemplate::Add`.
+    using AssembledElement::Add;
+    void Add2(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
+
+protected:
+    void makeAssemblies(const OutputSinkRef& formattedStr);
+    /// Registers the layout of the second assembly, slot by slot through `Add2`.
+    void layOutSecond(std::span<const SlotRow> rows, std::span<const TextView> styleTexts = {});
+
+    virtual bool usesSecond() const = 0;
+    std::shared_ptr<outputTemplate> assembly() const override;
+
+private:
+    std::shared_ptr<outputTemplate> mSecond;
 };
 
 }  // namespace quorvel

@@ -15,6 +15,8 @@
 ///       {kPlainSlot, {u"", u", ", u""}},
 ///       {kFormattedSlot, {u"(", u")"}, {u"", u""}},   another list for notes
 ///   });
+///
+/// With `kChecked` before it the other list is the one that holds where the slot is checked.
 namespace quorvel {
 
 /// An entry of a separator list: a literal, or one of the texts that the style in force gives, named by an
@@ -42,7 +44,9 @@ private:
 
 enum SlotContent : bool { kPlainSlot = false, kFormattedSlot = true };
 
-/// The separator list of a slot, and another one for notes where it has one.
+enum CheckedList { kChecked };
+
+/// The separator list of a slot, and another one for notes or for the checked slot where it has one.
 class SlotRow {
 public:
     constexpr SlotRow() = default;
@@ -56,11 +60,19 @@ public:
         append(list);
         append(note);
     }
+    template <std::size_t N>
+    consteval SlotRow(SlotContent content, const SlotSeparator (&list)[N], CheckedList /*kChecked*/,
+                      const SlotSeparator (&checked)[N])
+        : SlotRow(content, list, checked) {
+        mIsChecking = true;
+    }
 
     constexpr bool isFormatted() const { return mContent == kFormattedSlot; }
+    /// The other list is the one of the checked slot.
+    constexpr bool isChecking() const { return mIsChecking; }
     /// The entries of one list.
     constexpr std::size_t length() const { return mLength; }
-    /// The separators as the assembly takes them: the list, then the note's.
+    /// The separators as the assembly takes them: the list, then the other one.
     std::vector<Text> separators(std::span<const TextView> styleTexts) const {
         std::vector<Text> texts;
         texts.reserve(mCount);
@@ -79,9 +91,10 @@ private:
     }
 
     SlotContent mContent = kPlainSlot;
+    bool mIsChecking = false;
     std::size_t mLength = 0;
     std::size_t mCount = 0;
-    std::array<SlotSeparator, 24> mEntries{};
+    std::array<SlotSeparator, 28> mEntries{};
 };
 
 template <std::size_t Slots>

@@ -27,6 +27,8 @@ const std::vector<CreatableClass> kClasses = {
     {L"OutputTemplateEdition", __uuidof(::OutputTemplateEdition), __uuidof(_OutputTemplateEdition), {8}},
     {L"OutputTemplateOnline", __uuidof(::OutputTemplateOnline), __uuidof(_OutputTemplateOnline), {13}},
     {L"OutputTemplateKeywords", __uuidof(::OutputTemplateKeywords), __uuidof(_OutputTemplateKeywords), {14}},
+    {L"OutputTemplateMultiVol", __uuidof(::OutputTemplateMultiVol), __uuidof(_OutputTemplateMultiVol), {10}},
+    {L"OutputTemplateMedium", __uuidof(::OutputTemplateMedium), __uuidof(_OutputTemplateMedium), {16}},
     {L"OutputTemplatePlace", __uuidof(::OutputTemplatePlace), __uuidof(_OutputTemplatePlace), {kPlace}},
     {L"OutputTemplateDateTime", __uuidof(::OutputTemplateDateTime), __uuidof(_OutputTemplateDateTime), {kDateTime}},
 };

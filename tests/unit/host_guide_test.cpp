@@ -21,6 +21,8 @@ const std::map<std::string, std::string> kElements = {
     {"Title (1, 2, 3)", "title"},
     {"Newspaper (4)", "newspaper"},
     {"Publisher (5)", "publisher"},
+    {"Volumes and series (10)", "multi-volume"},
+    {"Medium (16)", "medium"},
     {"Page (7)", "page"},
     {"Issue (11)", "issue"},
     {"Online (13)", "online"},

@@ -44,4 +44,12 @@ std::vector<Text> textsOf(const VARIANT& array) {
     return texts;
 }
 
+std::vector<bool> flagsOf(const VARIANT& array) {
+    std::vector<bool> flags;
+    for (const Variant& element : elementsOf(array)) {
+        flags.push_back(flagOf(element));
+    }
+    return flags;
+}
+
 }  // namespace quorvel::host

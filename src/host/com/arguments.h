@@ -21,4 +21,7 @@ Text textOf(const VARIANT& argument);
 /// The texts of an array in any of the forms that `elementsOf` reads.
 std::vector<Text> textsOf(const VARIANT& array);
 
+/// The flags of such an array.
+std::vector<bool> flagsOf(const VARIANT& array);
+
 }  // namespace quorvel::host

@@ -99,4 +99,13 @@ year.ToFormattedString({});
 year.ToFormattedString("text");
 check("after all that", year.formatStr("1993"), "1993");
 
+// Flags as a script's arrays; what cannot be a flag leaves the options as they were.
+var volumes = main.build(10, sink);
+volumes.Reset([1, "True", false], [], false, true, "", false, false, false, false);
+check("flags that are offered", volumes.IsSeriesSupported + " " + volumes.IsMultiVolSupported, "true false");
+volumes.Reset(["odd"], [true], false, true, "", false, false, false, false);
+check("flags that are none", volumes.IsSeriesSupported, true);
+volumes.Volume = 7;
+check("an array as argument", volumes.getVolume([0, 0, -1]) + volumes.getVolume([]) + volumes.getVolume(null), "7");
+
 WScript.Echo("done");

@@ -11,6 +11,8 @@
 #include "elements/keywords.h"
 #include "elements/newspaper.h"
 #include "elements/online.h"
+#include "elements/medium/medium.h"
+#include "elements/multi_vol/multi_vol.h"
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
@@ -181,6 +183,17 @@ const Case kCases[] = {
          });
      },
      u"Vintage-Knopf; London: Random House Press", u"MIT Press"},
+    {"medium", [] { return elementOf<OutputTemplateMedium>([](auto& medium) { medium.Reset({}); }); },
+     u"Microform. NewsBank: Welfare 12 (1990): fiche 1, grids A8-11", u"CD-ROM. Disc 3"},
+    {"multi-volume",
+     [] {
+         return elementOf<OutputTemplateMultiVol>([](auto& volumes) {
+             MultiVolOptions options;
+             options.SupportGeneralEditor = true;
+             volumes.Reset(options);
+         });
+     },
+     u"Studies, 2nd ser., vol. 12, no. 3, edited by A. Lee", u"Records 7"},
     {"page", [] { return elementOf<OutputTemplatePage>([](auto& page) { page.Reset(PageOptions()); }); },
      u"pp. 112-15n3", u"chap. 4"},
     {"edition", [] { return elementOf<OutputTemplateEdition>(resetEdition); },
