@@ -1,25 +1,15 @@
 #pragma once
 
-#include <memory>
-
 #include "elements/author/author.h"
-#include "host/com/arguments.h"
-#include "host/com/com_object.h"
-#include "host/host_sink.h"
-#include "host/interfaces.h"
-#include "host/slot_arrays.h"
+#include "host/adapters/element_adapter.h"
 
 namespace quorvel::host {
 
 /// `OutputTemplateAuthor` as the host sees it.
-class AuthorAdapter final : public ComObject<_OutputTemplateAuthor> {
+class AuthorAdapter final : public AssembledElementAdapter<_OutputTemplateAuthor, OutputTemplateAuthor> {
 public:
-    explicit AuthorAdapter(std::shared_ptr<OutputTemplateAuthor> author = std::make_shared<OutputTemplateAuthor>())
-        : mAuthor(std::move(author)) {}
+    using AssembledElementAdapter::AssembledElementAdapter;
 
-    STDMETHODIMP Initialize(IDispatch* formattedStr) override {
-        return call([&] { mAuthor->Initialize(HostSink::of(formattedStr)); });
-    }
     STDMETHODIMP Reset(VARIANT_BOOL SupportAnonAndPseudoAuthors, VARIANT_BOOL SquareBracketIsForFirstName,
                        BSTR editorTags, BSTR andSeparator, VARIANT_BOOL twoAuthorsIsOnlyCaseHaveNoComma,
                        VARIANT_BOOL ReverseFirstOnFootnote, VARIANT_BOOL reverseSecondaryAuthors,
@@ -55,156 +45,140 @@ public:
             options.initialsUsePeriods = asBool(initialsUsePeriods);
             options.semicolonBetweenGroupAuthors = asBool(semicolonBetweenGroupAuthors);
             options.supportsCompilerAndEditor = asBool(supportsCompilerAndEditor);
-            mAuthor->Reset(options);
+            mElement->Reset(options);
         });
     }
     STDMETHODIMP Clone(IDispatch** result) override {
-        return call(result, [&] { return adapterOf<AuthorAdapter>(mAuthor->Clone()); });
+        return call(result, [&] { return adapterOf<AuthorAdapter>(mElement->Clone()); });
     }
     STDMETHODIMP CloneForEditors(IDispatch** result) override {
-        return call(result, [&] { return adapterOf<AuthorAdapter>(mAuthor->CloneForEditors()); });
-    }
-    STDMETHODIMP ToFormattedString(IDispatch* formattedStr, VARIANT_BOOL isFootnote,
-                                   VARIANT_BOOL shortenedVersion) override {
-        return call([&] {
-            mAuthor->ToFormattedString(HostSink::of(formattedStr), asBool(isFootnote), asBool(shortenedVersion));
-        });
-    }
-    STDMETHODIMP ToFormattedStringImpl(VARIANT_BOOL isFootnote, VARIANT* items, VARIANT* formattedItems,
-                                       VARIANT_BOOL shortenedVersion, VARIANT_BOOL* result) override {
-        return call(result, [&] {
-            return fillSlotArrays(*mAuthor, asBool(isFootnote), items, formattedItems, asBool(shortenedVersion));
-        });
+        return call(result, [&] { return adapterOf<AuthorAdapter>(mElement->CloneForEditors()); });
     }
     STDMETHODIMP toString(VARIANT_BOOL isFootnote, VARIANT_BOOL shortenedVersion, VARIANT_BOOL isMinimal,
                           VARIANT_BOOL isCitation, VARIANT_BOOL forceNoInitials, VARIANT_BOOL isRTF,
                           BSTR* result) override {
         return call(result, [&] {
-            return mAuthor->toString(asBool(isFootnote), asBool(shortenedVersion), asBool(isMinimal),
-                                     asBool(isCitation), asBool(forceNoInitials), asBool(isRTF));
+            return mElement->toString(asBool(isFootnote), asBool(shortenedVersion), asBool(isMinimal),
+                                      asBool(isCitation), asBool(forceNoInitials), asBool(isRTF));
         });
     }
     STDMETHODIMP toCitationFormat(BSTR* form1, BSTR* form2) override {
-        return call([&] { mAuthor->toCitationFormat(InOutText(form1), InOutText(form2)); });
+        return call([&] { mElement->toCitationFormat(InOutText(form1), InOutText(form2)); });
     }
     STDMETHODIMP Parse(BSTR* text, BSTR previousStr, VARIANT_BOOL residueAlreadyRemoved) override {
-        return call([&] { mAuthor->Parse(InOutText(text), view(previousStr), asBool(residueAlreadyRemoved)); });
+        return call([&] { mElement->Parse(InOutText(text), view(previousStr), asBool(residueAlreadyRemoved)); });
     }
     STDMETHODIMP toKeywordList(VARIANT* result) override {
-        return call(result, [&] { return mAuthor->toKeywordList(); });
+        return call(result, [&] { return mElement->toKeywordList(); });
     }
     STDMETHODIMP toMergedString(BSTR* result) override {
-        return call(result, [&] { return mAuthor->toMergedString(); });
+        return call(result, [&] { return mElement->toMergedString(); });
     }
     STDMETHODIMP isSameAuthor(BSTR str1, BSTR str2, VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->isSameAuthor(view(str1), view(str2)); });
+        return call(result, [&] { return mElement->isSameAuthor(view(str1), view(str2)); });
     }
     STDMETHODIMP get_authors(VARIANT* result) override {
-        return call(result, [&] { return mAuthor->authors(); });
+        return call(result, [&] { return mElement->authors(); });
     }
     STDMETHODIMP put_authors(VARIANT values) override {
-        return call([&] { trapped(*mAuthor, u"authors[Let]", [&] { mAuthor->authors(textsOf(values)); }); });
+        return call([&] { trapped(*mElement, u"authors[Let]", [&] { mElement->authors(textsOf(values)); }); });
     }
     STDMETHODIMP get_authorsForQVDb(BSTR* result) override {
-        return call(result, [&] { return mAuthor->authorsForQVDb(); });
+        return call(result, [&] { return mElement->authorsForQVDb(); });
     }
     STDMETHODIMP get_hasDiscussant(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->hasDiscussant(); });
+        return call(result, [&] { return mElement->hasDiscussant(); });
     }
     STDMETHODIMP get_Anthologies(VARIANT index, VARIANT* result) override {
         return call(result, [&] {
             Variant roles;
-            trapped(*mAuthor, u"Anthologies[Get]", [&] { roles = anthologies(index); });
+            trapped(*mElement, u"Anthologies[Get]", [&] { roles = anthologies(index); });
             return roles;
         });
     }
     STDMETHODIMP put_Anthologies(VARIANT index, VARIANT values) override {
-        return call([&] { trapped(*mAuthor, u"Anthologies[Let]", [&] { setAnthologies(index, values); }); });
+        return call([&] { trapped(*mElement, u"Anthologies[Let]", [&] { setAnthologies(index, values); }); });
     }
     STDMETHODIMP get_editor(BSTR* result) override {
-        return call(result, [&] { return mAuthor->editor(); });
+        return call(result, [&] { return mElement->editor(); });
     }
     STDMETHODIMP get_checkingArray(VARIANT* result) override {
-        return call(result, [&] { return mAuthor->checkingArray(); });
+        return call(result, [&] { return mElement->checkingArray(); });
     }
     STDMETHODIMP get_residue(BSTR* result) override {
-        return call(result, [&] { return mAuthor->residue(); });
+        return call(result, [&] { return mElement->residue(); });
     }
     STDMETHODIMP put_residue(BSTR residue) override {
-        return call([&] { mAuthor->residue(view(residue)); });
+        return call([&] { mElement->residue(view(residue)); });
     }
     STDMETHODIMP get_LastNameFirstForAuthor1(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->LastNameFirstForAuthor1(); });
+        return call(result, [&] { return mElement->LastNameFirstForAuthor1(); });
     }
     STDMETHODIMP get_isJapaneseOrChineseLastName(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->isJapaneseOrChineseLastName(); });
+        return call(result, [&] { return mElement->isJapaneseOrChineseLastName(); });
     }
     STDMETHODIMP get_supportsCompilerAndEditor(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->supportsCompilerAndEditor(); });
+        return call(result, [&] { return mElement->supportsCompilerAndEditor(); });
     }
     STDMETHODIMP get_SupportAnonAndPseudoAuthors(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->SupportAnonAndPseudoAuthors(); });
+        return call(result, [&] { return mElement->SupportAnonAndPseudoAuthors(); });
     }
     STDMETHODIMP get_SquareBracketIsForFirstName(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->SquareBracketIsForFirstName(); });
+        return call(result, [&] { return mElement->SquareBracketIsForFirstName(); });
     }
     STDMETHODIMP collapsePseudoToFirstName(BSTR firstAuthor, BSTR* result) override {
-        return call(result, [&] { return mAuthor->collapsePseudoToFirstName(view(firstAuthor)); });
+        return call(result, [&] { return mElement->collapsePseudoToFirstName(view(firstAuthor)); });
     }
     STDMETHODIMP convertCommaToSemicolon(BSTR text, BSTR* result) override {
-        return call(result, [&] { return mAuthor->convertCommaToSemicolon(view(text)); });
+        return call(result, [&] { return mElement->convertCommaToSemicolon(view(text)); });
     }
     STDMETHODIMP ClearAuthors() override {
-        return call([&] { mAuthor->ClearAuthors(); });
+        return call([&] { mElement->ClearAuthors(); });
     }
     STDMETHODIMP isEmptyArrayAuthor(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->isEmptyArrayAuthor(); });
+        return call(result, [&] { return mElement->isEmptyArrayAuthor(); });
     }
     STDMETHODIMP get_Pseudoname(BSTR* result) override {
-        return call(result, [&] { return mAuthor->Pseudoname(); });
+        return call(result, [&] { return mElement->Pseudoname(); });
     }
     STDMETHODIMP put_Pseudoname(BSTR Pseudoname) override {
-        return call([&] { mAuthor->Pseudoname(view(Pseudoname)); });
+        return call([&] { mElement->Pseudoname(view(Pseudoname)); });
     }
     STDMETHODIMP get_AuthorType(short* result) override {
-        return call(result, [&] { return mAuthor->AuthorType(); });
+        return call(result, [&] { return mElement->AuthorType(); });
     }
     STDMETHODIMP put_AuthorType(short AuthorType) override {
-        return call([&] { mAuthor->AuthorType(AuthorType); });
+        return call([&] { mElement->AuthorType(AuthorType); });
     }
     STDMETHODIMP get_HasEtAl(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mAuthor->HasEtAl(); });
+        return call(result, [&] { return mElement->HasEtAl(); });
     }
     STDMETHODIMP put_HasEtAl(VARIANT_BOOL HasEtAl) override {
-        return call([&] { mAuthor->HasEtAl(asBool(HasEtAl)); });
+        return call([&] { mElement->HasEtAl(asBool(HasEtAl)); });
     }
 
 private:
-    ComPtr<IUnknown> elementAccess() override { return ElementAccess::to(this, mAuthor); }
-
     /// One role for an index, all three without.
     Variant anthologies(const VARIANT& index) const {
         if (!isMissing(index)) {
-            return Variant(mAuthor->Anthologies(numberOf(index)));
+            return Variant(mElement->Anthologies(numberOf(index)));
         }
         std::vector<Variant> roles;
         for (std::int16_t role = 0; role < OutputTemplateAuthor::kRoles; ++role) {
-            roles.emplace_back(mAuthor->Anthologies(role));
+            roles.emplace_back(mElement->Anthologies(role));
         }
         return arrayOfVariants(std::move(roles));
     }
     void setAnthologies(const VARIANT& index, const VARIANT& values) {
         if (!isMissing(index)) {
-            mAuthor->Anthologies(numberOf(index), flagOf(values));
+            mElement->Anthologies(numberOf(index), flagOf(values));
             return;
         }
         std::int16_t role = 0;
         for (const Variant& value : elementsOf(values)) {
-            mAuthor->Anthologies(role++, flagOf(value));
+            mElement->Anthologies(role++, flagOf(value));
         }
     }
-
-    std::shared_ptr<OutputTemplateAuthor> mAuthor;
 };
 
 }  // namespace quorvel::host

@@ -3,11 +3,8 @@
 #include <memory>
 
 #include "elements/edition/edition.h"
-#include "host/com/com_object.h"
+#include "host/adapters/element_adapter.h"
 #include "host/com/element_access.h"
-#include "host/host_sink.h"
-#include "host/interfaces.h"
-#include "host/slot_arrays.h"
 
 namespace quorvel::host {
 
@@ -88,77 +85,58 @@ private:
 };
 
 /// `OutputTemplateEdition` as the host sees it.
-class EditionAdapter final : public ComObject<_OutputTemplateEdition> {
+class EditionAdapter final : public AssembledElementAdapter<_OutputTemplateEdition, OutputTemplateEdition> {
 public:
-    explicit EditionAdapter(std::shared_ptr<OutputTemplateEdition> edition = std::make_shared<OutputTemplateEdition>())
-        : mEdition(std::move(edition)) {}
+    using AssembledElementAdapter::AssembledElementAdapter;
 
-    STDMETHODIMP Initialize(IDispatch* formattedStr) override {
-        return call([&] { mEdition->Initialize(HostSink::of(formattedStr)); });
-    }
     STDMETHODIMP Reset(LONG format, IDispatch* pageTemplate) override {
-        return call([&] { mEdition->Reset({format, ElementAccess::elementOf<OutputTemplatePage>(pageTemplate)}); });
+        return call([&] { mElement->Reset({format, ElementAccess::elementOf<OutputTemplatePage>(pageTemplate)}); });
     }
     STDMETHODIMP get_format(LONG* result) override {
-        return call(result, [&] { return mEdition->format(); });
+        return call(result, [&] { return mElement->format(); });
     }
     STDMETHODIMP get_isNumberedOrNamedEdition(VARIANT_BOOL* result) override {
-        return call(result, [&] { return mEdition->isNumberedOrNamedEdition(); });
+        return call(result, [&] { return mElement->isNumberedOrNamedEdition(); });
     }
     STDMETHODIMP get_EditionBookChapterYear(IDispatch** result) override {
-        return call(result, [&] { return adapterOf<EditionRecordAdapter>(mEdition->EditionBookChapterYear()); });
+        return call(result, [&] { return adapterOf<EditionRecordAdapter>(mElement->EditionBookChapterYear()); });
     }
     STDMETHODIMP clearEditionBookChapterYear() override {
-        return call([&] { mEdition->clearEditionBookChapterYear(); });
-    }
-    STDMETHODIMP ToFormattedString(IDispatch* formattedStr, VARIANT_BOOL isFootnote,
-                                   VARIANT_BOOL shortenedVersion) override {
-        return call([&] {
-            mEdition->ToFormattedString(HostSink::of(formattedStr), asBool(isFootnote), asBool(shortenedVersion));
-        });
+        return call([&] { mElement->clearEditionBookChapterYear(); });
     }
     STDMETHODIMP ToMLANonTitleString(BSTR* result) override {
-        return call(result, [&] { return mEdition->ToMLANonTitleString(); });
+        return call(result, [&] { return mElement->ToMLANonTitleString(); });
     }
     STDMETHODIMP get_oldAuthor(BSTR* result) override {
-        return call(result, [&] { return mEdition->oldAuthor(); });
+        return call(result, [&] { return mElement->oldAuthor(); });
     }
     STDMETHODIMP toString(VARIANT_BOOL isFootnote, VARIANT_BOOL shortenedVersion, BSTR* result) override {
-        return call(result, [&] { return mEdition->toString(asBool(isFootnote), asBool(shortenedVersion)); });
+        return call(result, [&] { return mElement->toString(asBool(isFootnote), asBool(shortenedVersion)); });
     }
     STDMETHODIMP Parse(BSTR* text, BSTR previousStr) override {
-        return call([&] { mEdition->Parse(InOutText(text), view(previousStr)); });
+        return call([&] { mElement->Parse(InOutText(text), view(previousStr)); });
     }
     STDMETHODIMP get_NumberedEdition(BSTR* result) override {
-        return call(result, [&] { return mEdition->NumberedEdition(); });
+        return call(result, [&] { return mElement->NumberedEdition(); });
     }
     STDMETHODIMP put_NumberedEdition(BSTR theVal) override {
-        return call([&] { mEdition->NumberedEdition(view(theVal)); });
+        return call([&] { mElement->NumberedEdition(view(theVal)); });
     }
     STDMETHODIMP get_NamedEdition(BSTR* result) override {
-        return call(result, [&] { return mEdition->NamedEdition(); });
+        return call(result, [&] { return mElement->NamedEdition(); });
     }
     STDMETHODIMP put_NamedEdition(BSTR theVal) override {
-        return call([&] { mEdition->NamedEdition(view(theVal)); });
+        return call([&] { mElement->NamedEdition(view(theVal)); });
     }
     STDMETHODIMP ParseReprintOrPaperbackEdition(BSTR* text) override {
-        return call([&] { mEdition->ParseReprintOrPaperbackEdition(InOutText(text)); });
+        return call([&] { mElement->ParseReprintOrPaperbackEdition(InOutText(text)); });
     }
     STDMETHODIMP get_EditionType(SHORT* result) override {
-        return call(result, [&] { return mEdition->EditionType(); });
+        return call(result, [&] { return mElement->EditionType(); });
     }
     STDMETHODIMP put_EditionType(SHORT EditionType) override {
-        return call([&] { mEdition->EditionType(EditionType); });
+        return call([&] { mElement->EditionType(EditionType); });
     }
-    STDMETHODIMP ToFormattedStringImpl(VARIANT_BOOL isFootnote, VARIANT* items, VARIANT* formattedItems,
-                                       VARIANT_BOOL shortenedVersion, VARIANT_BOOL* result) override {
-        return call(result, [&] {
-            return fillSlotArrays(*mEdition, asBool(isFootnote), items, formattedItems, asBool(shortenedVersion));
-        });
-    }
-
-private:
-    std::shared_ptr<OutputTemplateEdition> mEdition;
 };
 
 }  // namespace quorvel::host
