@@ -82,12 +82,12 @@ struct TitleAndCity {
 
 /// A city is a text in one pair of brackets.
 bool isCity(TextView text) {
-    return !trim(text).empty() && text.find_first_of(kAllBrackets) == TextView::npos &&
-           !endsWithOneOf(text, kEndsOfEditions);
+    return !text.empty() && text.find_first_of(kAllBrackets) == TextView::npos && !endsWithOneOf(text, kEndsOfEditions);
 }
 
 std::optional<TitleAndCity> ifBothThere(TextView title, TextView city) {
     title = trim(title);
+    city = trim(city);
     return !title.empty() && isCity(city) ? std::optional<TitleAndCity>({title, city}) : std::nullopt;
 }
 
@@ -214,7 +214,7 @@ void OutputTemplateNewspaper::parseAndRemoveCity(Text& text) {
         if (!parts || isPartOfTitle(parts->city, parts->title) || isPartOfTitle(parts->title, parts->city)) {
             return;
         }
-        City = trim(parts->city);
+        City = parts->city;
         text = parts->title;
     });
 }

@@ -214,17 +214,19 @@ void OutputTemplateOnline::Parse(Text& text, TextView previousStr) {
         Led found = {whole, {}, false, false};
         // "Abstract: Retrieved from http://www.example.org" has two.
         for (std::optional<Led> next = led(whole); next && found.date.empty(); next = led(found.source)) {
-            found = {next->source, next->date, next->isAbstract || found.isAbstract, next->isSure || found.isSure};
+            next->isAbstract = next->isAbstract || found.isAbstract;
+            found = *next;
         }
         Text left(withoutSigns(found.source));
-        const bool isKnown = parseSource(left);
-        mIsAbstract = found.isAbstract && !found.source.empty() && (isKnown || found.isSure);
-        if (isKnown) {
+        if (parseSource(left)) {
+            mIsAbstract = found.isAbstract;
             text = join({Text(found.date), left}, found.date.empty() || left.empty() ? u"" : u" ");
             return;
         }
-        // What stands behind a lead-in that is sure, or everything.
-        mOnline = mIsAbstract ? found.source : TextView(whole);
+        // What stands behind one lead-in that is sure, or everything.
+        const std::optional<Led> only = led(whole);
+        mIsAbstract = only && only->isSure && !only->source.empty() && !led(only->source);
+        mOnline = mIsAbstract ? only->source : TextView(whole);
         text.clear();
     });
 }
