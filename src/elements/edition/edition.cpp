@@ -50,14 +50,14 @@ void OutputTemplateEdition::Initialize(const OutputSinkRef& formattedStr) {
     procedure(*this, u"Initialize", {{u"formattedStr", formattedStr}}, [&] {
         auto year = std::make_shared<OutputTemplateYear>();
         year->Initialize(nullptr);
-        mYearTemplate = std::move(year);
+        replace(mYearTemplate, std::move(year));
         auto page = std::make_shared<OutputTemplatePage>();
         page->Initialize(nullptr);
-        mPageTemplate = std::move(page);
+        replace(mPageTemplate, std::move(page));
         makeAssembly(formattedStr);
         auto publisher = std::make_shared<OutputTemplatePublisher>();
         publisher->Initialize(formattedStr);
-        mPublisherTemplate = std::move(publisher);
+        replace(mPublisherTemplate, std::move(publisher));
     });
 }
 
@@ -66,7 +66,7 @@ void OutputTemplateEdition::Reset(const EditionOptions& options) {
         using namespace stylecodes;
         mFormat = options.format;
         if (options.pageTemplate) {
-            mPageTemplate = options.pageTemplate->Clone();
+            replace(mPageTemplate, options.pageTemplate->Clone());
         }
         // MLA 7 5.5.24 and 7.5, APA 6 6.28 and 6.30, Turabian 7 17.1.6: how the years and publishers of reprints stand.
         const bool isMlaStyle = isMla(mFormat);
@@ -125,7 +125,7 @@ Text OutputTemplateEdition::numberedOrNamedText(bool isFootnote) {
     if (isFootnote) {
         result = replaceAll(result, kRevised, kRevisedInNote);
     }
-    if (mAddEdToNumberedEdition && editionwords::takesEd(result) && !isYear(result)) {
+    if (mAddEdToNumberedEdition && !mIsAsItStands && editionwords::takesEd(result) && !isYear(result)) {
         result.append(kEdSuffix);
     }
     return result;
@@ -138,6 +138,7 @@ void OutputTemplateEdition::Parse(Text& text, TextView previousStr) {
         forgetPublication();
         mNumberedEdition = {};
         mParsedNumberedOrNamedEdition.clear();
+        mIsAsItStands = false;
         const TextView inside = reprinttext::withoutParentheses(text);
         if (inside.size() < text.size() && isEdition(inside)) {
             text = Text(inside);
@@ -188,6 +189,7 @@ void OutputTemplateEdition::keepAsItStands(TextView text) {
         NamedEdition(text);
     } else {
         mParsedNumberedOrNamedEdition = text;
+        mIsAsItStands = true;
     }
 }
 
@@ -278,6 +280,7 @@ Text OutputTemplateEdition::NumberedEdition() const {
 void OutputTemplateEdition::NumberedEdition(TextView theVal) {
     procedure(*this, u"NumberedEdition[Let]", {{u"theVal", theVal}}, [&] {
         const Text statement = cleanUp(theVal);
+        mIsAsItStands = false;
         mNumberedEdition = {};
         mNumberedEdition.NumEdition = trim(before(statement, u" "), u" ,");
         mTokens = split(statement, u" ");
@@ -313,11 +316,12 @@ Text OutputTemplateEdition::NamedEdition() const {
 void OutputTemplateEdition::NamedEdition(TextView theVal) {
     procedure(*this, u"NamedEdition[Let]", {{u"theVal", theVal}}, [&] {
         const Text statement = cleanUp(theVal);
+        mIsAsItStands = false;
         mTokens = split(statement, u" ");
         const Text number = editionwords::ordinal(mTokens.front());
         const bool hadEd = endsWithEditionWord(mTokens);
-        // "Second revised edition"; "2. Aufl." is none of ours.
-        if (hadEd && !number.empty()) {
+        // "Second revised edition", "1 American"; "2. Aufl." is none of ours.
+        if (!number.empty() && (hadEd || editionwords::takesEd(statement))) {
             mTokens.front() = number;
         }
         Text result = joinWords(!number.empty());

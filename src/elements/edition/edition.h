@@ -190,6 +190,8 @@ private:
     std::int32_t mFormat = 0;
     Text mParsedNumberedOrNamedEdition;
     bool mAddEdToNumberedEdition = false;
+    /// The statement is a text that no reader could use; no " ed." comes behind it.
+    bool mIsAsItStands = false;
     std::vector<Text> mTokens;
     std::shared_ptr<OutputTemplateYear> mYearTemplate;
     std::shared_ptr<OutputTemplatePage> mPageTemplate;

@@ -143,14 +143,15 @@ Text normalised(const std::vector<Text>& words, bool isBehindNumber) {
         }
         TextView kept = word;
         TextView signs;
+        const bool isLast = i + 1 == words.size();
+        if (isLast && isEditionWord(word) && withoutSigns(word) == word) {
+            break;
+        }
         if (isEditionWord(word) && !isBehindEd) {
             isBehindEd = true;
-            if (i + 1 == words.size() && withoutSigns(word) == word) {
-                continue;
-            }
             kept = kEd;
             signs = word.substr(withoutSigns(word).size());
-        } else if (i + 1 == words.size() && !isBehindEd && endsWithIgnoringCase(word, kEd) && word != kEd) {
+        } else if (isLast && !isBehindEd && endsWithIgnoringCase(word, kEd) && word != kEd) {
             // "Revised." is a word with its full stop.
             kept = abbreviated(word.substr(0, word.size() - 1), isBehindNumber);
         } else {
