@@ -10,7 +10,9 @@
 #include "host/adapters/edition_adapter.h"
 #include "host/adapters/issue_adapter.h"
 #include "host/adapters/keywords_adapter.h"
+#include "host/adapters/medium_adapter.h"
 #include "host/adapters/model_adapter.h"
+#include "host/adapters/multi_vol_adapter.h"
 #include "host/adapters/newspaper_adapter.h"
 #include "host/adapters/online_adapter.h"
 #include "host/adapters/page_adapter.h"
@@ -48,10 +50,12 @@ const LibraryClass kClasses[] = {
     {&CLSID_OutputTemplateYear, {6, kNone, kNone}, make<YearAdapter>},
     {&CLSID_OutputTemplatePage, {7, kNone, kNone}, make<PageAdapter>},
     {&CLSID_OutputTemplateEdition, {8, kNone, kNone}, make<EditionAdapter>},
+    {&CLSID_OutputTemplateMultiVol, {10, kNone, kNone}, make<MultiVolAdapter>},
     {nullptr, {11, kNone, kNone}, make<IssueAdapter>},
     {&CLSID_OutputTemplateOnline, {13, kNone, kNone}, make<OnlineAdapter>},
     {&CLSID_OutputTemplateKeywords, {14, kNone, kNone}, make<KeywordsAdapter>},
     {&CLSID_OutputTemplatePlace, {15, kNone, kNone}, make<PlaceAdapter>},
+    {&CLSID_OutputTemplateMedium, {16, kNone, kNone}, make<MediumAdapter>},
     {&CLSID_OutputTemplateDateTime, {17, kNone, kNone}, make<DateTimeAdapter>},
 };
 // clang-format on

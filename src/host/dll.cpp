@@ -5,18 +5,6 @@
 #include <string_view>
 
 #include "host/classes.h"
-#include "host/adapters/author_adapter.h"
-#include "host/adapters/citation_adapter.h"
-#include "host/adapters/date_time_adapter.h"
-#include "host/adapters/keywords_adapter.h"
-#include "host/adapters/medium_adapter.h"
-#include "host/adapters/model_adapter.h"
-#include "host/adapters/multi_vol_adapter.h"
-#include "host/adapters/page_adapter.h"
-#include "host/adapters/place_adapter.h"
-#include "host/adapters/publisher_adapter.h"
-#include "host/adapters/title_adapter.h"
-#include "host/adapters/year_adapter.h"
 #include "host/com/class_factory.h"
 #include "host/com/dispatch_table.h"
 #include "host/com/module.h"
@@ -28,30 +16,6 @@
 using namespace quorvel::host;
 
 namespace {
-
-struct CreatableClass {
-    const CLSID& clsid;
-    ClassFactory::Create create;
-};
-
-// Every coclass of the type library, one a line.
-// clang-format off
-const CreatableClass kCreatableClasses[] = {
-    {CLSID_Main2, make<quorvel::host::Main2>},
-    {CLSID_OutputTemplateModel, make<ModelAdapter>},
-    {CLSID_OutputTemplateCitation, make<CitationAdapter>},
-    {CLSID_OutputTemplateAuthor, make<AuthorAdapter>},
-    {CLSID_OutputTemplateTitle, make<TitleAdapter>},
-    {CLSID_OutputTemplatePublisher, make<PublisherAdapter>},
-    {CLSID_OutputTemplatePlace, make<PlaceAdapter>},
-    {CLSID_OutputTemplateYear, make<YearAdapter>},
-    {CLSID_OutputTemplateDateTime, make<DateTimeAdapter>},
-    {CLSID_OutputTemplatePage, make<PageAdapter>},
-    {CLSID_OutputTemplateMultiVol, make<MultiVolAdapter>},
-    {CLSID_OutputTemplateKeywords, make<KeywordsAdapter>},
-    {CLSID_OutputTemplateMedium, make<MediumAdapter>},
-};
-// clang-format on
 
 /// An entry point lets no exception out; only memory can run out in one.
 template <class Body>
