@@ -10,8 +10,17 @@
 
 namespace sample {
 
+/// What a source asks of the reference: that it has a field, or that two fields are the same; or that this is not so.
+struct SourceCondition {
+    const Field* field = nullptr;
+    /// Null: any text will do.
+    const Field* sameAs = nullptr;
+    bool holds = true;
+};
+
 /// One way to fill a slot of a layout.
 struct SlotSource {
+    /// Null: the pattern is what the style says of itself ("n.p.").
     const Field* field = nullptr;
     /// Under which name the style gives the options of the element that writes the field.
     std::wstring element;
@@ -24,12 +33,12 @@ struct SlotSource {
     /// The forms of the reference in which the source counts.
     bool inLists = true;
     bool inNotes = true;
-    /// The source counts only when the reference has this field, too; null: always.
-    const Field* onlyWith = nullptr;
+    /// The source counts only when all of these are met.
+    std::vector<SourceCondition> conditions;
     /// The host writes the text, also where the library has an element for it.
     bool asItStands = false;
-    /// What the host does with a text that no element of the library writes. {} in the pattern is the text; an empty
-    /// pattern of notes is that of lists.
+    /// What the host does with a text that no element of the library writes. {} in the pattern is the text, where the
+    /// source has a field; an empty pattern of notes is that of lists.
     std::int32_t font = kPlain;
     std::wstring pattern = L"{}";
     std::wstring notePattern = {};

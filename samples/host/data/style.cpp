@@ -15,6 +15,9 @@ constexpr const wchar_t* kCitation = L"citation";
 /// Elements that write in several fonts.
 constexpr const wchar_t* kElementsWithFonts[] = {L"title", L"newspaper", L"multi-volume", L"refers-to"};
 
+/// Begins a source that is no field but a text of the style's own.
+constexpr std::wstring_view kSays = L"says";
+
 /// Those of the citation template's slots that it fills with fonts.
 constexpr std::wstring_view kCitationSlotsWithFonts[] = {L"name", L"title"};
 
@@ -177,16 +180,19 @@ private:
         }
     }
 
-    // author = author | editor with-role | title as heading type "Article" italic "({})"
+    // author = author | editor with-role unless container | title as heading type "Article" italic "({})"
+    // publisher = says "Author" if publisher=author | publisher | says "n.p."
     void readSources(LineReader& line) {
         const std::wstring slot = line.word();
         need(line, L'=');
         std::vector<SlotSource> sources;
         do {
-            SlotSource source = sourceOf(line.word());
+            const std::wstring name = line.word();
+            SlotSource source = name == kSays ? SlotSource{} : sourceOf(name);
+            if (name == kSays) source.pattern = line.neededText();
             while (!line.atEnd() && !line.isNext(L'|')) {
                 if (line.isNext(L'"')) {
-                    source.pattern = pattern(line);
+                    source.pattern = pattern(line, source);
                     continue;
                 }
                 const std::wstring word = line.word();
@@ -205,14 +211,16 @@ private:
                     source.inNotes = false;
                 } else if (word == L"notes-only") {
                     source.inLists = false;
-                } else if (word == L"if") {
-                    source.onlyWith = fieldNamed(line.word());
+                } else if (word == L"if" || word == L"unless") {
+                    SourceCondition condition{fieldNamed(line.word()), nullptr, word == L"if"};
+                    if (line.take(L'=')) condition.sameAs = fieldNamed(line.word());
+                    source.conditions.push_back(condition);
                 } else if (word == L"as-it-stands") {
                     source.asItStands = true;
                 } else if (word == L"italic") {
                     source.font = kItalic;
                 } else if (word == L"notes") {
-                    source.notePattern = pattern(line);
+                    source.notePattern = pattern(line, source);
                 } else {
                     throw Fault{L"\"" + word + L"\" says nothing of a slot"};
                 }
@@ -222,9 +230,10 @@ private:
         for (const std::wstring& kind : mSection.names) mSources[kind][slot] = sources;
     }
 
-    static std::wstring pattern(LineReader& line) {
+    static std::wstring pattern(LineReader& line, const SlotSource& source) {
         std::wstring text = line.neededText();
-        if (text.find(kPatternText) == std::wstring::npos) throw Fault{L"there is no {} in the pattern"};
+        const bool needsText = source.field != nullptr && text.find(kPatternText) == std::wstring::npos;
+        if (needsText) throw Fault{L"there is no {} in the pattern"};
         return text;
     }
 
@@ -279,6 +288,7 @@ private:
             slot.sources = sources(kind, slot.name);
             slot.isFormatted = std::any_of(slot.sources.begin(), slot.sources.end(), [](const SlotSource& source) {
                 const bool elementHasFonts =
+                    source.field != nullptr &&
                     std::find(std::begin(kElementsWithFonts), std::end(kElementsWithFonts),
                               std::wstring_view(source.field->element)) != std::end(kElementsWithFonts);
                 return source.font != kPlain || (elementHasFonts && !source.asItStands);

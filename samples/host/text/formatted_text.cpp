@@ -23,6 +23,18 @@ VARIANT objectResult(const ComPointer<FormattedText>& object) {
 
 }  // namespace
 
+std::wstring withoutLooseEnds(std::wstring_view text) {
+    std::wstring result;
+    for (const wchar_t character : text) {
+        const bool isSecondBlank = character == L' ' && (result.empty() || result.back() == L' ');
+        if (!isSecondBlank) result += character;
+    }
+    const std::size_t last = result.find_last_not_of(L' ');
+    result.resize(last == std::wstring::npos ? 0 : last + 1);
+    if (result.ends_with(L',')) result.pop_back();
+    return result;
+}
+
 FormattedText::FormattedText() {
     addMethod(L"Add", [this](const Arguments& arguments, VARIANT&) {
         add(arguments.text(0), arguments.has(1) ? arguments.number(1) : kPlain);
@@ -102,6 +114,21 @@ std::wstring FormattedText::toString() const {
     std::wstring text;
     for (const Phrase& phrase : mPhrases) text += phrase.text;
     return text;
+}
+
+void FormattedText::trim() {
+    while (!mPhrases.empty()) {
+        std::wstring& text = mPhrases.back().text;
+        text.resize(text.find_last_not_of(L" ,") + 1);
+        if (!text.empty()) break;
+        mPhrases.pop_back();
+    }
+    while (!mPhrases.empty()) {
+        std::wstring& text = mPhrases.front().text;
+        text.erase(0, text.find_first_not_of(L' '));
+        if (!text.empty()) break;
+        mPhrases.erase(mPhrases.begin());
+    }
 }
 
 std::int16_t FormattedText::removeQuoteFromLastPhrase() {

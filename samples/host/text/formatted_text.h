@@ -9,6 +9,10 @@
 
 namespace sample {
 
+/// The text without what an element's rule may leave of a part that it does not write: blanks and a comma at the end,
+/// blanks at the start, the second of two.
+std::wstring withoutLooseEnds(std::wstring_view text);
+
 /// The formatted text to which the library writes: a row of phrases, each in one font. The library
 /// calls it by the names below; the host itself may call it directly.
 ///
@@ -32,6 +36,8 @@ public:
     void add(const FormattedText& fragment);
     ComPointer<FormattedText> clone() const;
     void reset();
+    /// Drops blanks at both ends, and a comma at the end.
+    void trim();
 
     bool isEmpty() const { return mPhrases.empty(); }
     std::wstring toString() const;

@@ -111,7 +111,7 @@ void CitationWriter::setModel(const Reference& reference) {
     const std::wstring& container = reference.text(L"container");
     const bool isPeriodical = std::any_of(std::begin(kPeriodicals), std::end(kPeriodicals),
                                           [&](const wchar_t* known) { return kind == known; });
-    const bool isPartOfBook = kind == L"chapter" && !container.empty();
+    const bool isPartOfBook = (kind == L"chapter" || kind == L"proceedings") && !container.empty();
     const bool isWholeSite = kind == L"web" && reference.text(L"title").empty();
     mModel->clear();
     // A book that stands under its title is cited by it.

@@ -85,8 +85,9 @@ ReferenceWriter::Template ReferenceWriter::build(const Layout& layout) {
         model.call(L"Add", {index++, slot.isFormatted, slot.checkingKey, Variant::array(separators)});
         PreparedSlot prepared{&slot, {}};
         for (const SlotSource& source : slot.sources) {
+            const bool isOwnText = source.asItStands || source.field == nullptr;
             const StyledElement* element =
-                source.asItStands ? nullptr : mElements.element(source.element, source.field->elementCode);
+                isOwnText ? nullptr : mElements.element(source.element, source.field->elementCode);
             prepared.sources.push_back({&source, element});
         }
         result.slots.push_back(std::move(prepared));

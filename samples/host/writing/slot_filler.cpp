@@ -1,5 +1,6 @@
 #include "writing/slot_filler.h"
 
+#include <algorithm>
 #include <bitset>
 
 namespace sample {
@@ -37,10 +38,12 @@ void SlotFiller::begin(const Reference& reference, const std::vector<PreparedSlo
     mFilling.assign(slots.size(), nullptr);
     for (std::size_t i = 0; i < slots.size(); ++i) {
         for (const PreparedSource& prepared : slots[i].sources) {
-            const Field& field = *prepared.source->field;
-            const auto index = static_cast<std::size_t>(field.index);
-            if (taken[index] || !reference.has(field) || !counts(*prepared.source, form)) continue;
-            taken[index] = true;
+            if (!counts(*prepared.source, form)) continue;
+            if (const Field* field = prepared.source->field) {
+                const auto index = static_cast<std::size_t>(field->index);
+                if (taken[index] || !reference.has(*field)) continue;
+                taken[index] = true;
+            }
             mFilling[i] = &prepared;
             break;
         }
@@ -49,7 +52,12 @@ void SlotFiller::begin(const Reference& reference, const std::vector<PreparedSlo
 
 bool SlotFiller::counts(const SlotSource& source, Form form) const {
     const bool isInForm = form == Form::kList ? source.inLists : source.inNotes;
-    return isInForm && (source.onlyWith == nullptr || mReference->has(*source.onlyWith));
+    return isInForm && std::all_of(source.conditions.begin(), source.conditions.end(), [this](const auto& condition) {
+               const bool isMet = mReference->has(*condition.field) &&
+                                  (condition.sameAs == nullptr ||
+                                   mReference->text(*condition.field) == mReference->text(*condition.sameAs));
+               return isMet == condition.holds;
+           });
 }
 
 void SlotFiller::end() {
@@ -84,6 +92,7 @@ void SlotFiller::write(std::size_t slot, bool isFootnote, bool shortenedVersion,
     } else if ((*mSlots)[slot].slot->isFormatted) {
         parse(filling, isFootnote);
         filling.element->toFormattedString({&fragment, isFootnote || filling.source->inNoteForm, shortenedVersion});
+        fragment.trim();
     } else {
         fragment.add(plainText(filling, isFootnote, shortenedVersion));
     }
@@ -96,7 +105,8 @@ void SlotFiller::check(const Arguments& arguments) const {
 }
 
 bool SlotFiller::endsSentence(std::size_t slot) const {
-    if ((*mSlots)[slot].slot->checkingKey != kCallbackKey || mFilling[slot] == nullptr) return false;
+    const bool isAsked = (*mSlots)[slot].slot->checkingKey == kCallbackKey;
+    if (!isAsked || mFilling[slot] == nullptr || mFilling[slot]->source->field == nullptr) return false;
     const std::wstring& text = mReference->text(*mFilling[slot]->source->field);
     const std::size_t last = text.find_last_not_of(kQuotationMarks);
     return last != std::wstring::npos && (text[last] == L'?' || text[last] == L'!');
@@ -123,13 +133,15 @@ std::wstring SlotFiller::plainText(const PreparedSource& filling, bool isFootnot
     const bool inNoteForm = isFootnote || source.inNoteForm;
     if (source.field->elementCode == kPlaceElement) {
         // It leaves out a state that the publisher's name tells already.
-        return textOf(filling.element->toString({inNoteForm, shortenedVersion, mReference->text(L"publisher")}));
+        const Variant text = filling.element->toString({inNoteForm, shortenedVersion, mReference->text(L"publisher")});
+        return withoutLooseEnds(textOf(text));
     }
-    return textOf(filling.element->toString({inNoteForm, shortenedVersion}));
+    return withoutLooseEnds(textOf(filling.element->toString({inNoteForm, shortenedVersion})));
 }
 
 std::wstring SlotFiller::hostText(const SlotSource& source, bool isFootnote) const {
     std::wstring result = isFootnote && !source.notePattern.empty() ? source.notePattern : source.pattern;
+    if (source.field == nullptr) return result;
     return result.replace(result.find(kPatternText), kPatternText.size(), fieldText(*source.field, isFootnote));
 }
 
