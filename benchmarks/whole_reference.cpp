@@ -1,55 +1,60 @@
 #include "whole_reference.h"
 
-#include "support/style_presets.h"
+#include <algorithm>
+#include <fstream>
+#include <stdexcept>
+
+#include "support/style_file.h"
+#include "support/utf8.h"
 
 namespace quorvel::bench {
 
 namespace {
 
-// author, title, container, volume, place, publisher, year, page
-const Reference kReferences[] = {
-    {u"Kuhn, Thomas S.", u"The Structure of Scientific Revolutions", u"", u"", u"Chicago",
-     u"University of Chicago Press", u"1970", u""},
-    {u"Wegener, D. T., & Petty, R. E.", u"Mood management across affective states: The hedonic contingency hypothesis",
-     u"Journal of Personality and Social Psychology", u"66", u"", u"", u"1994", u"1034-1048"},
-    {u"Caro, Robert A.", u"The Power Broker: Robert Moses and the Fall of New York", u"", u"", u"New York",
-     u"Alfred A. Knopf", u"1974", u""},
-    {u"Strunk, William, Jr., and E. B. White", u"The Elements of Style", u"", u"", u"Boston", u"Allyn and Bacon",
-     u"2000", u""},
-    {u"Kernis, M. H., Cornell, D. P., Sun, C. R., Berry, A., Harlow, T., & Bach, J. S.",
-     u"There's more to self-esteem than whether it is high or low: The importance of stability of self-esteem",
-     u"Journal of Personality and Social Psychology", u"65", u"", u"", u"1993", u"1190-1204"},
-    {u"O'Neil, J. M., & Egan, J.", u"Men's and women's gender role journeys: A metaphor for healing",
-     u"Gender Issues across the Life Cycle", u"", u"New York, NY", u"Springer", u"1992", u"107-123"},
-    {u"American Psychological Association", u"Publication Manual of the American Psychological Association", u"", u"",
-     u"Washington, DC", u"Author", u"2010", u""},
-    {u"Rothman JE", u"Mechanisms of intracellular protein transport", u"Nature", u"372", u"", u"", u"1994", u"55-63"},
+/// The fields of the file by the slots that they fill; others are passed over.
+constexpr std::array<std::string_view, kElements> kFields = {
+    "author", "title", "container", "editor", "volume", "issue", "place", "publisher", "year", "page",
 };
 
-struct StyleOptions {
-    AuthorOptions authors;
-    std::int16_t format;
-    bool sentenceCapitalization;
-    PageOptions page;
-    bool shortens;
-    // Before the year, the page, and the pieces of the rest.
-    TextView beforeYear, beforePage, betweenPieces;
+/// What a style writes before a slot, whatever stands in front of it.
+struct Separators {
+    std::string_view style;
+    TextView issue, year, page;
+};
+constexpr TextView kBetweenElements = u". ";
+constexpr Separators kSeparators[] = {
+    {"mla", u".", u", ", u": "},
+    {"apa", u"(", u" (", u", "},
+    {"turabian", u", no. ", u" (", u": "},
+    {"ama", u"(", u"; ", u":"},
 };
 
-StyleOptions optionsOf(Style::Name name) {
-    PageOptions page;
-    switch (name) {
-        case Style::kMla:
-            page.shortenedPage = true;
-            return {test::mlaAuthorOptions(), 2, false, page, true, u", ", u": ", u". "};
-        case Style::kApa:
-            page.useEnDashForPageRange = true;
-            return {test::apaAuthorOptions(), 1, true, page, false, u" (", u", ", u". "};
-        case Style::kTurabian:
-            page.shortenedPage = page.elideZero = page.useEnDashForPageRange = true;
-            return {test::turabianAuthorOptions(), 3, false, page, false, u" (", u": ", u". "};
-        default: return {test::amaAuthorOptions(), 0, true, page, false, u"; ", u":", u". "};
+std::vector<Reference> readReferences() {
+    std::ifstream file(QUORVEL_REFERENCES);
+    std::vector<Reference> references;
+    Reference reference;
+    const auto take = [&] {
+        if (!reference[kTitle].empty()) {
+            references.push_back(std::move(reference));
+        }
+        reference = {};
+    };
+    for (std::string line; std::getline(file, line);) {
+        const std::size_t colon = line.find(": ");
+        if (line.empty()) {
+            take();
+        } else if (line.front() != '#' && colon != std::string::npos) {
+            const auto* field = std::find(kFields.begin(), kFields.end(), std::string_view(line).substr(0, colon));
+            if (field != kFields.end()) {
+                reference[static_cast<std::size_t>(field - kFields.begin())] = test::textOf(line.substr(colon + 2));
+            }
+        }
     }
+    take();
+    if (references.empty()) {
+        throw std::runtime_error("no references in " QUORVEL_REFERENCES);
+    }
+    return references;
 }
 
 /// A reference without notes.
@@ -71,7 +76,8 @@ bool isFormatted(std::size_t slot) {
 
 }  // namespace
 
-std::span<const Reference> references() {
+const std::vector<Reference>& references() {
+    static const std::vector<Reference> kReferences = readReferences();
     return kReferences;
 }
 
@@ -117,37 +123,46 @@ std::int16_t PhraseSink::removeQuoteFromLastPhrase() {
     return kPlain;
 }
 
-Style::Style(Name name) : mFields(std::make_shared<NoFields>()) {
+Style::Style(const std::string& name) : mFields(std::make_shared<NoFields>()) {
     const OutputSinkRef sink = std::make_shared<PhraseSink>();
-    const StyleOptions options = optionsOf(name);
-    mAuthor.Initialize(sink);
-    mAuthor.Reset(options.authors);
+    const test::StyleFile& style = test::StyleFile::of(name);
+    for (OutputTemplateAuthor* persons : {&mAuthor, &mEditor}) {
+        persons->Initialize(sink);
+        persons->Reset(style.options<AuthorOptions>("author", kAuthorOptions));
+    }
     for (OutputTemplateTitle* title : {&mTitle, &mContainer}) {
+        auto options = style.options<TitleOptions>("title", kTitleOptions);
         // Journals keep their capitals.
-        const bool isSentence = options.sentenceCapitalization && title == &mTitle;
+        options.sentenceCapitalization = options.sentenceCapitalization && title == &mTitle;
         title->Initialize(sink);
-        title->Reset({options.format, nullptr, isSentence, true, u"", true, u"", true, u""});
+        title->Reset(options);
     }
     mPlace.Initialize(sink);
-    mPlace.Reset({true, true, true, false, true});
+    mPlace.Reset(style.options<PlaceOptions>("place", kPlaceOptions));
     mPublisher.Initialize(sink);
-    mPublisher.Reset({true, true, false, options.shortens, true});
+    mPublisher.Reset(style.options<PublisherOptions>("publisher", kPublisherOptions));
     mYear.Initialize(sink);
-    mYear.Reset({true, false, true, u"c.", true, u"n.d.", true});
+    mYear.Reset(style.options<YearOptions>("year", kYearOptions));
     mPage.Initialize(sink);
-    mPage.Reset(options.page);
+    mPage.Reset(style.options<PageOptions>("page", kPageOptions));
+    layOut(name, sink);
+}
 
+void Style::layOut(const std::string& name, const OutputSinkRef& sink) {
+    const auto* const own = std::find_if(std::begin(kSeparators), std::end(kSeparators),
+                                         [&](const Separators& known) { return known.style == name; });
     mModel.Initialize(sink, std::make_shared<NoKeys>());
     mModel.Reset(kElements - 1, u"..", 1);
     for (std::size_t slot = 0; slot < kElements; ++slot) {
         std::vector<Text> separators = {Text()};
         for (std::size_t next = slot + 1; next < kElements; ++next) {
             const bool isAfterContainer = slot == kContainer && next == kVolume;
-            separators.emplace_back(next == kYear        ? options.beforeYear
-                                    : next == kPage      ? options.beforePage
+            separators.emplace_back(next == kYear        ? own->year
+                                    : next == kPage      ? own->page
+                                    : next == kIssue     ? own->issue
                                     : next == kPublisher ? TextView(u": ")
                                     : isAfterContainer   ? TextView(u" ")
-                                                         : options.betweenPieces);
+                                                         : kBetweenElements);
         }
         separators.emplace_back(u".");
         mModel.Add(static_cast<std::int16_t>(slot), isFormatted(slot), slot == kYear ? TextView(u"medium=Web") : u"",
@@ -166,6 +181,7 @@ void Style::parse(const Reference& reference) {
     parse(mAuthor, kAuthor);
     parse(mTitle, kTitle);
     parse(mContainer, kContainer);
+    parse(mEditor, kEditor);
     parse(mPlace, kPlace);
     parse(mPublisher, kPublisher);
     parse(mYear, kYear);
@@ -189,7 +205,9 @@ bool Style::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std
     if (has(kAuthor)) items[kAuthor] = mAuthor.toString(isFootnote, shortenedVersion);
     if (has(kTitle)) mTitle.ToFormattedString(formattedItems[kTitle], isFootnote, shortenedVersion);
     if (has(kContainer)) mContainer.ToFormattedString(formattedItems[kContainer], isFootnote, shortenedVersion);
+    if (has(kEditor)) items[kEditor] = mEditor.toString(isFootnote, shortenedVersion);
     items[kVolume] = reference[kVolume];
+    items[kIssue] = reference[kIssue];
     if (has(kPlace)) items[kPlace] = mPlace.toString(isFootnote, shortenedVersion, reference[kPublisher]);
     if (has(kPublisher)) items[kPublisher] = mPublisher.toString(isFootnote, shortenedVersion);
     if (has(kYear)) items[kYear] = mYear.toString(isFootnote, shortenedVersion);

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <memory>
-#include <span>
+#include <string>
 #include <vector>
 
 #include "core/output_template_model.h"
@@ -18,13 +18,25 @@
 namespace quorvel::bench {
 
 /// The elements of a reference, each a slot of its layout.
-enum Element : std::size_t { kAuthor, kTitle, kContainer, kVolume, kPlace, kPublisher, kYear, kPage, kElements };
+enum Element : std::size_t {
+    kAuthor,
+    kTitle,
+    kContainer,
+    kEditor,
+    kVolume,
+    kIssue,
+    kPlace,
+    kPublisher,
+    kYear,
+    kPage,
+    kElements,
+};
 
 /// The texts of the elements as they stand in a finished reference; empty where it has none.
 using Reference = std::array<Text, kElements>;
 
-/// Books, articles and chapters of several authors and fields.
-std::span<const Reference> references();
+/// Some hundred different books, articles and chapters, read once from references.txt.
+const std::vector<Reference>& references();
 
 /// A sink that keeps what is written, with its fonts.
 class PhraseSink final : public OutputSink {
@@ -52,11 +64,11 @@ private:
     std::vector<Phrase> mPhrases;
 };
 
-/// One style: an element of each kind and the layout of a reference.
+/// One style: an element of each kind, with the options that the sample host gives it, and the layout of a reference.
 class Style final : public Implementor {
 public:
-    enum Name { kMla, kApa, kTurabian, kAma };
-    explicit Style(Name name);
+    /// @param name that of a style file: mla, apa, turabian, ama
+    explicit Style(const std::string& name);
 
     /// Parses all elements and writes the reference.
     void write(const Reference& reference, const OutputSinkRef& sink);
@@ -70,8 +82,10 @@ public:
 
 private:
     void parse(const Reference& reference);
+    void layOut(const std::string& name, const OutputSinkRef& sink);
 
     OutputTemplateAuthor mAuthor;
+    OutputTemplateAuthor mEditor;
     OutputTemplateTitle mTitle;
     OutputTemplateTitle mContainer;
     OutputTemplatePlace mPlace;

@@ -5,6 +5,7 @@ include(GoogleTest)
 function(quorvel_gtest target)
   # The tests take longer to compile than to run.
   target_compile_options(${target} PRIVATE -O0)
+  target_precompile_headers(${target} PRIVATE <gtest/gtest.h>)
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${target} COMMAND ${target})
   else()
