@@ -70,7 +70,7 @@ bool hasInstitutionalWord(WordSpan words) {
            });
 }
 
-bool isPostfixAt(WordSpan words, std::size_t index) {
+bool isPostfixAt(WordSpan words, std::size_t index, std::size_t nameLength) {
     const Word& word = words[index];
     if (!word.is(kPostfix)) {
         return false;
@@ -79,11 +79,11 @@ bool isPostfixAt(WordSpan words, std::size_t index) {
         return true;
     }
     const bool isRoman = word.text.find_first_not_of(u"IV") == TextView::npos;
-    return (isRoman && (index == 0 || index >= 2)) || (index >= 2 && words[index - 1].isInitials());
+    return (isRoman && (index == 0 || index >= nameLength)) || (index >= nameLength && words[index - 1].isInitials());
 }
 
-WordSpan withoutPostfix(WordSpan words) {
-    while (words.size() > 1 && isPostfixAt(words, words.size() - 1)) {
+WordSpan withoutPostfix(WordSpan words, std::size_t nameLength) {
+    while (words.size() > 1 && isPostfixAt(words, words.size() - 1, nameLength)) {
         words = words.first(words.size() - 1);
     }
     return words;

@@ -50,6 +50,25 @@ bool isCompactInitialsWithStop(const Word& word) {
     return word.endsWithStop && wordOf(word.text.substr(0, word.text.size() - 1)).shape == Shape::Capitals;
 }
 
+/// The first name is compact: "Smith JA, ...", "van der Meer MA. Title". "Thomas C. King" and "Edward H Shortliffe" are
+/// not.
+bool beginsWithCompactName(const Words& words) {
+    std::size_t name = 0;
+    while (name < words.size() && words[name].isLower() && words[name].is(kParticle | kLowerParticle)) {
+        ++name;
+    }
+    if (name + 2 >= words.size() || words[name].shape != Shape::Name || words[name + 1].before != Separator::Blank) {
+        return false;
+    }
+    const Word& initials = words[name + 1];
+    const Word& next = words[name + 2];
+    if (initials.shape == Shape::Capitals) {
+        return next.before != Separator::Blank || next.is(kAnd | kEt | kPostfix) || next.isInitials();
+    }
+    // A single initial with its stop says nothing.
+    return isCompactInitialsWithStop(initials) && initials.text.size() > 2;
+}
+
 bool isTagOrAnd(const Word& word) {
     return word.is(kAnyTag | kAnd | kTagOrnament);
 }
@@ -245,11 +264,7 @@ void parseAndRemoveResidueAMAAuthor(AuthorReading& reading) {
     AuthorListText& text = reading.list;
     procedure(reading.element(), u"parseAndRemoveResidueAMAAuthor", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
-        // "Thomas C. King" is no compact list: a single initial with its stop says nothing.
-        const bool hasInitials =
-            words.size() > 2 &&
-            (words[1].shape == Shape::Capitals || (isCompactInitialsWithStop(words[1]) && words[1].text.size() > 2));
-        const bool isCompact = hasInitials && words[0].shape == Shape::Name && words[1].before == Separator::Blank;
+        const bool isCompact = beginsWithCompactName(words);
         for (std::size_t i = 1; isCompact && i + 1 < words.size(); ++i) {
             const bool isAfterEtAl =
                 isAtEtAlIndex(reading.element(), text.text(), positionOf(text.text(), words[i - 1]));
