@@ -68,6 +68,8 @@ enum WordClass : std::uint32_t {
     kSharedFirstName = 1U << 29,
     /// A particle that is a first name, too: "Ben", "Van".
     kGivenLikeParticle = 1U << 30,
+    /// Ends the name of a country or state in front of one of its authorities: "United States. Dept. of Labor".
+    kJurisdiction = 1U << 31,
 };
 
 inline constexpr std::uint32_t kAnyTag = kEditorTag | kCompilerTag | kTranslatorTag;

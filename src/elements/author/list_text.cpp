@@ -63,11 +63,18 @@ bool isBareNumber(const Word& word) {
     return word.shape == Shape::Number && !word.is(kPostfix);
 }
 
+bool isInstitutionalAt(WordSpan words, std::size_t index) {
+    return words[index].is(kInstitutionHead | kInstitutionWord) || isBareNumber(words[index]) ||
+           (index > 0 && words[index].is(kCompanyEnding));
+}
+
 bool hasInstitutionalWord(WordSpan words) {
-    constexpr std::uint32_t kInstitutional = kInstitutionHead | kInstitutionWord | kCompanyEnding | kPreposition;
-    return words.size() > 1 && std::any_of(words.begin(), words.end(), [](const Word& word) {
-               return word.is(kInstitutional) || isBareNumber(word);
-           });
+    for (std::size_t i = 0; words.size() > 1 && i < words.size(); ++i) {
+        if (words[i].is(kPreposition) || isInstitutionalAt(words, i)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 bool isPostfixAt(WordSpan words, std::size_t index, std::size_t nameLength) {

@@ -119,6 +119,9 @@ PieceKind kindOf(WordSpan words);
 /// A number in a name, which only institutions have: "Study Group 8". "2nd" is none.
 bool isBareNumber(const Word& word);
 
+/// Whether the word at this index tells an institution. "Co." does behind a name only ("CO Callender").
+bool isInstitutionalAt(WordSpan words, std::size_t index);
+
 /// Whether a word among several could be an institution's; without one the words are none. A single
 /// word is a last name or needs no other treatment than one.
 bool hasInstitutionalWord(WordSpan words);

@@ -54,26 +54,32 @@ bool isHyphen(char16_t unit) {
     return unit == u'-' || unit == u'\u2010' || unit == u'\u2011';
 }
 
-/// "A.T.", "JM", "C-C", "J", "J-JCh": letters that each stand for a name.
+/// "A.T.", "JM", "C-C", "J", "YuI", "J-JCh": letters that each stand for a name.
 bool areInitials(TextView word, bool isShouted) {
     if (word.size() > kLongestInitials) {
         return false;
     }
     std::size_t letters = 0;
+    std::size_t soundsOfTwo = 0;
     bool hasStop = false;
     for (std::size_t i = 0; i < word.size(); ++i) {
         if (word[i] == u'.') {
             hasStop = true;
         } else if (isCapital(word[i])) {
             ++letters;
-        } else if (!isHyphen(word[i]) && (i + 1 < word.size() || letters < 2)) {
-            return false;
+        } else if (!isHyphen(word[i])) {
+            const bool endsInSound = i + 1 == word.size() && letters > 1;
+            if (!endsInSound && (i == 0 || !isDigraph(word[i - 1], word[i]))) {
+                return false;
+            }
+            ++soundsOfTwo;
         }
     }
-    return letters > 0 && (hasStop || letters <= (isShouted ? kMostShoutedInitials : kMostInitials));
+    return letters > (soundsOfTwo > 0 ? 1U : 0U) &&
+           (hasStop || letters <= (isShouted ? kMostShoutedInitials : kMostInitials));
 }
 
-/// Writes "J. M." for "JM", "C.-C." for "C-C", "A. T." for "A.T.", "J.-J. Ch." for "J-JCh".
+/// Writes "J. M." for "JM", "C.-C." for "C-C", "A. T." for "A.T.", "J.-J. Ch." for "J-JCh", "Yu. I." for "YuI".
 void appendInitials(TextView word, Text& firstNames) {
     bool isFirst = true;
     for (std::size_t i = 0; i < word.size(); ++i) {

@@ -157,15 +157,29 @@ void parseAndRemoveAndSeparator(AuthorReading& reading) {
     });
 }
 
+/// "Daumé III, Hal, and Daniel Marcu": the numeral is no initials where no other name of the list has any in its
+/// place.
+bool isNumeralOfReversedName(const AuthorListText& list, const Piece& piece) {
+    const WordSpan words = list.wordsOf(piece);
+    return piece.kind == PieceKind::Compact && isPostfixAt(words, words.size() - 1, 1) && list.pieces().size() > 1 &&
+           std::none_of(list.pieces().begin(), list.pieces().end(), [&](const Piece& other) {
+               return &other != &piece && (other.kind == PieceKind::Compact || other.before == Separator::Semicolon);
+           });
+}
+
 /// "Smith J, Jones K", "Smith J., Jones K.": a list whose first person is compact is so as a whole.
 void handleAMAException(AuthorReading& reading) {
     AuthorListText& list = reading.list;
     procedure(reading.element(), u"handleAMAException", {{u"text", list.text()}}, [&] {
-        for (const Piece& piece : list.pieces()) {
-            if (!piece.isInstitution) {
-                list.isCompact = piece.kind == PieceKind::Compact || piece.kind == PieceKind::EndsWithInitial;
-                return;
+        for (Piece& piece : list.pieces()) {
+            if (piece.isInstitution) {
+                continue;
             }
+            if (isNumeralOfReversedName(list, piece)) {
+                piece.kind = kindOf(withoutPostfix(list.wordsOf(piece), 1));
+            }
+            list.isCompact = piece.kind == PieceKind::Compact || piece.kind == PieceKind::EndsWithInitial;
+            return;
         }
     });
 }

@@ -279,6 +279,23 @@ void parseAndRemoveResidueAMAAuthor(AuthorReading& reading) {
     });
 }
 
+/// "United States. Dept. of Labor": the first sentence, which ends with the word at `end`, is no whole author.
+bool continuesAuthor(const Instrumented& element, const Words& words, std::size_t end) {
+    for (std::size_t i = 1; i <= end; ++i) {
+        if (words[i].before != Separator::Blank) {
+            return false;
+        }
+    }
+    if (words[end + 1].is(kSubdivision)) {
+        return true;
+    }
+    std::size_t last = end + 1;
+    while (last + 1 < words.size() && words[last + 1].before == Separator::Blank && !breaksSentence(words[last])) {
+        ++last;
+    }
+    return isAuthorityOf(element, WordSpan(words).first(end + 1), WordSpan(words).subspan(end + 1, last - end));
+}
+
 /// "World Health Organization. Title"; "United States. Dept. of Labor" is one name.
 void parseAndRemoveCorporateAuthor(AuthorReading& reading) {
     AuthorListText& text = reading.list;
@@ -289,7 +306,7 @@ void parseAndRemoveCorporateAuthor(AuthorReading& reading) {
                 continue;
             }
             // Only the first sentence can be the author's.
-            if (!words[i + 1].is(kSubdivision) &&
+            if (!continuesAuthor(reading.element(), words, i) &&
                 isInstitutionalAuthor(reading.element(), WordSpan(words).first(i + 1))) {
                 cutResidue(reading, positionOf(text.text(), words[i]) + words[i].text.size());
             }
@@ -306,8 +323,9 @@ void parseAndRemoveResidueByInitials(AuthorReading& reading) {
         for (std::size_t i = 1; i + 1 < words.size(); ++i) {
             const bool breaks =
                 words[i].endsWithStop && words[i].shape == Shape::Name && words[i + 1].before == Separator::Blank &&
-                !words[i + 1].is(kSubdivision) && !words[i + 1].isInitials() &&
-                !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition | kSubdivision);
+                !words[i + 1].isInitials() &&
+                !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition | kSubdivision) &&
+                !continuesAuthor(reading.element(), words, i);
             const std::size_t position = positionOf(text.text(), words[i]);
             if (breaks &&
                 !isAtInitialOrPostfixIndex(reading.element(), text.text(), position == 0 ? 0 : position - 1)) {

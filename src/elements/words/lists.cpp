@@ -211,6 +211,9 @@ constexpr WordList kWordLists[] = {
     {0, authorwords::kCompanyEnding,
 #include "elements/words/company_endings.inc"
     },
+    {0, authorwords::kJurisdiction,
+#include "elements/words/jurisdictions.inc"
+    },
     {0, authorwords::kSubdivision,
 #include "elements/words/subdivisions.inc"
     },
