@@ -53,7 +53,6 @@ bool parseAndRecoverFirstName(const Instrumented& element, AuthorListText& text,
         }
         const Piece& last = pieces[piece];
         const Piece& first = pieces[piece + 1];
-        const WordSpan lastWords = text.wordsOf(last);
         const WordSpan firstWords = text.wordsOf(first);
         if (first.kind == Postfix) {
             return last.kind == Single && isDegreeLikeInitials(firstWords);
@@ -121,7 +120,7 @@ void parseAndRemoveAuthor(AuthorReading& reading, std::int16_t index, bool treat
                   const WordSpan words = text.wordsOf(piece);
                   if (treatTheRestAsResidue) {
                       text.nextPiece = pieces.size();
-                      persons.residue = textOf(WordSpan(text.words()).subspan(piece.begin));
+                      persons.leave(textOf(WordSpan(text.words()).subspan(piece.begin)));
                       return;
                   }
                   // Counted on before anything can fail: the reading ends.

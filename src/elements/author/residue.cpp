@@ -106,10 +106,9 @@ bool isAtEtAlIndex(const Instrumented& element, TextView text, std::size_t index
 /// The text from `from` on belongs to other elements; its first `skip` characters to nobody.
 void cutResidue(AuthorReading& reading, std::size_t from, std::size_t skip = 0) {
     AuthorListText& text = reading.list;
-    Text& residue = reading.persons.residue;
     const TextView whole = text.text();
     const TextView tail = trim(whole.substr(std::min(from + skip, whole.size())));
-    residue = residue.empty() ? Text(tail) : concatenate({tail, u" ", residue});
+    reading.persons.leave(tail);
     TextView head = whole.substr(0, from);
     while (!head.empty() && kSeparatorsAtEnd.find(head.back()) != TextView::npos) {
         head.remove_suffix(1);
@@ -192,7 +191,7 @@ void parseAndRemoveResidueChapterType(AuthorReading& reading) {
                 cutResidue(reading, at);
                 return;
             }
-            reading.persons.residue = type;
+            reading.persons.leave(type);
             text.assign(Text(trim(TextView(text.text()).substr(type.size()))));
             return;
         }
