@@ -1,5 +1,6 @@
 #include "elements/author/author.h"
 #include "fuzz_input.h"
+#include "support/author_kept.h"
 #include "support/recording_sink.h"
 
 using namespace quorvel;
@@ -60,9 +61,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(!author.person(i).lastName.empty() || !author.person(i).firstNames.empty());
     }
     require(static_cast<std::size_t>(author.numAuthors()) <= text.size() + previous.size());
+    require(test::lostLetters(text, author).empty());
 
     author.ToFormattedString(sink, (forms & 1) != 0, (forms & 2) != 0);
     require(sink->plain() == author.toString((forms & 1) != 0, (forms & 2) != 0));
+    if (author.numAuthors() < options.numAuthorsToTriggerEtAl && !author.HasEtAl()) {
+        require(test::unwrittenPersons(sink->plain(), author).empty());
+    }
     require(author.Clone()->toString((forms & 1) != 0, (forms & 2) != 0) == sink->plain());
     author.toString(false, false, true, false, (forms & 4) != 0, true);
     author.toString(true, true, false, true, false, false);

@@ -83,7 +83,12 @@ private:
             mResult.push_back(u' ');
         }
         mLastIsWhole = false;
-        mResult.append(letter);
+        if (isHyphened && letter.size() == 1) {
+            // "Ying-kui" is "Y.-K."
+            mResult.push_back(toUpper(letter[0]));
+        } else {
+            mResult.append(letter);
+        }
         if (mUsesPeriods) {
             mResult.push_back(u'.');
         }

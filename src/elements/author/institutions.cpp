@@ -42,7 +42,7 @@ bool hasPreposition(WordSpan words) {
 /// The words up to the first preposition hold the word for the kind of institution.
 bool hasHead(WordSpan words) {
     for (std::size_t i = 0; i < words.size(); ++i) {
-        if (words[i].is(kInstitutionHead | kCompanyEnding)) {
+        if (words[i].is(kInstitutionHead) || (i > 0 && words[i].is(kCompanyEnding))) {
             return true;
         }
         if (isInnerPreposition(words, i)) {
@@ -114,16 +114,26 @@ bool isInstitution(const Instrumented& element, WordSpan words) {
         if (!hasInstitutionalWord(words) || isCompactPerson(words) || isPersonWithSuchName(words)) {
             return false;
         }
-        return beginsWithThe(words) || hasPreposition(words) ||
-               std::any_of(words.begin(), words.end(),
-                           [&](const Word& word) { return isInstitutionWord(element, word); });
+        if (beginsWithThe(words) || hasPreposition(words)) {
+            return true;
+        }
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            if (isInstitutionWord(element, words, i)) {
+                return true;
+            }
+        }
+        return false;
     });
 }
 
-bool isInstitutionWord(const Instrumented& element, const Word& word) {
-    return procedure(element, u"isInstitutionWord", {{u"word", word.text}}, [&] {
-        return word.is(kInstitutionHead | kInstitutionWord | kCompanyEnding) || isBareNumber(word);
-    });
+bool isInstitutionWord(const Instrumented& element, WordSpan words, std::size_t index) {
+    return procedure(element, u"isInstitutionWord", {{u"word", words[index].text}},
+                     [&] { return isInstitutionalAt(words, index); });
+}
+
+bool isAuthorityOf(const Instrumented& element, WordSpan jurisdiction, WordSpan authority) {
+    return jurisdiction.back().is(kJurisdiction) && !authority.empty() && hasHead(authority) &&
+           isInstitution(element, authority);
 }
 
 bool possibleAuthor(const Instrumented& element, TextView text) {

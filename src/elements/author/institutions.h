@@ -12,7 +12,10 @@ namespace quorvel::authorwords {
 /// An institution, or anything that begins with "The".
 bool isInstitutionalAuthor(const Instrumented& element, WordSpan words);
 bool isInstitution(const Instrumented& element, WordSpan words);
-bool isInstitutionWord(const Instrumented& element, const Word& word);
+bool isInstitutionWord(const Instrumented& element, WordSpan words, std::size_t index);
+/// "United States. Environmental Protection Agency": the sentence behind a country's or state's name is part of the
+/// author.
+bool isAuthorityOf(const Instrumented& element, WordSpan jurisdiction, WordSpan authority);
 /// Whether the text of a person can be an institution's name.
 bool possibleAuthor(const Instrumented& element, TextView text);
 bool beginsWithThe(WordSpan words);

@@ -64,6 +64,12 @@ enum WordClass : std::uint32_t {
     kDiscussion = 1U << 27,
     /// A first name or title cut short with a full stop: "Wm."
     kAbbreviation = 1U << 28,
+    /// A first name that families bear, too: it tells little of the order.
+    kSharedFirstName = 1U << 29,
+    /// A particle that is a first name, too: "Ben", "Van".
+    kGivenLikeParticle = 1U << 30,
+    /// Ends the name of a country or state in front of one of its authorities: "United States. Dept. of Labor".
+    kJurisdiction = 1U << 31,
 };
 
 inline constexpr std::uint32_t kAnyTag = kEditorTag | kCompilerTag | kTranslatorTag;

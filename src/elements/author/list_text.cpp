@@ -63,14 +63,21 @@ bool isBareNumber(const Word& word) {
     return word.shape == Shape::Number && !word.is(kPostfix);
 }
 
-bool hasInstitutionalWord(WordSpan words) {
-    constexpr std::uint32_t kInstitutional = kInstitutionHead | kInstitutionWord | kCompanyEnding | kPreposition;
-    return words.size() > 1 && std::any_of(words.begin(), words.end(), [](const Word& word) {
-               return word.is(kInstitutional) || isBareNumber(word);
-           });
+bool isInstitutionalAt(WordSpan words, std::size_t index) {
+    return words[index].is(kInstitutionHead | kInstitutionWord) || isBareNumber(words[index]) ||
+           (index > 0 && words[index].is(kCompanyEnding));
 }
 
-bool isPostfixAt(WordSpan words, std::size_t index) {
+bool hasInstitutionalWord(WordSpan words) {
+    for (std::size_t i = 0; words.size() > 1 && i < words.size(); ++i) {
+        if (words[i].is(kPreposition) || isInstitutionalAt(words, i)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool isPostfixAt(WordSpan words, std::size_t index, std::size_t nameLength) {
     const Word& word = words[index];
     if (!word.is(kPostfix)) {
         return false;
@@ -79,11 +86,11 @@ bool isPostfixAt(WordSpan words, std::size_t index) {
         return true;
     }
     const bool isRoman = word.text.find_first_not_of(u"IV") == TextView::npos;
-    return (isRoman && (index == 0 || index >= 2)) || (index >= 2 && words[index - 1].isInitials());
+    return (isRoman && (index == 0 || index >= nameLength)) || (index >= nameLength && words[index - 1].isInitials());
 }
 
-WordSpan withoutPostfix(WordSpan words) {
-    while (words.size() > 1 && isPostfixAt(words, words.size() - 1)) {
+WordSpan withoutPostfix(WordSpan words, std::size_t nameLength) {
+    while (words.size() > 1 && isPostfixAt(words, words.size() - 1, nameLength)) {
         words = words.first(words.size() - 1);
     }
     return words;

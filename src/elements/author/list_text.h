@@ -30,6 +30,16 @@ enum class PieceKind : std::uint8_t {
     Postfix,
 };
 
+/// How the names of a list stand.
+enum class ListForm : std::uint8_t {
+    /// First names first.
+    Direct,
+    /// The first person last name first, the others not.
+    FirstReversed,
+    /// Last names first.
+    Reversed,
+};
+
 /// A run of words between two separators.
 struct Piece {
     std::uint32_t begin = 0;
@@ -79,10 +89,13 @@ public:
     /// The piece that is read next.
     std::size_t nextPiece = 0;
 
-    // What the persons read so far tell about the form of the list.
+    // What is known of the form of the list: by its first name, and by the persons read so far.
     bool isCompact = false;
-    bool hasReversed = false;
     bool hasDirect = false;
+    /// The form in which the pieces from `formBegin` to `formEnd` stand; see list_form.h.
+    ListForm form = ListForm::Direct;
+    std::size_t formBegin = 0;
+    std::size_t formEnd = 0;
 
 private:
     static constexpr std::size_t kUsualWords = 48;
@@ -106,6 +119,9 @@ PieceKind kindOf(WordSpan words);
 /// A number in a name, which only institutions have: "Study Group 8". "2nd" is none.
 bool isBareNumber(const Word& word);
 
+/// Whether the word at this index tells an institution. "Co." does behind a name only ("CO Callender").
+bool isInstitutionalAt(WordSpan words, std::size_t index);
+
 /// Whether a word among several could be an institution's; without one the words are none. A single
 /// word is a last name or needs no other treatment than one.
 bool hasInstitutionalWord(WordSpan words);
@@ -113,10 +129,11 @@ bool hasInstitutionalWord(WordSpan words);
 /// Whether the word at this index is a postfix of the name before it. "II", "III" and "IV" are, behind a
 /// whole name or its initials; the other Roman numerals are initials, and so are "JR" and "SR" behind a
 /// last name ("Smith JR").
-bool isPostfixAt(WordSpan words, std::size_t index);
+/// @param nameLength how many words make a whole name; one in the halves of a reversed name ("Hal III")
+bool isPostfixAt(WordSpan words, std::size_t index, std::size_t nameLength = 2);
 
 /// The words without the postfixes at their end.
-WordSpan withoutPostfix(WordSpan words);
+WordSpan withoutPostfix(WordSpan words, std::size_t nameLength = 2);
 
 /// A postfix as all styles but one write it: "Jr" of an AMA list is "Jr."
 TextView writtenPostfix(TextView postfix);

@@ -27,6 +27,10 @@ constexpr std::size_t kLongestInitials = 12;
 constexpr std::size_t kMostInitials = 5;
 constexpr std::size_t kMostShoutedInitials = 2;
 
+bool areInitials(WordSpan words) {
+    return std::all_of(words.begin(), words.end(), [](const Word& word) { return word.isInitials(); });
+}
+
 /// "Neuenschwander-el Massioui": the particle hangs on the word before.
 bool endsWithHyphenedParticle(const Word& word) {
     const std::size_t hyphen = word.text.rfind(u'-');
@@ -50,26 +54,32 @@ bool isHyphen(char16_t unit) {
     return unit == u'-' || unit == u'\u2010' || unit == u'\u2011';
 }
 
-/// "A.T.", "JM", "C-C", "J", "J-JCh": letters that each stand for a name.
+/// "A.T.", "JM", "C-C", "J", "YuI", "J-JCh": letters that each stand for a name.
 bool areInitials(TextView word, bool isShouted) {
     if (word.size() > kLongestInitials) {
         return false;
     }
     std::size_t letters = 0;
+    std::size_t soundsOfTwo = 0;
     bool hasStop = false;
     for (std::size_t i = 0; i < word.size(); ++i) {
         if (word[i] == u'.') {
             hasStop = true;
         } else if (isCapital(word[i])) {
             ++letters;
-        } else if (!isHyphen(word[i]) && (i + 1 < word.size() || letters < 2)) {
-            return false;
+        } else if (!isHyphen(word[i])) {
+            const bool endsInSound = i + 1 == word.size() && letters > 1;
+            if (!endsInSound && (i == 0 || !isDigraph(word[i - 1], word[i]))) {
+                return false;
+            }
+            ++soundsOfTwo;
         }
     }
-    return letters > 0 && (hasStop || letters <= (isShouted ? kMostShoutedInitials : kMostInitials));
+    return letters > (soundsOfTwo > 0 ? 1U : 0U) &&
+           (hasStop || letters <= (isShouted ? kMostShoutedInitials : kMostInitials));
 }
 
-/// Writes "J. M." for "JM", "C.-C." for "C-C", "A. T." for "A.T.", "J.-J. Ch." for "J-JCh".
+/// Writes "J. M." for "JM", "C.-C." for "C-C", "A. T." for "A.T.", "J.-J. Ch." for "J-JCh", "Yu. I." for "YuI".
 void appendInitials(TextView word, Text& firstNames) {
     bool isFirst = true;
     for (std::size_t i = 0; i < word.size(); ++i) {
@@ -181,6 +191,10 @@ std::int16_t getFirstNameUbound(const Instrumented& element, WordSpan words) {
                     continue;
                 }
             }
+            if (words[i].is(kSharedFirstName) && !words[i].isLower() && areInitials(words.first(i))) {
+                // "W. Ben Towne" goes by his second name.
+                continue;
+            }
             if (isSpanishY(element, words[i])) {
                 begin = std::max<std::size_t>(i - 1, 1);
             } else if (isPartialLastName(element, words[i]) || endsWithHyphenedParticle(words[i])) {
@@ -206,14 +220,24 @@ void moveApostrophePrefix(const Instrumented& element, Person& person) {
     });
 }
 
-void parseAndRemovePostfix(const Instrumented& element, WordSpan& words, Person& person) {
+void parseAndRemovePostfix(const Instrumented& element, WordSpan& words, Person& person, std::size_t nameLength = 2) {
     procedure(element, u"parseAndRemovePostfix", {{u"words", textOf(words)}}, [&] {
-        const WordSpan name = withoutPostfix(words);
+        const WordSpan name = withoutPostfix(words, nameLength);
         if (name.size() < words.size()) {
             person.postfix = textOf(words.subspan(name.size()));
             words = name;
         }
     });
+}
+
+/// Where a postfix parts the first names from the last one, "Paul III Tornetta"; 0 where none does.
+std::size_t innerPostfix(WordSpan words) {
+    for (std::size_t i = 1; i + 1 < words.size(); ++i) {
+        if (words[i].is(kPostfix) && isPostfixAt(words, i, 1)) {
+            return i;
+        }
+    }
+    return 0;
 }
 
 }  // namespace
@@ -234,6 +258,12 @@ Person parseAuthor(const Instrumented& element, WordSpan words) {
         if (words.back().is(kPostfix)) {
             parseAndRemovePostfix(element, words, person);
         }
+        if (const std::size_t inner = innerPostfix(words); inner != 0) {
+            person.first = textOf(words.first(inner));
+            person.postfix = words[inner].text;
+            person.last = textOf(words.subspan(inner + 1));
+            return;
+        }
         if (isLastNameFirst(words)) {
             person.last = words[0].text;
             person.first = words[1].text;
@@ -248,10 +278,11 @@ Person parseAuthor(const Instrumented& element, WordSpan words) {
 
 Person parseReversedAuthor(const Instrumented& element, WordSpan last, WordSpan first) {
     Person person;
+    // "Daumé, Hal III", "Daumé III, Hal"
     if (first.back().is(kPostfix)) {
-        parseAndRemovePostfix(element, first, person);
+        parseAndRemovePostfix(element, first, person, 1);
     } else if (last.back().is(kPostfix)) {
-        parseAndRemovePostfix(element, last, person);
+        parseAndRemovePostfix(element, last, person, 1);
     }
     person.last = textOf(last);
     if (first.size() > 1 && first.back().isBracketed) {

@@ -87,6 +87,10 @@ AuthorRecord& AuthorPersons::add() {
     return record;
 }
 
+void AuthorPersons::leave(TextView text) {
+    residue = residue.empty() ? Text(text) : concatenate({text, u" ", residue});
+}
+
 void AuthorPersons::clearRecords() {
     mSize = 0;
     firstGroup = -1;

@@ -59,6 +59,8 @@ public:
     AuthorRecord& at(std::int32_t index);
     /// The record behind the last person, emptied; it counts from now on. Throws when the list is full.
     AuthorRecord& add();
+    /// Leaves a text to other elements, in front of what was left to them before.
+    void leave(TextView text);
     /// Forgets the persons and nothing else.
     void clearRecords();
     /// Forgets everything.

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/procedure.h"
+#include "elements/author/list_form.h"
 #include "elements/author/names.h"
 
 namespace quorvel::authorwords {
@@ -10,17 +11,6 @@ namespace quorvel::authorwords {
 namespace {
 
 constexpr TextView kPseudonymMark = u"pseud.";
-
-bool areAllFirstNames(WordSpan words) {
-    return std::all_of(words.begin(), words.end(), [](const Word& word) { return word.is(kFirstName); });
-}
-
-/// "van der Kwast", "De Vos", "García Márquez", "Chaibub Neto": no first name stands in front.
-bool looksLikeLastName(WordSpan words) {
-    const Word& first = words.front();
-    return first.is(kParticle | kArabicOpening) || (first.isLower() && first.is(kLowerParticle)) ||
-           first.is(kPartialLastName) || words.back().is(kFamilySuffix);
-}
 
 /// "Smith, Jones, and Brown", as a citation names them.
 bool areLastNamesOnly(const AuthorListText& text, std::size_t piece) {
@@ -54,7 +44,7 @@ bool endsWithAnInitial(const Instrumented& element, const Piece& piece) {
 }
 
 /// Whether the piece behind this one holds its first names: last name, comma, first names.
-bool parseAndRecoverFirstName(const Instrumented& element, const AuthorListText& text, std::size_t piece) {
+bool parseAndRecoverFirstName(const Instrumented& element, AuthorListText& text, std::size_t piece) {
     return procedure(element, u"parseAndRecoverFirstName", {{u"text", text.text()}}, [&] {
         using enum PieceKind;
         const auto& pieces = text.pieces();
@@ -63,7 +53,6 @@ bool parseAndRecoverFirstName(const Instrumented& element, const AuthorListText&
         }
         const Piece& last = pieces[piece];
         const Piece& first = pieces[piece + 1];
-        const WordSpan lastWords = text.wordsOf(last);
         const WordSpan firstWords = text.wordsOf(first);
         if (first.kind == Postfix) {
             return last.kind == Single && isDegreeLikeInitials(firstWords);
@@ -76,26 +65,18 @@ bool parseAndRecoverFirstName(const Instrumented& element, const AuthorListText&
         if (endsWithAnInitial(element, first)) {
             return true;
         }
-        const bool isLastName = looksLikeLastName(lastWords);
-        if (last.kind == Direct || last.kind == EndsWithInitial || last.kind == Initials || last.kind == Compact) {
-            // "de F. S. M. Russo, Rosaria"
-            return isLastName && last.kind != EndsWithInitial;
-        }
-        if (last.kind == Single && areLastNamesOnly(text, piece)) {
-            return false;
-        }
-        if (text.hasDirect) {
+        if (last.kind == Initials || last.kind == EndsWithInitial || last.kind == Compact || text.hasDirect ||
+            (last.kind == Single && areLastNamesOnly(text, piece))) {
             // "Warnier, Martijn, David de Groot, ...": whoever follows a name in direct order is so too.
             return false;
         }
-        if (last.kind == Single || isLastName) {
+        if (last.kind == Single) {
             return true;
         }
-        // Two or more words before the comma: "García Márquez, Gabriel" or "Nancy Lynch, Calvin Newport".
-        const bool endsHere = piece + 2 >= pieces.size() || pieces[piece + 2].before == Separator::Semicolon;
-        const bool standsAlone = endsHere && (piece == 0 || last.before == Separator::Semicolon);
-        return first.kind == Single || standsAlone ||
-               (areAllFirstNames(firstWords) && !isFirstName(element, lastWords[0]));
+        if (piece >= text.formEnd) {
+            settleForm(text, piece);
+        }
+        return text.form == ListForm::Reversed || (text.form == ListForm::FirstReversed && piece == text.formBegin);
     });
 }
 
@@ -139,7 +120,7 @@ void parseAndRemoveAuthor(AuthorReading& reading, std::int16_t index, bool treat
                   const WordSpan words = text.wordsOf(piece);
                   if (treatTheRestAsResidue) {
                       text.nextPiece = pieces.size();
-                      persons.residue = textOf(WordSpan(text.words()).subspan(piece.begin));
+                      persons.leave(textOf(WordSpan(text.words()).subspan(piece.begin)));
                       return;
                   }
                   // Counted on before anything can fail: the reading ends.
@@ -156,7 +137,6 @@ void parseAndRemoveAuthor(AuthorReading& reading, std::int16_t index, bool treat
                       ++text.nextPiece;
                       person = parseReversedAuthor(element, words, text.wordsOf(pieces[at + 1]));
                       isReversed = true;
-                      text.hasReversed = true;
                   } else if (piece.isInstitution || isGroupBehindSemicolon(text, piece)) {
                       person.last = insideParentheses(textOf(words));
                       person.isGroup = true;

@@ -23,17 +23,24 @@ bool isEmptyOrSigns(const Words& words) {
     return std::all_of(words.begin(), words.end(), [](const Word& word) { return word.shape == Shape::Mark; });
 }
 
-/// "Penfield W Jasper H": in a style without and-word only a blank stands between two compact names. One
-/// ends before the word at `end` when it has its initials and what follows is another whole one.
+/// The end of the words that nothing but blanks part.
+std::uint32_t endOfRun(const Words& words, std::uint32_t begin) {
+    std::uint32_t end = begin + 1;
+    while (end < words.size() && words[end].before == Separator::Blank && !words[end].is(kAnd)) {
+        ++end;
+    }
+    return end;
+}
+
+/// "Penfield W Jasper H": in a style without and-word only a blank stands between compact names, and the initials
+/// of one end the run; not in "John F Kennedy".
+bool endsWithInitials(WordSpan run) {
+    return withoutPostfix(run).back().shape == Shape::Capitals;
+}
+
+/// A compact name in such a run ends before the word at `end` when it has its initials.
 bool endsCompactName(const Words& words, std::size_t begin, std::size_t end) {
-    if (words[end - 1].shape != Shape::Capitals || words[begin].isInitials() || words[end].isInitials()) {
-        return false;
-    }
-    std::size_t next = end + 1;
-    while (next < words.size() && words[next].before == Separator::Blank && !words[next].isInitials()) {
-        ++next;
-    }
-    return next < words.size() && words[next].shape == Shape::Capitals && words[next].before == Separator::Blank &&
+    return words[end - 1].shape == Shape::Capitals && !words[begin].isInitials() && !words[end].isInitials() &&
            !words[end].is(kPostfix);
 }
 
@@ -107,15 +114,20 @@ void parseAndRemoveAndSeparator(AuthorReading& reading) {
             return;
         }
         Separator before = Separator::Comma;
+        std::uint32_t runEnd = 0;
+        bool isRunOfCompactNames = false;
         for (std::uint32_t begin = 0; begin < words.size();) {
             if (words[begin].is(kAnd)) {
                 before = Separator::And;
                 ++begin;
                 continue;
             }
+            if (begin >= runEnd) {
+                runEnd = endOfRun(words, begin);
+                isRunOfCompactNames = endsWithInitials(WordSpan(words).subspan(begin, runEnd - begin));
+            }
             std::uint32_t end = begin + 1;
-            while (end < words.size() && words[end].before == Separator::Blank && !words[end].is(kAnd) &&
-                   !endsCompactName(words, begin, end)) {
+            while (end < runEnd && !(isRunOfCompactNames && endsCompactName(words, begin, end))) {
                 ++end;
             }
             Piece piece;
@@ -145,15 +157,29 @@ void parseAndRemoveAndSeparator(AuthorReading& reading) {
     });
 }
 
+/// "Daumé III, Hal, and Daniel Marcu": the numeral is no initials where no other name of the list has any in its
+/// place.
+bool isNumeralOfReversedName(const AuthorListText& list, const Piece& piece) {
+    const WordSpan words = list.wordsOf(piece);
+    return piece.kind == PieceKind::Compact && isPostfixAt(words, words.size() - 1, 1) && list.pieces().size() > 1 &&
+           std::none_of(list.pieces().begin(), list.pieces().end(), [&](const Piece& other) {
+               return &other != &piece && (other.kind == PieceKind::Compact || other.before == Separator::Semicolon);
+           });
+}
+
 /// "Smith J, Jones K", "Smith J., Jones K.": a list whose first person is compact is so as a whole.
 void handleAMAException(AuthorReading& reading) {
     AuthorListText& list = reading.list;
     procedure(reading.element(), u"handleAMAException", {{u"text", list.text()}}, [&] {
-        for (const Piece& piece : list.pieces()) {
-            if (!piece.isInstitution) {
-                list.isCompact = piece.kind == PieceKind::Compact || piece.kind == PieceKind::EndsWithInitial;
-                return;
+        for (Piece& piece : list.pieces()) {
+            if (piece.isInstitution) {
+                continue;
             }
+            if (isNumeralOfReversedName(list, piece)) {
+                piece.kind = kindOf(withoutPostfix(list.wordsOf(piece), 1));
+            }
+            list.isCompact = piece.kind == PieceKind::Compact || piece.kind == PieceKind::EndsWithInitial;
+            return;
         }
     });
 }

@@ -50,6 +50,25 @@ bool isCompactInitialsWithStop(const Word& word) {
     return word.endsWithStop && wordOf(word.text.substr(0, word.text.size() - 1)).shape == Shape::Capitals;
 }
 
+/// The first name is compact: "Smith JA, ...", "van der Meer MA. Title". "Thomas C. King" and "Edward H Shortliffe" are
+/// not.
+bool beginsWithCompactName(const Words& words) {
+    std::size_t name = 0;
+    while (name < words.size() && words[name].isLower() && words[name].is(kParticle | kLowerParticle)) {
+        ++name;
+    }
+    if (name + 2 >= words.size() || words[name].shape != Shape::Name || words[name + 1].before != Separator::Blank) {
+        return false;
+    }
+    const Word& initials = words[name + 1];
+    const Word& next = words[name + 2];
+    if (initials.shape == Shape::Capitals) {
+        return next.before != Separator::Blank || next.is(kAnd | kEt | kPostfix) || next.isInitials();
+    }
+    // A single initial with its stop says nothing.
+    return isCompactInitialsWithStop(initials) && initials.text.size() > 2;
+}
+
 bool isTagOrAnd(const Word& word) {
     return word.is(kAnyTag | kAnd | kTagOrnament);
 }
@@ -87,10 +106,9 @@ bool isAtEtAlIndex(const Instrumented& element, TextView text, std::size_t index
 /// The text from `from` on belongs to other elements; its first `skip` characters to nobody.
 void cutResidue(AuthorReading& reading, std::size_t from, std::size_t skip = 0) {
     AuthorListText& text = reading.list;
-    Text& residue = reading.persons.residue;
     const TextView whole = text.text();
     const TextView tail = trim(whole.substr(std::min(from + skip, whole.size())));
-    residue = residue.empty() ? Text(tail) : concatenate({tail, u" ", residue});
+    reading.persons.leave(tail);
     TextView head = whole.substr(0, from);
     while (!head.empty() && kSeparatorsAtEnd.find(head.back()) != TextView::npos) {
         head.remove_suffix(1);
@@ -173,7 +191,7 @@ void parseAndRemoveResidueChapterType(AuthorReading& reading) {
                 cutResidue(reading, at);
                 return;
             }
-            reading.persons.residue = type;
+            reading.persons.leave(type);
             text.assign(Text(trim(TextView(text.text()).substr(type.size()))));
             return;
         }
@@ -245,11 +263,7 @@ void parseAndRemoveResidueAMAAuthor(AuthorReading& reading) {
     AuthorListText& text = reading.list;
     procedure(reading.element(), u"parseAndRemoveResidueAMAAuthor", {{u"text", text.text()}}, [&] {
         const Words& words = text.words();
-        // "Thomas C. King" is no compact list: a single initial with its stop says nothing.
-        const bool hasInitials =
-            words.size() > 2 &&
-            (words[1].shape == Shape::Capitals || (isCompactInitialsWithStop(words[1]) && words[1].text.size() > 2));
-        const bool isCompact = hasInitials && words[0].shape == Shape::Name && words[1].before == Separator::Blank;
+        const bool isCompact = beginsWithCompactName(words);
         for (std::size_t i = 1; isCompact && i + 1 < words.size(); ++i) {
             const bool isAfterEtAl =
                 isAtEtAlIndex(reading.element(), text.text(), positionOf(text.text(), words[i - 1]));
@@ -264,6 +278,23 @@ void parseAndRemoveResidueAMAAuthor(AuthorReading& reading) {
     });
 }
 
+/// "United States. Dept. of Labor": the first sentence, which ends with the word at `end`, is no whole author.
+bool continuesAuthor(const Instrumented& element, const Words& words, std::size_t end) {
+    for (std::size_t i = 1; i <= end; ++i) {
+        if (words[i].before != Separator::Blank) {
+            return false;
+        }
+    }
+    if (words[end + 1].is(kSubdivision)) {
+        return true;
+    }
+    std::size_t last = end + 1;
+    while (last + 1 < words.size() && words[last + 1].before == Separator::Blank && !breaksSentence(words[last])) {
+        ++last;
+    }
+    return isAuthorityOf(element, WordSpan(words).first(end + 1), WordSpan(words).subspan(end + 1, last - end));
+}
+
 /// "World Health Organization. Title"; "United States. Dept. of Labor" is one name.
 void parseAndRemoveCorporateAuthor(AuthorReading& reading) {
     AuthorListText& text = reading.list;
@@ -274,7 +305,7 @@ void parseAndRemoveCorporateAuthor(AuthorReading& reading) {
                 continue;
             }
             // Only the first sentence can be the author's.
-            if (!words[i + 1].is(kSubdivision) &&
+            if (!continuesAuthor(reading.element(), words, i) &&
                 isInstitutionalAuthor(reading.element(), WordSpan(words).first(i + 1))) {
                 cutResidue(reading, positionOf(text.text(), words[i]) + words[i].text.size());
             }
@@ -291,8 +322,9 @@ void parseAndRemoveResidueByInitials(AuthorReading& reading) {
         for (std::size_t i = 1; i + 1 < words.size(); ++i) {
             const bool breaks =
                 words[i].endsWithStop && words[i].shape == Shape::Name && words[i + 1].before == Separator::Blank &&
-                !words[i + 1].is(kSubdivision) && !words[i + 1].isInitials() &&
-                !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition | kSubdivision);
+                !words[i + 1].isInitials() &&
+                !words[i].is(kPostfix | kDegree | kAnyTag | kCompanyEnding | kPreposition | kSubdivision) &&
+                !continuesAuthor(reading.element(), words, i);
             const std::size_t position = positionOf(text.text(), words[i]);
             if (breaks &&
                 !isAtInitialOrPostfixIndex(reading.element(), text.text(), position == 0 ? 0 : position - 1)) {

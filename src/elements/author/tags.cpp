@@ -111,7 +111,7 @@ bool processEditor(AuthorReading& reading) {
             while (begin > 1 && isEdition(reading.element(), words[begin - 1].text)) {
                 --begin;
             }
-            reading.persons.residue = Text(textOf(WordSpan(words).subspan(begin)));
+            reading.persons.leave(textOf(WordSpan(words).subspan(begin)));
         } else {
             // "Smith, Ed." may be Edward Smith; a tag behind a whole name may not.
             const bool isPlainCapital = !tags.front().isLower() && !hasParenthesis(tags.front().text);

@@ -64,6 +64,8 @@ struct Letters {
     // The first two letters are capitals.
     bool beginsWithCapitals = false;
     bool endsLower = false;
+    // Sounds of two letters that stand for one initial: "Ch", "Yu".
+    std::size_t digraphs = 0;
 };
 
 Shape shapeOf(const Letters& letters, std::size_t size, bool endsWithStop) {
@@ -93,9 +95,10 @@ Shape shapeOf(const Letters& letters, std::size_t size, bool endsWithStop) {
         }
         return Shape::Lower;
     }
-    // "J-JCh": the last initial is a sound of two letters.
-    if (letters.beginsWithCapitals && letters.lower == 1 && letters.endsLower && letters.capitals <= kMostInitials &&
-        size == letters.capitals + letters.hyphens + 1) {
+    // "YuI", "J-JCh": an initial is a sound of two letters; the last one may be any.
+    const bool endsInSound = letters.beginsWithCapitals && letters.lower == 1 && letters.endsLower;
+    if ((endsInSound || letters.lower == letters.digraphs) && letters.capitals > 1 &&
+        letters.capitals <= kMostInitials && size == letters.capitals + letters.hyphens + letters.lower) {
         return Shape::Capitals;
     }
     if (endsWithStop && all <= kLongestAbbreviation && letters.capitals == 1 && size == all + 1) {
@@ -131,6 +134,7 @@ void classify(Word& word) {
                 letters.beginsLower = letters.beginsLower || letters.capitals + letters.lower + letters.others == 0;
                 ++letters.lower;
                 letters.endsLower = true;
+                letters.digraphs += i > 0 && isDigraph(word.text[i - 1], unit) ? 1U : 0U;
                 break;
             case Letter::None:
                 isLetter = false;
@@ -215,13 +219,26 @@ bool endsWord(char16_t unit) {
     return unit == u' ' || unit == u',' || unit == u';';
 }
 
-/// "Smith, John. The" breaks after "John."; "St. John" and "J. Smith" do not break.
+}  // namespace
+
+bool isDigraph(char16_t capital, char16_t small) {
+    switch (small) {
+        case u'u':
+        case u'a':
+        case u'e':
+        case u'o': return capital == u'Y' || capital == u'J';
+        case u'h':
+            return capital == u'C' || capital == u'K' || capital == u'S' || capital == u'T' || capital == u'Z' ||
+                   capital == u'P';
+        case u's': return capital == u'T';
+        default: return false;
+    }
+}
+
 bool breaksSentence(const Word& word) {
     return word.endsWithStop && word.shape == Shape::Name &&
            !word.is(kPostfix | kParticle | kAnyTag | kCompanyEnding | kSubdivision);
 }
-
-}  // namespace
 
 std::uint32_t splitIntoWords(TextView text, Words& words) {
     words.clear();

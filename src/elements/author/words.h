@@ -81,6 +81,12 @@ Word wordOf(TextView text);
 /// then.
 bool isShouted(const Words& words);
 
+/// Whether the two letters stand for one sound of a name, which is one initial: "Yu", "Zh", "Ch".
+bool isDigraph(char16_t capital, char16_t small);
+
+/// "Smith, John. The" breaks after "John."; "St. John" and "J. Smith" do not break.
+bool breaksSentence(const Word& word);
+
 /// The text from one word's begin to another one's end.
 TextView textOf(const Word& first, const Word& last);
 

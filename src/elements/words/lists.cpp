@@ -87,9 +87,12 @@ constexpr WordList kWordLists[] = {
     {titlewords::kGivenName, authorwords::kFirstName,
 #include "elements/words/given_names.inc"
     },
-    // Families bear them, too, or particles look like them: in a list of persons they tell nothing of the order.
-    {titlewords::kGivenName, 0,
+    // Families bear them, too, or particles look like them: in a list of persons they tell little of the order.
+    {titlewords::kGivenName, authorwords::kSharedFirstName,
 #include "elements/words/given_names_in_last_names.inc"
+    },
+    {0, authorwords::kSharedFirstName,
+#include "elements/words/given_names_that_are_last_names.inc"
     },
     // In titles they mostly mean something else.
     {0, authorwords::kFirstName,
@@ -156,6 +159,9 @@ constexpr WordList kWordLists[] = {
     {0, authorwords::kParticle,
 #include "elements/words/particles.inc"
     },
+    {0, authorwords::kGivenLikeParticle,
+#include "elements/words/given_names_like_particles.inc"
+    },
     {0, authorwords::kLowerParticle,
 #include "elements/words/particles_in_lower_case_only.inc"
     },
@@ -204,6 +210,9 @@ constexpr WordList kWordLists[] = {
     },
     {0, authorwords::kCompanyEnding,
 #include "elements/words/company_endings.inc"
+    },
+    {0, authorwords::kJurisdiction,
+#include "elements/words/jurisdictions.inc"
     },
     {0, authorwords::kSubdivision,
 #include "elements/words/subdivisions.inc"
