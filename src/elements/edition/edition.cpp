@@ -55,6 +55,8 @@ void OutputTemplateEdition::Initialize(const OutputSinkRef& formattedStr) {
         page->Initialize(nullptr);
         replace(mPageTemplate, std::move(page));
         makeAssembly(formattedStr);
+        mFormat = stylecodes::kAma;
+        mAddEdToNumberedEdition = false;
         auto publisher = std::make_shared<OutputTemplatePublisher>();
         publisher->Initialize(formattedStr);
         replace(mPublisherTemplate, std::move(publisher));
