@@ -274,5 +274,31 @@ TEST_F(LateBinding, ArraysInAndOut) {
     }
 }
 
+TEST_F(LateBinding, ARecordReachesItsElementAndOutlivesIt) {
+    constexpr std::int32_t kPage = 7;
+    constexpr std::int32_t kEdition = 8;
+    Variant record;
+    {
+        const LateBoundObject page = library.build(kPage);
+        const LateBoundObject edition = library.build(kEdition);
+        edition.call(L"Reset", {1, page.dispatch()});
+        edition.call(L"Parse", {L"(Original work published 1925)"});
+        record = edition.get(L"EditionBookChapterYear");
+        const LateBoundObject values(objectOf(record));
+        EXPECT_EQ(textOf(values.get(L"Year")), L"1925");
+        values.put(L"Title", L"Manual");
+        values.put(L"Page", L"12-14");
+        // Another one is the same record.
+        const LateBoundObject again(objectOf(edition.get(L"EditionBookChapterYear")));
+        EXPECT_EQ(textOf(again.get(L"Title")), L"Manual");
+        EXPECT_EQ(textOf(edition.call(L"toString")), L"(Reprinted from Manual, pp. 12-14, 1925)");
+        // Any other object is no page element.
+        edition.call(L"Reset", {2, edition.dispatch()});
+        EXPECT_EQ(textOf(edition.call(L"toString")), L"Rpt. of Manual. 1925. 12-14");
+    }
+    EXPECT_EQ(textOf(LateBoundObject(objectOf(record)).get(L"Page")), L"12-14");
+    EXPECT_EQ(service.takenErrors(), L"");
+}
+
 }  // namespace
 }  // namespace comtests

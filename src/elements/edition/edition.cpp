@@ -55,6 +55,8 @@ void OutputTemplateEdition::Initialize(const OutputSinkRef& formattedStr) {
         page->Initialize(nullptr);
         replace(mPageTemplate, std::move(page));
         makeAssembly(formattedStr);
+        mFormat = stylecodes::kAma;
+        mAddEdToNumberedEdition = false;
         auto publisher = std::make_shared<OutputTemplatePublisher>();
         publisher->Initialize(formattedStr);
         replace(mPublisherTemplate, std::move(publisher));
@@ -140,11 +142,16 @@ void OutputTemplateEdition::Parse(Text& text, TextView previousStr) {
         mParsedNumberedOrNamedEdition.clear();
         mIsAsItStands = false;
         const TextView inside = reprinttext::withoutParentheses(text);
-        if (inside.size() < text.size() && isEdition(inside)) {
-            text = Text(inside);
+        std::int16_t type = getEditionType(inside);
+        if (inside.size() < text.size()) {
+            if (isEdition(inside, type)) {
+                text = Text(inside);
+            } else {
+                type = getEditionType(text);
+            }
         }
         const Text whole = text;
-        mEditionType = getEditionType(text);
+        mEditionType = type;
         switch (mEditionType) {
             case kReprint:
                 if (containsIgnoringCase(text, kTurabianMark)) {
@@ -251,14 +258,10 @@ bool OutputTemplateEdition::isYear(TextView text) {
     return isPlain || (reprinttext::looksLikeYear(year) && (!isDigit(year[0]) || held(mYearTemplate)->isYear(year)));
 }
 
-/// Whether a text in parentheses is an edition without them: "(6th ed.)", but not the end of a longer statement.
-bool OutputTemplateEdition::isEdition(TextView text) {
-    switch (getEditionType(text)) {
-        case kNumbered:
-        case kReprint: return true;
-        case kNamed: return endsWithEditionWord(split(text, u" "));
-        default: return false;
-    }
+/// Whether a text of this type is an edition that stood in parentheses: "(6th ed.)", but not the end of a longer
+/// statement.
+bool OutputTemplateEdition::isEdition(TextView text, std::int16_t type) const {
+    return type == kNumbered || type == kReprint || (type == kNamed && endsWithEditionWord(split(text, u" ")));
 }
 
 /// A facsimile of which the text tells the year of the first publication: "Facsim. ed. 1790".

@@ -128,7 +128,7 @@ private:
     std::int16_t getEditionType(TextView text);
     bool parseNumericEdition(TextView text);
     bool isYear(TextView text);
-    bool isEdition(TextView text);
+    bool isEdition(TextView text, std::int16_t type) const;
     void addChapterYear(Text& text);
     void forgetPublication();
     void keepAsItStands(TextView text);

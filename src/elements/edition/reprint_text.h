@@ -55,8 +55,8 @@ struct VolumeAndNumber {
 };
 VolumeAndNumber volumeAtEnd(TextView text);
 
-/// Where at the end of the text pages may stand: a locator's word ("pp. 12-14"), or what comes last behind a comma, colon
-/// or full stop. The text's end when there is nothing of the kind.
+/// Where at the end of the text pages may stand: a locator's word ("pp. 12-14"), or what comes last behind a comma,
+/// colon or full stop. The text's end when there is nothing of the kind.
 std::size_t beginOfPages(TextView text);
 
 /// A quotation at the beginning of the text, without its marks and its last full stop or comma.
