@@ -292,8 +292,11 @@ Text OutputTemplateMedium::digitalText() const {
 /// A year as the year element writes it, any other date as it stands.
 Text OutputTemplateMedium::dateText() const {
     const Text date = mValues.at(kDate);
+    if (date.empty() || isDigits(date)) {
+        return date;
+    }
     const auto year = held(mOutputTemplateYear);
-    return !date.empty() && year->isYear(date) ? year->formatStr(date) : date;
+    return year->isYear(date) ? year->formatStr(date) : date;
 }
 
 bool OutputTemplateMedium::offersMicroform() const {

@@ -181,8 +181,8 @@ private:
     std::vector<bool> checkedSlots(bool isFootnote) const override;
     bool fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
                    bool shortenedVersion) override;
-    void fill(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
-              const std::vector<bool>& offeredOfVolumes, const std::vector<bool>& offeredOfSeries);
+    void fill(bool isMultiVol, bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+              const std::vector<bool>& offered);
     void fillMultiVol(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
                       const std::vector<bool>& offered);
     void fillSeries(bool isFootnote, std::vector<Text>& items, const std::vector<bool>& offered);

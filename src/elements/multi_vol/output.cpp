@@ -33,7 +33,7 @@ public:
     bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
                                bool /*shortenedVersion*/) override {
         const std::vector<bool> everything(kMarker + 1, true);
-        mElement.fill(isFootnote, items, formattedItems, everything, everything);
+        mElement.fill(mElement.useMultiVol(), isFootnote, items, formattedItems, everything);
         return false;
     }
 
@@ -56,18 +56,20 @@ Text OutputTemplateMultiVol::toMergedString() {
 
 bool OutputTemplateMultiVol::fillSlots(bool isFootnote, std::vector<Text>& items,
                                        std::vector<OutputSinkRef>& formattedItems, bool /*shortenedVersion*/) {
-    // Copies: the host may give other options meanwhile.
-    fill(isFootnote, items, formattedItems, std::vector<bool>(mOptions.theSupportMultiVolumeOptions),
-         std::vector<bool>(mOptions.theSupportSeriesOptions));
+    // A copy: the host may give other options meanwhile.
+    const bool isMultiVol = useMultiVol();
+    const std::vector<bool> offered =
+        isMultiVol ? mOptions.theSupportMultiVolumeOptions : mOptions.theSupportSeriesOptions;
+    fill(isMultiVol, isFootnote, items, formattedItems, offered);
     return false;
 }
 
-void OutputTemplateMultiVol::fill(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
-                                  const std::vector<bool>& offeredOfVolumes, const std::vector<bool>& offeredOfSeries) {
-    if (useMultiVol()) {
-        fillMultiVol(isFootnote, items, formattedItems, offeredOfVolumes);
+void OutputTemplateMultiVol::fill(bool isMultiVol, bool isFootnote, std::vector<Text>& items,
+                                  std::vector<OutputSinkRef>& formattedItems, const std::vector<bool>& offered) {
+    if (isMultiVol) {
+        fillMultiVol(isFootnote, items, formattedItems, offered);
     } else {
-        fillSeries(isFootnote, items, offeredOfSeries);
+        fillSeries(isFootnote, items, offered);
     }
 }
 
