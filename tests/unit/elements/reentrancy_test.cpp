@@ -16,6 +16,7 @@
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
+#include "elements/refers_to/refers_to.h"
 #include "elements/title/title.h"
 #include "elements/year.h"
 #include "support/recording_model.h"
@@ -68,6 +69,19 @@ void resetTitle(OutputTemplateTitle& title) {
     author->Initialize(std::make_shared<RecordingSink>());
     author->Reset(test::apaAuthorOptions());
     title.Reset({2, author, false, true, u"books", true, u"parts", true, u"Introduction,Article"});
+}
+
+void resetRefersTo(OutputTemplateRefersTo& refersTo) {
+    const auto sink = std::make_shared<RecordingSink>();
+    RefersToOptions options;
+    options.authorTemplate = std::make_shared<OutputTemplateAuthor>();
+    options.authorTemplate->Initialize(sink);
+    options.authorTemplate->Reset(test::amaAuthorOptions());
+    options.pageTemplate = std::make_shared<OutputTemplatePage>();
+    options.pageTemplate->Initialize(sink);
+    options.publisherTemplate = std::make_shared<OutputTemplatePublisher>();
+    options.publisherTemplate->Initialize(sink);
+    refersTo.Reset(options);
 }
 
 /// The implementor of a host, which puts a fragment of its own in the place of the one that it gets.
@@ -198,6 +212,13 @@ const Case kCases[] = {
      u"pp. 112-15n3", u"chap. 4"},
     {"edition", [] { return elementOf<OutputTemplateEdition>(resetEdition); },
      u"Rpt. of \u201CChance.\u201D By A. Lee. Critical Inquiry 18.4 (1992): 625-884", u"(2nd ed.)"},
+    {"refers-to, a journal", [] { return elementOf<OutputTemplateRefersTo>(resetRefersTo); },
+     u"abstract of Lee K, Roe B. A title. N Engl J Med. 2004;291(20):2432-2440", u"[abstract]"},
+    {"refers-to, a reprint", [] { return elementOf<OutputTemplateRefersTo>(resetRefersTo); },
+     u"1984. Rpt. in Essays. Ed. Ann Lee. Vol. 2. Oxford: Oxford UP, 1990. 118-27",
+     u"52.4 (1981): 688-705; 53.1 (1981): 164-80"},
+    {"refers-to, a series", [] { return elementOf<OutputTemplateRefersTo>(resetRefersTo); },
+     u"Pt. 2 of a series, Diseases on the Brink, begun 25 June 2006", u"Trans. Jane Smith"},
     {"keywords", [] { return elementOf<OutputTemplateKeywords>([](auto& keywords) { keywords.Reset(); }); },
      u"zebra, the cat and dogs", u"apple"},
     {"year",
