@@ -3,26 +3,28 @@
 #include <benchmark/benchmark.h>
 
 #include "null_sink.h"
-#include "support/style_file.h"
 #include "support/style_presets.h"
 
 namespace quorvel::bench {
 namespace {
 
-std::shared_ptr<OutputTemplateRefersTo> elementOf(std::string_view style,
-                                                  const OutputTemplateAuthor::Options& authors) {
-    const test::StyleFile& file = test::StyleFile::of(style);
+/// A style with its own elements, of which this one keeps copies.
+std::shared_ptr<OutputTemplateRefersTo> elementOf(bool isMla) {
     const auto sink = std::make_shared<NullSink>();
-    auto options = file.options<RefersToOptions>("refers-to", kRefersToOptions);
+    RefersToOptions options;
+    options.useSer = options.useTrans = options.endsEditionWithEd = isMla;
+    options.format = isMla ? stylecodes::kMla : stylecodes::kAma;
     options.authorTemplate = std::make_shared<OutputTemplateAuthor>();
     options.authorTemplate->Initialize(sink);
-    options.authorTemplate->Reset(authors);
+    options.authorTemplate->Reset(isMla ? test::mlaAuthorOptions() : test::amaAuthorOptions());
     options.pageTemplate = std::make_shared<OutputTemplatePage>();
     options.pageTemplate->Initialize(sink);
-    options.pageTemplate->Reset(file.options<PageOptions>("page", kPageOptions));
+    PageOptions pages;
+    pages.shortenedPage = isMla;
+    options.pageTemplate->Reset(pages);
     options.publisherTemplate = std::make_shared<OutputTemplatePublisher>();
     options.publisherTemplate->Initialize(sink);
-    options.publisherTemplate->Reset(file.options<PublisherOptions>("publisher", kPublisherOptions));
+    options.publisherTemplate->Reset({isMla, isMla, false, isMla, isMla});
     auto element = std::make_shared<OutputTemplateRefersTo>();
     element->Initialize(sink);
     element->Reset(options);
@@ -37,8 +39,7 @@ void parseAndWrite(OutputTemplateRefersTo& element, const std::shared_ptr<NullSi
 }
 
 void parseAndFormatRefersTo(benchmark::State& state, bool isMla, TextView statement) {
-    const auto element =
-        isMla ? elementOf("mla", test::mlaAuthorOptions()) : elementOf("ama", test::amaAuthorOptions());
+    const auto element = elementOf(isMla);
     const auto sink = std::make_shared<NullSink>();
     for (auto _ : state) {
         parseAndWrite(*element, sink, statement);
@@ -58,7 +59,7 @@ BENCHMARK_CAPTURE(parseAndFormatRefersTo, abstract, false, u"[abstract]");
 
 /// The time for each character stays the same when the growth is linear.
 void refersToPerCharacter(benchmark::State& state, TextView lead) {
-    const auto element = elementOf("mla", test::mlaAuthorOptions());
+    const auto element = elementOf(true);
     const auto sink = std::make_shared<NullSink>();
     const auto length = static_cast<std::size_t>(state.range(0));
     Text text(lead);
