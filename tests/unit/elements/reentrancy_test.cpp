@@ -16,12 +16,12 @@
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
-#include "elements/refers_to/refers_to.h"
 #include "elements/title/title.h"
 #include "elements/year.h"
 #include "support/recording_model.h"
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
+#include "support/refers_to_preset.h"
 #include "support/style_presets.h"
 
 // What is gone while somebody still works with it shows under a sanitizer only; without one these tests
@@ -72,16 +72,7 @@ void resetTitle(OutputTemplateTitle& title) {
 }
 
 void resetRefersTo(OutputTemplateRefersTo& refersTo) {
-    const auto sink = std::make_shared<RecordingSink>();
-    RefersToOptions options;
-    options.authorTemplate = std::make_shared<OutputTemplateAuthor>();
-    options.authorTemplate->Initialize(sink);
-    options.authorTemplate->Reset(test::amaAuthorOptions());
-    options.pageTemplate = std::make_shared<OutputTemplatePage>();
-    options.pageTemplate->Initialize(sink);
-    options.publisherTemplate = std::make_shared<OutputTemplatePublisher>();
-    options.publisherTemplate->Initialize(sink);
-    refersTo.Reset(options);
+    refersTo.Reset(test::refersToOptions("mla", std::make_shared<RecordingSink>()));
 }
 
 /// The implementor of a host, which puts a fragment of its own in the place of the one that it gets.
@@ -215,8 +206,7 @@ const Case kCases[] = {
     {"refers-to, a journal", [] { return elementOf<OutputTemplateRefersTo>(resetRefersTo); },
      u"abstract of Lee K, Roe B. A title. N Engl J Med. 2004;291(20):2432-2440", u"[abstract]"},
     {"refers-to, a reprint", [] { return elementOf<OutputTemplateRefersTo>(resetRefersTo); },
-     u"1984. Rpt. in Essays. Ed. Ann Lee. Vol. 2. Oxford: Oxford UP, 1990. 118-27",
-     u"Trans. Jane Smith"},
+     u"1984. Rpt. in Essays. Ed. Ann Lee. Vol. 2. Oxford: Oxford UP, 1990. 118-27", u"Trans. Jane Smith"},
     {"keywords", [] { return elementOf<OutputTemplateKeywords>([](auto& keywords) { keywords.Reset(); }); },
      u"zebra, the cat and dogs", u"apple"},
     {"year",

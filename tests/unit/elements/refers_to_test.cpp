@@ -6,9 +6,8 @@
 
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
+#include "support/refers_to_preset.h"
 #include "support/shown.h"
-#include "support/style_file.h"
-#include "support/style_presets.h"
 
 namespace quorvel {
 namespace {
@@ -17,23 +16,11 @@ using RefersTo = OutputTemplateRefersTo;
 
 enum Style : std::size_t { kMla, kApa, kTurabian, kAma };
 
-/// The options of the sample host's style, with the style's own elements.
 const RefersToOptions& optionsOf(std::size_t style) {
     static std::map<std::size_t, RefersToOptions> made;
     RefersToOptions& options = made[style];
     if (!options.authorTemplate) {
-        const test::StyleFile& file = test::StyleFile::of(test::kStyles[style]);
-        const auto sink = std::make_shared<RecordingSink>();
-        options = file.options<RefersToOptions>("refers-to", kRefersToOptions);
-        options.authorTemplate = std::make_shared<OutputTemplateAuthor>();
-        options.authorTemplate->Initialize(sink);
-        options.authorTemplate->Reset(test::authorPresets()[style].options);
-        options.pageTemplate = std::make_shared<OutputTemplatePage>();
-        options.pageTemplate->Initialize(sink);
-        options.pageTemplate->Reset(file.options<PageOptions>("page", kPageOptions));
-        options.publisherTemplate = std::make_shared<OutputTemplatePublisher>();
-        options.publisherTemplate->Initialize(sink);
-        options.publisherTemplate->Reset(file.options<PublisherOptions>("publisher", kPublisherOptions));
+        options = test::refersToOptions(test::kStyles[style], std::make_shared<RecordingSink>());
     }
     return options;
 }
