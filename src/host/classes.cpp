@@ -18,6 +18,7 @@
 #include "host/adapters/page_adapter.h"
 #include "host/adapters/place_adapter.h"
 #include "host/adapters/publisher_adapter.h"
+#include "host/adapters/refers_to_adapter.h"
 #include "host/adapters/title_adapter.h"
 #include "host/adapters/year_adapter.h"
 #include "host/interfaces.h"
@@ -52,6 +53,7 @@ const LibraryClass kClasses[] = {
     {&CLSID_OutputTemplateEdition, {8, kNone, kNone}, make<EditionAdapter>},
     {&CLSID_OutputTemplateMultiVol, {10, kNone, kNone}, make<MultiVolAdapter>},
     {nullptr, {11, kNone, kNone}, make<IssueAdapter>},
+    {&CLSID_OutputTemplateRefersTo, {12, kNone, kNone}, make<RefersToAdapter>},
     {&CLSID_OutputTemplateOnline, {13, kNone, kNone}, make<OnlineAdapter>},
     {&CLSID_OutputTemplateKeywords, {14, kNone, kNone}, make<KeywordsAdapter>},
     {&CLSID_OutputTemplatePlace, {15, kNone, kNone}, make<PlaceAdapter>},

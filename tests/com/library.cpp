@@ -25,6 +25,7 @@ const std::vector<CreatableClass> kClasses = {
     {L"OutputTemplateYear", __uuidof(::OutputTemplateYear), __uuidof(_OutputTemplateYear), {kYear}},
     {L"OutputTemplatePage", __uuidof(::OutputTemplatePage), __uuidof(_OutputTemplatePage), {7}},
     {L"OutputTemplateEdition", __uuidof(::OutputTemplateEdition), __uuidof(_OutputTemplateEdition), {8}},
+    {L"OutputTemplateRefersTo", __uuidof(::OutputTemplateRefersTo), __uuidof(_OutputTemplateRefersTo), {12}},
     {L"OutputTemplateOnline", __uuidof(::OutputTemplateOnline), __uuidof(_OutputTemplateOnline), {13}},
     {L"OutputTemplateKeywords", __uuidof(::OutputTemplateKeywords), __uuidof(_OutputTemplateKeywords), {14}},
     {L"OutputTemplateMultiVol", __uuidof(::OutputTemplateMultiVol), __uuidof(_OutputTemplateMultiVol), {10}},

@@ -21,6 +21,7 @@
 #include "support/recording_model.h"
 #include "support/recording_service.h"
 #include "support/recording_sink.h"
+#include "support/refers_to_preset.h"
 #include "support/style_presets.h"
 
 // What is gone while somebody still works with it shows under a sanitizer only; without one these tests
@@ -68,6 +69,10 @@ void resetTitle(OutputTemplateTitle& title) {
     author->Initialize(std::make_shared<RecordingSink>());
     author->Reset(test::apaAuthorOptions());
     title.Reset({2, author, false, true, u"books", true, u"parts", true, u"Introduction,Article"});
+}
+
+void resetRefersTo(OutputTemplateRefersTo& refersTo) {
+    refersTo.Reset(test::refersToOptions("mla", std::make_shared<RecordingSink>()));
 }
 
 /// The implementor of a host, which puts a fragment of its own in the place of the one that it gets.
@@ -198,6 +203,10 @@ const Case kCases[] = {
      u"pp. 112-15n3", u"chap. 4"},
     {"edition", [] { return elementOf<OutputTemplateEdition>(resetEdition); },
      u"Rpt. of \u201CChance.\u201D By A. Lee. Critical Inquiry 18.4 (1992): 625-884", u"(2nd ed.)"},
+    {"refers-to, a journal", [] { return elementOf<OutputTemplateRefersTo>(resetRefersTo); },
+     u"abstract of Lee K, Roe B. A title. N Engl J Med. 2004;291(20):2432-2440", u"[abstract]"},
+    {"refers-to, a reprint", [] { return elementOf<OutputTemplateRefersTo>(resetRefersTo); },
+     u"1984. Rpt. in Essays. Ed. Ann Lee. Vol. 2. Oxford: Oxford UP, 1990. 118-27", u"Trans. Jane Smith"},
     {"keywords", [] { return elementOf<OutputTemplateKeywords>([](auto& keywords) { keywords.Reset(); }); },
      u"zebra, the cat and dogs", u"apple"},
     {"year",
