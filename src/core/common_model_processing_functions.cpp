@@ -129,13 +129,25 @@ Text removeDoublePeriods(TextView phrase, TextView separator, bool& removeQuoteF
                 // Nothing moves in front of a blank either, where moving the mark would change nothing.
                 return removeDoublePeriodsOnly(phrase, separator);
             }
-            const bool quotationHasItsOwnEnd = endsWithSentencePunctuation(phrase.substr(0, phrase.size() - 1));
+            const std::size_t marks = closesTwoQuotations(phrase) ? 2 : 1;
+            const bool quotationHasItsOwnEnd = endsWithSentencePunctuation(phrase.substr(0, phrase.size() - marks));
             if (quotationHasItsOwnEnd && separator.starts_with(u'.')) {
                 return Text(separator.substr(1));
             }
             removeQuoteFromPreviousPhrase = true;
             return concatenate({separator.substr(0, 1), TextView(&kRightDoubleQuotationMark, 1), separator.substr(1)});
         });
+}
+
+bool closesTwoQuotations(TextView phrase) {
+    if (phrase.size() < 2 || !isClosingQuotationMark(phrase.back())) {
+        return false;
+    }
+    const TextView inside = phrase.substr(0, phrase.size() - 1);
+    // The last single mark but one opens, or the last is an apostrophe.
+    const std::size_t mark = inside.substr(0, inside.size() - 1).find_last_of(u"\u2018\u2019");
+    return inside.back() == kRightSingleQuotationMark && mark != TextView::npos &&
+           inside[mark] == kLeftSingleQuotationMark;
 }
 
 bool isPunctuation(TextView text) {

@@ -33,6 +33,9 @@ Text removeDoublePeriods(TextView phrase, TextView separator, bool& removeQuoteF
 /// The part of `removeDoublePeriods` that leaves quotation marks alone.
 Text removeDoublePeriodsOnly(TextView phrase, TextView separator);
 
+/// Whether a phrase ends in the closing marks of a quotation inside a quotation: "What ‘Is’ Is ‘Is’”".
+bool closesTwoQuotations(TextView phrase);
+
 /// True when the text begins with "!", "." or "?". No other character counts.
 bool isPunctuation(TextView text);
 

@@ -31,6 +31,12 @@ std::int16_t upperBound(const std::vector<Text>& array) {
     return static_cast<std::int16_t>(std::min<std::size_t>(array.size(), INT16_MAX) - 1);
 }
 
+/// Takes the closing mark of the inner quotation off as well, where the host's sink knows that mark.
+bool removesSingleMark(OutputSink& sink) {
+    sink.removeQuoteFromLastPhrase();
+    return !sink.toString().ends_with(kRightSingleQuotationMark);
+}
+
 /// The separator list of a slot as one line of a dump.
 Text summary(const std::shared_ptr<const std::vector<Text>>& list) {
     return list ? join(*list, u"|") : Text();
@@ -248,6 +254,9 @@ void outputTemplate::addSeparator(const std::vector<Text>& list, std::int16_t i,
             std::int16_t font = separatorFont;
             if (removeQuote && separatorFont == OutputSink::kPlain) {
                 const std::int16_t phraseFont = sink.removeQuoteFromLastPhrase();
+                if (CommonModelProcessingFunctions::closesTwoQuotations(phrase) && removesSingleMark(sink)) {
+                    separator.insert(separator.find(kClosingMark), 1, kRightSingleQuotationMark);
+                }
                 if (phraseFont != OutputSink::kPlain) {
                     // The mark keeps the font of the phrase that it closes.
                     const std::size_t behindMark = separator.find(kClosingMark) + kClosingMark.size();

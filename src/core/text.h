@@ -18,6 +18,8 @@ using TextView = std::u16string_view;
 inline constexpr char16_t kEnDash = u'\u2013';
 inline constexpr char16_t kLeftDoubleQuotationMark = u'\u201C';
 inline constexpr char16_t kRightDoubleQuotationMark = u'\u201D';
+inline constexpr char16_t kLeftSingleQuotationMark = u'\u2018';
+inline constexpr char16_t kRightSingleQuotationMark = u'\u2019';
 
 /// The only digits that references are numbered with.
 inline constexpr TextView kDigits = u"0123456789";

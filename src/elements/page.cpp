@@ -48,8 +48,9 @@ constexpr TextView kNotePrefix = u"n";
 constexpr TextView kNotesPrefix = u"nn";
 constexpr TextView kSignsOfSeveralNotes = u"-,&";
 
-// A range shorter than this is written in full, and a shortened one is not expanded.
+// A range shorter than the first is written in full; one that is shortened all the same is expanded: "31-2".
 constexpr std::size_t kShortestShortened = 3;
+constexpr std::size_t kShortestExpanded = 2;
 
 // The years in which the works that are cited have been printed.
 constexpr TextView kFirstYear = u"1400";
@@ -62,7 +63,7 @@ constexpr TextView kSignsBetween = u" ,:;";
 
 /// The last page of a range in full: "328" for "321-28". What is not shortened stays.
 Text lastPageInFull(TextView first, TextView last) {
-    const bool mayBeShortened = first.size() >= kShortestShortened && last.size() < first.size() &&
+    const bool mayBeShortened = first.size() >= kShortestExpanded && last.size() < first.size() &&
                                 pagewords::isNumeric(first) && consistsOf(last, kDigits);
     if (mayBeShortened) {
         Text full = concatenate({first.substr(0, first.size() - last.size()), last});

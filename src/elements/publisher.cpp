@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/common_testing_functions.h"
 #include "core/procedure.h"
 
 namespace quorvel {
@@ -27,6 +28,7 @@ constexpr TextView kPublisherUnknown = u"Publisher unknown";
 constexpr TextView kNoPublisher = u"n.p.";
 constexpr TextView kInPreparationText = u"Manuscript in preparation";
 constexpr TextView kSubmittedText = u"Manuscript submitted for publication";
+constexpr TextView kForthcoming = u"forthcoming";
 constexpr TextView kAuthorText = u"Author";
 
 struct SpecialText {
@@ -40,7 +42,7 @@ constexpr SpecialText kSpecialTexts[] = {
     {u"by the author", OutputTemplatePublisher::kAuthor},
     {kInPreparationText, OutputTemplatePublisher::kInPreparation},
     {kSubmittedText, OutputTemplatePublisher::kSubmitted},
-    {u"forthcoming", OutputTemplatePublisher::kSubmitted},
+    {kForthcoming, OutputTemplatePublisher::kSubmitted},
     {kPublisherUnknown, OutputTemplatePublisher::kUnknown},
     {kNoPublisher, OutputTemplatePublisher::kUnknown},
     {u"N.p.", OutputTemplatePublisher::kUnknown},
@@ -58,7 +60,7 @@ constexpr Shortening kShortenings[] = {
     {u"Press", u"P"},
 };
 
-// A name is a shortened one when it has one of these words; "P" alone may be an initial.
+// A name is a shortened one when it has one of these words; "P" inside it may be an initial.
 constexpr TextView kSignsOfShortening[] = {u"U", u"UP"};
 constexpr TextView kEndsOfWords = u" -;:";
 
@@ -77,6 +79,17 @@ bool isShortened(TextView text) {
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return false;
+}
+
+/// "MIT P", but not "J. P": a last "P" behind a word that is no initial is a press.
+bool endsInPress(TextView name) {
+    constexpr TextView kPress = u" P";
+    if (!endsWith(name, kPress)) {
+        return false;
+    }
+    name.remove_suffix(kPress.size());
+    const TextView word = name.substr(name.find_last_of(u' ') + 1);
+    return !word.empty() && word.back() != u',' && !CommonTestingFunctions::isInitial(word);
 }
 
 /// What stands behind the first separator; empty when there is none.
@@ -176,7 +189,13 @@ void OutputTemplatePublisher::Parse(Text& text, TextView previousStr) {
         CoPublisher({});
         copublisherPlace.clear();
         text = cleanUp(text);
+        const Text given = text;
         parseAndRemovePublisherType(text);
+        if (PublisherType == kSubmitted && !previousStr.empty() && given == kForthcoming) {
+            // The reference has a year: the word tells of it and is no publisher of a kind of its own.
+            PublisherType = kNamed;
+            text = given;
+        }
         if (isSpecial()) {
             publisher({});
             return;
@@ -185,12 +204,13 @@ void OutputTemplatePublisher::Parse(Text& text, TextView previousStr) {
         parseAndRemoveCopublisher(text);
         parseAndRemoveImprint(text);
         publisher(text);
-        if (wasShortened) {
-            // Another style may want the names in full.
-            publisher(targetedExpansion(publisher()));
-            Imprint(targetedExpansion(Imprint()));
-            CoPublisher(targetedExpansion(CoPublisher()));
-        }
+        // Another style may want the names in full.
+        const auto inFull = [&](Text name) {
+            return wasShortened || endsInPress(name) ? targetedExpansion(name) : name;
+        };
+        publisher(inFull(publisher()));
+        Imprint(inFull(Imprint()));
+        CoPublisher(inFull(CoPublisher()));
     });
 }
 

@@ -91,9 +91,10 @@ public:
     void CoPublisher(TextView theVal);
 
     /// Reads the publisher out of a finished reference's text. Where the text has the word "U" or "UP",
-    /// "U", "P" and "UP" are read as "University", "Press" and "University Press".
+    /// "U", "P" and "UP" are read as "University", "Press" and "University Press"; so is a last "P" behind a word
+    /// that is no initial: "MIT P", but not "J. P".
     /// @param text loses what is not the publisher's own name
-    /// @param previousStr not used
+    /// @param previousStr the year of the reference, where the caller has one: "forthcoming" is then no special kind
     void Parse(Text& text, TextView previousStr);
 
     TextView className() const override { return u"OutputTemplatePublisher"; }

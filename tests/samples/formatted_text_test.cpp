@@ -62,6 +62,7 @@ TEST(FormattedText, RemovesTheQuotationMarkThatEndsTheText) {
         {{{L"\"Song\"", kItalic | kBold}}, kItalic | kBold, L"\"Song"},
         {{{L"Song", kItalic}}, 0, L"Song"},
         {{{L"“Song”", kItalic}, {L".", kPlain}}, 0, L"“Song”."},
+        {{{L"“A ‘Song’", kItalic}}, kItalic, L"“A ‘Song"},
     };
     for (const QuoteCase& sample : cases) {
         const auto text = makeObject<FormattedText>();

@@ -6,8 +6,7 @@ namespace sample {
 
 namespace {
 
-constexpr wchar_t kRightDoubleQuotationMark = L'\u201D';
-constexpr wchar_t kStraightQuotationMark = L'"';
+constexpr std::wstring_view kClosingMarks = L"\u201D\u2019\"";
 
 void appendFragment(FormattedText& text, const ComPointer<IDispatch>& fragment) {
     if (const auto* own = dynamic_cast<FormattedText*>(DispatchObject::behind(fragment.get()))) {
@@ -135,7 +134,7 @@ std::int16_t FormattedText::removeQuoteFromLastPhrase() {
     if (mPhrases.empty()) return kPlain;
     Phrase& last = mPhrases.back();
     const wchar_t end = last.text.back();
-    if (end != kRightDoubleQuotationMark && end != kStraightQuotationMark) return kPlain;
+    if (kClosingMarks.find(end) == std::wstring_view::npos) return kPlain;
     const auto font = static_cast<std::int16_t>(last.font);
     last.text.pop_back();
     if (last.text.empty()) mPhrases.pop_back();

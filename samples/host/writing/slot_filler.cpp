@@ -7,6 +7,7 @@ namespace sample {
 
 namespace {
 
+constexpr std::int16_t kPublisherElement = 5;
 constexpr std::int16_t kPlaceElement = 15;
 constexpr std::wstring_view kQuotationMarks = L"\u201D\u2019\"'";
 
@@ -116,7 +117,10 @@ void SlotFiller::parse(const PreparedSource& filling, bool isFootnote) const {
     const SlotSource& source = *filling.source;
     // The text goes by reference: the element takes out of it what it has understood.
     Variant remaining(fieldText(*source.field, isFootnote));
-    filling.element->parse({Variant::byReference(remaining.get().bstrVal), source.secondaryText});
+    // The publisher is told the year, beside which "forthcoming" is none.
+    const bool isPublisher = source.field->elementCode == kPublisherElement;
+    const std::wstring& secondaryText = isPublisher ? mReference->text(L"year") : source.secondaryText;
+    filling.element->parse({Variant::byReference(remaining.get().bstrVal), secondaryText});
     if (!source.field->role) return;
     if (source.withRole) {
         filling.element->object.put(L"Anthologies", true, {*source.field->role});

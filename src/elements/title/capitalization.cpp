@@ -52,7 +52,7 @@ Text OutputTemplateTitle::inStyle(TitleText& title) const {
         return result;
     }
     if (!inForce.isHeading && !titlecase::standsInHeadingCase(title)) {
-        titlecase::applySubtitle(result, title, inForce.capitalizeSubtitle);
+        titlecase::applyBeginnings(result, title, inForce.capitalizeSubtitle);
     } else {
         for (std::size_t i = 0; i < title.words.size();) {
             const std::span<Word> piece = title.pieceFrom(i);

@@ -10,6 +10,10 @@ namespace {
 using words::Known;
 using words::Lexicon;
 
+bool isOpeningMark(char16_t unit) {
+    return unit == u'(' || unit == u'[' || unit == u'"' || unit == kLeftDoubleQuotationMark || unit == u'\u2018';
+}
+
 /// Sets the letters of a piece as a heading has them.
 class HeadingCase {
 public:
@@ -36,14 +40,20 @@ private:
             hasCase = hasOwnCase(slice(mTitle.text, first));
             isSlash = mTitle.text[first.end] == u'/';
         }
+        if (isSlash && isUnit(index)) {
+            return;
+        }
         if (!hasCase) {
             const char16_t letter = mTitle.text[first.begin];
             const bool isLetter = first.end - first.begin == 1;
-            const bool isGreek = isLetter && letter >= 0x370 && letter < 0x400;
+            const bool isGreek = isGreekLetter(slice(mTitle.text, first));
+            // "Dreams (An Interpretation)": what is set off may begin with a capital of its own.
+            const bool isSetOff =
+                word.core.begin > 0 && isCapital(letter) && isOpeningMark(mTitle.text[first.begin - 1]);
             // One test is on the word as it stands, deliberately: a capital "A" is no article.
             const bool isSmall =
                 known.is(titlewords::kSmallWord) && !(isLetter && letter == u'A') && (!word.isCompound || isSlash);
-            const bool isLowered = isSmall && !isFirst && !word.isLast;
+            const bool isLowered = isSmall && !isFirst && !word.isLast && !isSetOff;
             // "e-learning", "t-test": the letter stays, the word behind it is capitalised.
             const bool isPrefix = word.isCompound && isLetter && letter != u'a';
             // "p Values", "Student's t"; "ca. 1500".
@@ -61,6 +71,13 @@ private:
         }
     }
 
+    /// "56Gb/s", "10 km/h", "1/f".
+    bool isUnit(std::size_t index) const {
+        const Word& word = mWords[index];
+        return isDigit(mTitle.text[word.core.begin]) ||
+               (index > 0 && word.isJoined && isDigit(mTitle.text[mWords[index - 1].core.end - 1]));
+    }
+
     /// The parts of a hyphenated word behind the first.
     void writeOtherParts(bool isLastOfTitle) {
         for (std::size_t p = 1; p < mParts.size(); ++p) {
@@ -70,8 +87,10 @@ private:
             }
             // "co-operation": the hyphen only keeps the vowels apart.
             const bool isOneWord = mTitle.lower(mParts.front()) == u"co" && startsWith(mTitle.lower(part), u"op");
+            // "Back-Off", "Opting-Out": nothing follows for which it could be a preposition.
+            const bool isAdverb = p + 1 == mParts.size() && mTitle.text[part.begin - 1] != u'/';
             const bool isLast = isLastOfTitle && p + 1 == mParts.size();
-            if (isOneWord || (mTitle.find(part).is(titlewords::kSmallWord) && !isLast)) {
+            if (isOneWord || (mTitle.find(part).is(titlewords::kSmallWord) && !isLast && !isAdverb)) {
                 lowerAt(mText, part.begin);
             } else {
                 capitalizeAt(mText, part.begin);
@@ -177,7 +196,7 @@ CasedTitle casedTitle(TextView title, const Rules& rules) {
     result.text = title;
     TitleText read = readTitle(title);
     if (!rules.isHeading && !standsInHeadingCase(read)) {
-        applySubtitle(result.text, read, rules.capitalizeSubtitle);
+        applyBeginnings(result.text, read, rules.capitalizeSubtitle);
     } else {
         for (std::size_t i = 0; i < read.words.size();) {
             const std::span<Word> piece = read.pieceFrom(i);

@@ -30,7 +30,7 @@ struct CasedTitle {
 };
 
 /// The title as the rules write it. Sentence case changes only a title that stands in heading case: one in
-/// sentence case shows itself what its names are, and changes only where a subtitle begins.
+/// sentence case shows itself what its names are, and changes only where it and a subtitle begin.
 CasedTitle casedTitle(TextView title, const Rules& rules);
 
 /// Whether most of the words that a heading capitalises and a sentence does not have a capital.

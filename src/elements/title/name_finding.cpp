@@ -256,6 +256,9 @@ private:
             isCompass(i)) {
             return true;
         }
+        if (isFormula(i)) {
+            return true;
+        }
         if (hasNeighbour(i)) {
             const Word& previous = mWords[i - 1];
             if ((previous.known.is(kGivenName) || isInitial(i - 1)) && !endsAsNoun(lowered)) {
@@ -267,6 +270,13 @@ private:
         }
         return isBehindOf(i) || isTown(i) || isPartner(i) ||
                (current.isPossessive() && !current.isCompound && isPossessiveOfName(i));
+    }
+
+    /// "Si" in "Si (111)": an element and one of its planes.
+    bool isFormula(std::size_t i) const {
+        constexpr std::size_t kLongest = 2;
+        const TextView behind = TextView(mTitle.text).substr(mWords[i].core.end);
+        return word(i).size() <= kLongest && startsWith(behind, u" (") && behind.size() > 2 && isDigit(behind[2]);
     }
 
     /// "Mark" in "Mark Twain" and "Grace M. Hopper".

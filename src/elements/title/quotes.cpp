@@ -6,9 +6,6 @@ namespace quorvel::titlequotes {
 
 namespace {
 
-constexpr char16_t kLeftSingleQuotationMark = u'\u2018';
-constexpr char16_t kRightSingleQuotationMark = u'\u2019';
-
 bool isLetterOrDigitAt(TextView text, std::size_t at) {
     return at < text.size() && (isCasedLetter(text[at]) || isDigit(text[at]));
 }

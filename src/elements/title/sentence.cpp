@@ -29,9 +29,26 @@ public:
         }
     }
 
-    /// Of a title that stands in sentence case.
+    /// The first word of a title that stands in sentence case. "k-means" stays, but "e-learning" gets its capital.
+    void runFirstWordOfTitle() {
+        constexpr TextView kLettersOfWords = u"aex";
+        const Word& current = mWords.front();
+        if (!current.isCompound) {
+            capitalizeFirst(current.core);
+            return;
+        }
+        splitWord(mTitle.text, current.core, mParts);
+        const TextView first = slice(mTitle.text, mParts.front());
+        if (first.size() > 1 || contains(kLettersOfWords, first)) {
+            capitalizeFirst(mParts.front());
+        }
+    }
+
+    /// The first word of its subtitle.
     void runFirstWord(bool isCapitalized) {
-        findNames(mTitle, mWords, false);
+        if (!isCapitalized || mWords.front().isCompound) {
+            findNames(mTitle, mWords, false);
+        }
         write(mWords.front(), isCapitalized);
     }
 
@@ -40,12 +57,17 @@ private:
         if (current.isCompound) {
             writeParts(current, isCapitalized);
         } else if (isCapitalized) {
-            // "edgeR", "mRNA" and "p53" stay.
-            if (!current.hasOwnCase) {
-                capitalizeAt(mText, current.core.begin);
-            }
+            capitalizeFirst(current.core);
         } else if (!current.isKept && !current.isLower && !hasOwnCase(slice(mTitle.text, current.name))) {
             lowerAt(mText, current.core.begin);
+        }
+    }
+
+    /// "edgeR", "mRNA", "p53" and a Greek letter stay.
+    void capitalizeFirst(Range word) {
+        const TextView written = slice(mTitle.text, word);
+        if (!hasOwnCase(written) && !isGreekLetter(written)) {
+            capitalizeAt(mText, word.begin);
         }
     }
 
@@ -62,9 +84,7 @@ private:
             const Range part = mParts[p];
             const bool hasCase = hasOwnCase(slice(mTitle.text, part));
             if (p == 0 && isCapitalized) {
-                if (!hasCase) {
-                    capitalizeAt(mText, part.begin);
-                }
+                capitalizeFirst(part);
             } else if (!hasCase && !areNames && !(current.isKept && (p == 0 || canBePartOfName(p))) &&
                        !isPartKept(part, knownPart(p), p + 1 == mParts.size())) {
                 lowerAt(mText, part.begin);
@@ -112,10 +132,12 @@ private:
 
 }  // namespace
 
-void applySubtitle(Text& text, TitleText& title, bool capitalizeSubtitle) {
+void applyBeginnings(Text& text, TitleText& title, bool capitalizeSubtitle) {
     for (std::size_t i = 0; i < title.words.size();) {
         const std::span<Word> piece = title.pieceFrom(i);
-        if (i > 0 && piece.front().beginsSubtitle) {
+        if (i == 0) {
+            SentenceCase(text, title, piece).runFirstWordOfTitle();
+        } else if (piece.front().beginsSubtitle) {
             SentenceCase(text, title, piece).runFirstWord(capitalizeSubtitle);
         }
         i += piece.size();

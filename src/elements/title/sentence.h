@@ -14,8 +14,8 @@ namespace quorvel::titlecase {
 void applySentence(Text& text, const TitleText& title, std::span<Word> piece, bool capitalizeFirstWord,
                    bool capitalizeSubtitle);
 
-/// Of a title that stands in sentence case only the first word of each subtitle, which styles differ about: a capital,
-/// or a small letter but for a name.
-void applySubtitle(Text& text, TitleText& title, bool capitalizeSubtitle);
+/// Of a title that stands in sentence case only its first word, which gets a capital, and that of each subtitle, which
+/// styles differ about: a capital, or a small letter but for a name.
+void applyBeginnings(Text& text, TitleText& title, bool capitalizeSubtitle);
 
 }  // namespace quorvel::titlecase

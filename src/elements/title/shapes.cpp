@@ -15,6 +15,8 @@ namespace {
 constexpr TextView kNounEndings[] = {u"ing", u"tion", u"tions", u"ment", u"ments", u"ness", u"ology", u"ity", u"ism"};
 constexpr TextView kAgentEndings[] = {u"er", u"or", u"ist", u"ian", u"ing", u"ess", u"tion", u"ent", u"ant"};
 constexpr TextView kAdjectiveEndings[] = {u"an", u"sh", u"ch", u"ese", u"ic"};
+constexpr TextView kQualityEndings[] = {u"al",  u"ic",   u"ive",  u"ous",  u"ary",
+                                        u"ful", u"less", u"able", u"ible", u"ish"};
 constexpr TextView kEpithetEndings[] = {u"us", u"um", u"is", u"a", u"ae", u"ii", u"ensis", u"oides", u"ense", u"ans"};
 constexpr TextView kDerivedEndings[] = {u"ed",  u"ing", u"able", u"ation", u"en",  u"al",
                                         u"ive", u"ic",  u"ly",   u"ance",  u"ence"};
@@ -25,6 +27,8 @@ constexpr TextView kPeopleDerivations[] = {u"ization", u"ized", u"izing", u"isat
 
 // "Victorian", "Guatemalan", "Japanese", but not "librarian" and "hypotheses".
 constexpr TextView kPeopleEndings[] = {u"ian", u"ean", u"ese"};
+// The shortest stem in front of the ending of a quality: not "live".
+constexpr std::size_t kShortestStem = 3;
 constexpr TextView kCommonEndings[] = {u"ician", u"arian", u"cean", u"these", u"enese", u"egese", u"phorese"};
 
 // Families and orders: "Asteraceae", "Felidae", "Passeriformes".
@@ -133,6 +137,11 @@ bool endsAsAgent(TextView lowered) {
 }
 bool endsAsAdjective(TextView lowered) {
     return endsWithAny(lowered, kAdjectiveEndings);
+}
+bool endsAsQuality(TextView lowered) {
+    return std::any_of(std::begin(kQualityEndings), std::end(kQualityEndings), [&](TextView ending) {
+        return lowered.size() >= kShortestStem + ending.size() && endsWith(lowered, ending);
+    });
 }
 bool endsAsPeople(TextView lowered) {
     return endsWithAny(lowered, kPeopleEndings);

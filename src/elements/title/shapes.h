@@ -27,6 +27,8 @@ bool endsAsNoun(TextView lowered);
 bool endsAsAgent(TextView lowered);
 /// "Chinese", "Turkish".
 bool endsAsAdjective(TextView lowered);
+/// Ends as adjectives do, most of which have no other sign: "economic", "national".
+bool endsAsQuality(TextView lowered);
 /// "Victorian", "Japanese", whether or not it is a name.
 bool endsAsPeople(TextView lowered);
 /// Ends as the second words of species do.

@@ -243,6 +243,10 @@ bool hasOwnCase(TextView word) {
     return std::any_of(word.begin(), word.end(), isDigit) || std::any_of(word.begin() + 1, word.end(), isCapital);
 }
 
+bool isGreekLetter(TextView word) {
+    return word.size() == 1 && word[0] >= 0x370 && word[0] < 0x400;
+}
+
 bool isPossessive(TextView word) {
     return withoutPossessive(word).size() != word.size();
 }

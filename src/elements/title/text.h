@@ -89,6 +89,8 @@ void splitWord(TextView text, Range word, std::vector<Range>& parts);
 bool isAcronym(TextView word);
 /// A capital behind the first letter, or a digit.
 bool hasOwnCase(TextView word);
+/// A Greek letter by itself, which is a sign and stays as it is typed.
+bool isGreekLetter(TextView word);
 /// Ends in "'s".
 bool isPossessive(TextView word);
 TextView withoutPossessive(TextView word);

@@ -14,6 +14,12 @@ namespace {
 
 constexpr TextView kSubtitleSeparator = u": ";
 
+/// "Phys. Rev. Lett.": the last two words have stops.
+bool isAbbreviated(TextView text) {
+    const std::size_t blank = text.find_last_of(u' ');
+    return blank != TextView::npos && blank > 0 && text[blank - 1] == u'.';
+}
+
 }  // namespace
 
 void OutputTemplateTitle::Initialize(const OutputSinkRef& formattedStr) {
@@ -102,7 +108,7 @@ void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
         parseAndRemovePrematter(text, secondaryStr);
         parseAndRemoveTranslation(text);
         // The full stop of the reference, but not one of the title's own: "U.S.", "What Is Art? . . .".
-        if (endsWith(text, u".") && !endsWith(text, u"..") && !endsWith(text, u". .") &&
+        if (endsWith(text, u".") && !endsWith(text, u"..") && !endsWith(text, u". .") && !isAbbreviated(text) &&
             !titlecase::isStopOfWord(text, text.size() - 1)) {
             text.pop_back();
         }

@@ -56,6 +56,13 @@ enum WordClass : std::uint64_t {
     kCompoundTail = 1ULL << 21U,
     /// Small words of English, French, Spanish, Italian and German, in which a shortened title does not end.
     kInsideShortTitle = 1ULL << 22U,
+    /// Short words of English that other languages have, too: "in", "for". Among words of another language they show
+    /// nothing.
+    kEnglishElsewhere = 1ULL << 23U,
+    /// Verbs of headlines in the forms in which they stand behind their subject: "affects", "keep".
+    kHeadlineVerb = 1ULL << 24U,
+    /// Adjectives that no ending tells: "new", "early".
+    kAdjective = 1ULL << 25U,
 
     // Bits 32 and up: words that are known only as they are written.
 

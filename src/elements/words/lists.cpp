@@ -55,12 +55,21 @@ constexpr WordList kWordLists[] = {
     {titlewords::kInsideShortTitle, 0,
 #include "elements/words/words_inside_short_titles.inc"
     },
+    {titlewords::kHeadlineVerb, 0,
+#include "elements/words/headline_verbs.inc"
+    },
+    {titlewords::kAdjective, 0,
+#include "elements/words/adjectives.inc"
+    },
     {titlewords::kLoanWord, 0,
 #include "elements/words/loan_words.inc"
     },
     // Languages of titles, likewise.
     {titlewords::kEnglishWord, 0,
 #include "elements/words/english_words.inc"
+    },
+    {titlewords::kEnglishElsewhere, 0,
+#include "elements/words/english_words_elsewhere.inc"
     },
     {titlewords::kForeignWord, 0,
 #include "elements/words/foreign_words.inc"

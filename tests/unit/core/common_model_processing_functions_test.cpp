@@ -95,6 +95,8 @@ TEST(CommonModelProcessingFunctions, PunctuationIsNotDoubled) {
         {u"\u2018Tale\u2019", u". ", u". "},
         {u"\u201CTale", u". ", u". "},
         {u"de'", u". ", u". "},
+        {u"\u201COn \u2018Is\u2019\u201D", u". ", u".\u201D ", true},
+        {u"\u201COn \u2018Is?\u2019\u201D", u". ", u" "},
         // A quotation that has its own end loses the separator's full stop, not its comma.
         {u"\u201CWhy?\u201D", u". ", u" "},
         {u"\"Inc.\"", u". ", u" "},

@@ -159,7 +159,8 @@ TEST_F(OutputTemplate, SeparatorsLookAtTheEndOfTheirPhrase) {
         // The mark keeps the font of its phrase, the rest of the separator stays plain.
         {u"\u201CTale\u201D", true, u", in ", u"<|\u201CTale/1|,\u201D/1| in |Z|>"},
         {u"\"Tale\"", true, u".", u"<|\"Tale/1|.\u201D/1||Z|>"},
-        {u"\u201CA \u2018B\u2019\u201D", true, u",\u201D ", u"<|\u201CA \u2018B\u2019/1|,\u201D/1|\u201D |Z|>"},
+        {u"\u201CA \u2018B\u2019\u201D", true, u",\u201D ", u"<|\u201CA \u2018B/1|,\u2019\u201D/1|\u201D |Z|>"},
+        {u"\u201CThe Smiths\u2019\u201D", true, u". ", u"<|\u201CThe Smiths\u2019/1|.\u201D/1| |Z|>"},
     };
     for (const Case& c : kCases) {
         element.assembly.Reset(1);

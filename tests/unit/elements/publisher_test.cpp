@@ -117,6 +117,14 @@ TEST(Publisher, KnowsTheSpecialKinds) {
     }
 }
 
+TEST(Publisher, ForthcomingBesideAYearIsNoKind) {
+    Publisher publisher = publisherWith({});
+    Text text = u"forthcoming";
+    publisher.Parse(text, u"1999");
+    EXPECT_EQ(publisher.PublisherType, Publisher::kNamed);
+    EXPECT_EQ(publisher.toString(false, false), u"forthcoming");
+}
+
 TEST(Publisher, ShortensAndExpandsNames) {
     struct Case {
         TextView text;
@@ -146,7 +154,11 @@ TEST(Publisher, ShortensAndExpandsNames) {
          u"Belknap Press-Harvard University Press; London: Oxford University Press",
          u"Belknap P-Harvard UP; London: Oxford UP"},
         {u"UP", u"UP", u"UP"},
-        // An initial alone is no press.
+        {u"MIT P", u"MIT Press", u"MIT P"},
+        {u"Beacon P; London: Getty P", u"Beacon Press; London: Getty Press", u"Beacon P; London: Getty P"},
+        // An initial is no press.
+        {u"J. P", u"J. P", u"J. P"},
+        {u"Putnam, P", u"Putnam, P", u"Putnam, P"},
         {u"P Blakiston", u"P Blakiston", u"P Blakiston"},
         {u"UPS Group", u"UPS Group", u"UPS Group"},
     };

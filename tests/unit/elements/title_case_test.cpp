@@ -27,6 +27,11 @@ TEST(TitleCase, Heading) {
         {u"the rise of e-commerce and t-tests", u"The Rise of e-Commerce and t-Tests"},
         {u"e-learning", u"E-Learning"},
         {u"mRNA, p53 and the iPhone", u"mRNA, p53 and the iPhone"},
+        {u"back-off strategies, opting-out and so on", u"Back-Off Strategies, Opting-Out and so On"},
+        {u"a 56Gb/s receiver at 10 km/h and/or 1/f", u"A 56Gb/s Receiver at 10 km/h and/or 1/f"},
+        {u"Dreams and Desire (An Interpretation)", u"Dreams and Desire (An Interpretation)"},
+        {u"Reading \u201CThe Waste Land\u201D", u"Reading \u201CThe Waste Land\u201D"},
+        {u"in search of homo economicus", u"In Search of Homo Economicus"},
         {u"growth of E. coli vs. yeast", u"Growth of E. coli vs. Yeast"},
         {u"Growth of E. Coli", u"Growth of E. coli"},
         {u"the U.S.S. Constitution and mr. Smith", u"The U.S.S. Constitution and Mr. Smith"},
@@ -70,7 +75,16 @@ TEST(TitleCase, Sentence) {
         {u"Moby-Dick; or, The Whale", u"Moby-Dick; or, The whale"},
         {u"Na\u00EFve Realism in M\u00FCnster", u"Na\u00EFve realism in M\u00FCnster"},
         {u"The \u201COther\u201D Question", u"The \u201Cother\u201D question"},
-        // In sentence case already: its capitals are names.
+        {u"The New World of Information", u"The new world of information"},
+        {u"Do Androids Dream of Electric Sheep?", u"Do androids dream of electric sheep?"},
+        {u"Growth of Germanium on Si (111) Surfaces", u"Growth of germanium on Si (111) surfaces"},
+        {u"\u03B1-Synuclein in Mice and Men", u"\u03B1-synuclein in mice and men"},
+        // In sentence case already, with or without a capital where it begins.
+        {u"the history of the lake", u"The history of the lake"},
+        {u"e-learning in the schools of Moby-Dick", u"E-learning in the schools of Moby-Dick"},
+        {u"edgeR in the lab", u"edgeR in the lab"},
+        {u"k-means of the lake", u"k-means of the lake"},
+        // Its capitals are names.
         {u"The letters of an unknown Zembla to the Prior", u"The letters of an unknown Zembla to the Prior"},
         {u"Animal Farm", u"Animal farm"},
     };

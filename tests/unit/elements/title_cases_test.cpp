@@ -24,9 +24,8 @@ const std::set<std::string> kMisses = {
     // The publisher kept others small.
     "heading: Maximum likelihood from incomplete data via the EM algorithm",
     "heading: Regression shrinkage and selection via the lasso",
-    // A letter that is a sign, a conjunction behind a dash.
+    // A letter that is a Greek sign, a conjunction behind a dash.
     "heading: Amyloid-β protein dimers isolated directly from Alzheimer's brains impair synaptic plasticity and memory",
-    "heading: Self-organized criticality: An explanation of 1/f noise",
     "sentence: The Signal and the Noise: Why so Many Predictions Fail—but Some Don't",
     "heading: The signal and the noise: Why so many predictions fail—but some don't",
     // Words that are names here and mostly none, or that the house capitalises.

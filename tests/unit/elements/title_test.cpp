@@ -65,6 +65,7 @@ TEST(Title, WritesEachTypeAsTheStyleAsks) {
         {u"The \"Other\" Question", u"Article", 2, u"\u201CThe \u2018Other\u2019 Question\u201D"},
         {u"Who Governs?: Democracy in America", u"", 2, u"_Who Governs? Democracy in America_"},
         {u"Le deuxi\u00E8me sexe [The second sex]", u"", 2, u"_Le deuxi\u00E8me sexe_ [The second sex]"},
+        {u"Phys. Rev. Lett.", u"", 2, u"_Phys. Rev. Lett._"},
         {u"A Life", u"Interview", -1, u"\u201CA Life,\u201D interview"},
         {u"A Life", u"Interview", 2, u"\u201CA Life\u201D"},
         {u"A Life?", u"Interview", -1, u"\u201CA Life?\u201D interview"},
@@ -173,6 +174,14 @@ TEST(Title, LeavesForeignOldAndPreformattedTitlesAlone) {
                                    u"Le deuxi\u00E8me sexe",
                                    u"De rerum natura et cetera",
                                    u"Het achterhuis",
+                                   u"Rum og rammer for aktivt udeliv",
+                                   u"Thermodiffusion in bin\u00E4ren und tern\u00E4ren Oxiden",
+                                   u"Strategier for b\u00E6redygtig byudvikling",
+                                   u"Barns rett til medvirkning i barnevernet",
+                                   u"Ledelse i offentlige virksomheder",
+                                   u"Handleiding tot de kennis der natuur",
+                                   u"Entwicklung moderner Forschung",
+                                   u"Pour l'histoire de l'enseignement",
                                    u"A declaration of the state whereunto the realmes came",
                                    u"Szkoła żon",
                                    u"JAMA",
@@ -181,8 +190,14 @@ TEST(Title, LeavesForeignOldAndPreformattedTitlesAlone) {
         EXPECT_EQ(heading->formatRule(text), text);
         EXPECT_EQ(sentence->formatRule(text), text);
     }
-    constexpr TextView kEnglish[] = {u"Learning from Las Vegas", u"The Philosophy of Simone de Beauvoir",
-                                     u"What Does It Mean", u"El Ni\u00F1o Events", u"Die Hard"};
+    constexpr TextView kEnglish[] = {u"Learning from Las Vegas",
+                                     u"The Philosophy of Simone de Beauvoir",
+                                     u"What Does It Mean",
+                                     u"El Ni\u00F1o Events",
+                                     u"Die Hard",
+                                     u"Poincar\u00E9 Duality in Mixed Characteristic",
+                                     u"Coup d'\u00E9tat in Chile",
+                                     u"La Follette in Wisconsin"};
     for (const TextView text : kEnglish) {
         EXPECT_TRUE(heading->isEnglishTitle(text) && !heading->isOldTitle(text)) << testing::PrintToString(Text(text));
     }
@@ -241,10 +256,21 @@ TEST(Title, ShortTitlesEndWhereAPhraseEnds) {
         {u"North Carolina During the Great Depression: A Portrait", u"North Carolina"},
         {u"Women's Ways of Knowing the World", u"Women's Ways of Knowing"},
         {u"Guns, Germs, Cars, Planes, and Steel", u"Guns, Germs, Cars, Planes"},
-        {u"New Child Vaccine Gets Funding Boost", u"New Child Vaccine Gets"},
+        {u"New Child Vaccine Gets Funding Boost", u"New Child Vaccine"},
+        {u"Obesity Affects Economic Development in Towns", u"Obesity"},
+        {u"Mental Reserves Keep Brain Agile", u"Mental Reserves"},
+        {u"This Once, a David Beats a Goliath", u"This Once"},
+        {u"Computer Addiction? A Study of Students", u"Computer Addiction?"},
+        {u"Who Governs? Democracy", u"Who Governs?"},
+        {u"So, Did They Live Happily Ever After?", u"So, Did They Live"},
+        {u"A Randomized, Controlled Trial of Vitamin D", u"Randomized, Controlled Trial"},
+        {u"Capital in the Twenty-First Century", u"Capital"},
+        {u"How to Avoid Common Mistakes in Print", u"How to Avoid Common Mistakes"},
+        {u"Modern American Political Economic History", u"Modern American Political Economic History"},
+        {u"Goodbye, Columbus", u"Goodbye, Columbus"},
         {u"Frankenstein; or, The Modern Prometheus", u"Frankenstein"},
         {u"\u2018The House I Live In\u2019: Race and Class", u"\u2018The House I Live In\u2019"},
-        {u"Of the in the by the", u"Of"},
+        {u"Of the in the by the", u"Of the in the by the"},
         {u"A", u"A"},
         {u"", u""},
     };

@@ -119,7 +119,8 @@ public:
             return kPlain;
         }
         Phrase& last = mPhrases.back();
-        if (!last.text.empty() && (last.text.back() == kRightDoubleQuotationMark || last.text.back() == u'"')) {
+        constexpr TextView kClosingMarks = u"\u201D\u2019\"";
+        if (!last.text.empty() && kClosingMarks.find(last.text.back()) != TextView::npos) {
             last.text.pop_back();
         }
         return static_cast<std::int16_t>(last.font);
