@@ -280,7 +280,11 @@ TEST_F(LateBinding, ARecordReachesItsElementAndOutlivesIt) {
     Variant record;
     {
         const LateBoundObject page = library.build(kPage);
+        const auto sink = makeObject<FormattedText>();
         const LateBoundObject edition = library.build(kEdition);
+        edition.call(L"Initialize", {sink.get()});
+        // Of the build without a sink.
+        service.takenErrors();
         edition.call(L"Reset", {1, page.dispatch()});
         edition.call(L"Parse", {L"(Original work published 1925)"});
         record = edition.get(L"EditionBookChapterYear");
@@ -294,7 +298,7 @@ TEST_F(LateBinding, ARecordReachesItsElementAndOutlivesIt) {
         EXPECT_EQ(textOf(edition.call(L"toString")), L"(Reprinted from Manual, pp. 12-14, 1925)");
         // Any other object is no page element.
         edition.call(L"Reset", {2, edition.dispatch()});
-        EXPECT_EQ(textOf(edition.call(L"toString")), L"Rpt. of Manual. 1925. 12-14");
+        EXPECT_EQ(textOf(edition.call(L"toString")), L"Rpt. of Manual (1925): 12-14");
     }
     EXPECT_EQ(textOf(LateBoundObject(objectOf(record)).get(L"Page")), L"12-14");
     EXPECT_EQ(service.takenErrors(), L"");
