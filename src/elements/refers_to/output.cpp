@@ -119,7 +119,7 @@ constexpr TextView kEndsOfSeries[] = {u"ser.", u"series", u"Series"};
 
 /// A date by the pattern, a month or season with its year, and anything else as it stands.
 Text formattedDate(const Text& date, TextView pattern) {
-    if (date.empty() || referstotext::isYear(date)) {
+    if (date.empty() || referstotext::isYear(date) || (pattern == kShortDate && referstotext::isShortDate(date))) {
         return date;
     }
     if (const std::optional<Text> complete = completeDate(date)) {
