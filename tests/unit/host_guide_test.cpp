@@ -25,6 +25,7 @@ const std::map<std::string, std::string> kElements = {
     {"Medium (16)", "medium"},
     {"Page (7)", "page"},
     {"Issue (11)", "issue"},
+    {"Refers-to (12)", "refers-to"},
     {"Online (13)", "online"},
 };
 

@@ -119,7 +119,7 @@ constexpr TextView kEndsOfSeries[] = {u"ser.", u"series", u"Series"};
 
 /// A date by the pattern, a month or season with its year, and anything else as it stands.
 Text formattedDate(const Text& date, TextView pattern) {
-    if (date.empty() || referstotext::isYear(date)) {
+    if (date.empty() || referstotext::isYear(date) || (pattern == kShortDate && referstotext::isShortDate(date))) {
         return date;
     }
     if (const std::optional<Text> complete = completeDate(date)) {
@@ -163,36 +163,33 @@ void OutputTemplateRefersTo::layOutAll() {
     registerSlots(kSerialArticle, {}, [&](auto... slot) { Add4(slot...); });
 }
 
+void OutputTemplateRefersTo::addTo(const std::shared_ptr<outputTemplate>& assembly, const Name& member,
+                                   std::int16_t Index, bool isFormatted, bool isChecking,
+                                   const std::vector<Text>& separators) {
+    procedure(
+        *this, member,
+        {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
+        [&] { held(assembly)->Add(Index, isFormatted, isChecking, separators); });
+}
+
 void OutputTemplateRefersTo::Add(std::int16_t Index, bool isFormatted, bool isChecking,
                                  const std::vector<Text>& separators) {
-    procedure(
-        *this, u"Add",
-        {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
-        [&] { held(mReprintTemplate)->Add(Index, isFormatted, isChecking, separators); });
+    addTo(mReprintTemplate, u"Add", Index, isFormatted, isChecking, separators);
 }
 
 void OutputTemplateRefersTo::Add2(std::int16_t Index, bool isFormatted, bool isChecking,
                                   const std::vector<Text>& separators) {
-    procedure(
-        *this, u"Add2",
-        {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
-        [&] { held(mSerializedTemplate)->Add(Index, isFormatted, isChecking, separators); });
+    addTo(mSerializedTemplate, u"Add2", Index, isFormatted, isChecking, separators);
 }
 
 void OutputTemplateRefersTo::Add3(std::int16_t Index, bool isFormatted, bool isChecking,
                                   const std::vector<Text>& separators) {
-    procedure(
-        *this, u"Add3",
-        {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
-        [&] { held(mAbstractTemplate)->Add(Index, isFormatted, isChecking, separators); });
+    addTo(mAbstractTemplate, u"Add3", Index, isFormatted, isChecking, separators);
 }
 
 void OutputTemplateRefersTo::Add4(std::int16_t Index, bool isFormatted, bool isChecking,
                                   const std::vector<Text>& separators) {
-    procedure(
-        *this, u"Add4",
-        {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
-        [&] { held(mSerialArticleTemplate)->Add(Index, isFormatted, isChecking, separators); });
+    addTo(mSerialArticleTemplate, u"Add4", Index, isFormatted, isChecking, separators);
 }
 
 std::shared_ptr<outputTemplate> OutputTemplateRefersTo::assembly() const {

@@ -5,6 +5,7 @@
 #include "core/letter_case.h"
 #include "core/procedure.h"
 #include "elements/captions.h"
+#include "elements/refers_to/text.h"
 
 namespace quorvel {
 
@@ -174,7 +175,8 @@ void OutputTemplateRefersTo::noteDate() {
     const bool hasJournal = form == Form::kJournal || form == Form::kAbstract;
     const Text date = hasJournal ? valueAt(journalValue(kJournalYear)) : Text();
     mAbstractUsesYear = !date.empty();
-    mAbstractDateIsYear = mAbstractUsesYear && held(mYearTemplate)->isYear(date);
+    // The year element tries every reading of a date; most have none.
+    mAbstractDateIsYear = mAbstractUsesYear && (referstotext::isYear(date) || held(mYearTemplate)->isYear(date));
 }
 
 const Kind& OutputTemplateRefersTo::kind() const {

@@ -140,6 +140,8 @@ private:
     void Add2(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
     void Add3(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
     void Add4(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
+    void addTo(const std::shared_ptr<outputTemplate>& assembly, const Name& member, std::int16_t Index,
+               bool isFormatted, bool isChecking, const std::vector<Text>& separators);
     void layOutAll();
 
     // Writing.

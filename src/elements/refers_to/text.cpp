@@ -5,6 +5,7 @@
 
 #include "core/common_model_processing_functions.h"
 #include "core/letter_case.h"
+#include "core/months.h"
 #include "elements/date/date_text.h"
 
 namespace quorvel::referstotext {
@@ -52,7 +53,15 @@ bool hasDigit(TextView text) {
     return text.find_first_of(kDigits) != TextView::npos;
 }
 
-/// Where the last word begins; a blank and the signs in `alsoBehind` stand before it.
+/// "Jan", "January", "July/August".
+bool beginsWithMonth(TextView word) {
+    // Hardly a word does, and the whole test is long.
+    const bool mayBe = std::any_of(std::begin(kMonths), std::end(kMonths),
+                                   [&](const Month& month) { return startsWithIgnoringCase(word, month.shortName()); });
+    return mayBe && isMonth(before(before(word, u"/"), u"-"));
+}
+
+/// Where the last word begins.
 std::size_t lastWord(TextView text) {
     const std::size_t blank = text.rfind(u' ');
     return blank == TextView::npos ? 0 : blank + 1;
@@ -193,6 +202,17 @@ std::optional<Cut> yearInParentheses(TextView text) {
     return Cut{trim(text.substr(0, open)), inside};
 }
 
+bool isShortDate(TextView text) {
+    const TextView day = before(text, u" ");
+    const TextView year = text.substr(lastWord(text));
+    if (!isDigits(day) || day.size() > 2 || day[0] == u'0' || day.size() + year.size() + 2 >= text.size()) {
+        return false;
+    }
+    const TextView month = text.substr(day.size() + 1, text.size() - day.size() - year.size() - 2);
+    return isDigits(year) && isYear(year) &&
+           std::any_of(std::begin(kMonths), std::end(kMonths), [&](const Month& row) { return row.mla == month; });
+}
+
 std::optional<Cut> date(TextView text) {
     for (const TextView word : kWordsForYears) {
         if (text.ends_with(word)) {
@@ -212,7 +232,7 @@ std::optional<Cut> date(TextView text) {
         const std::size_t at = lastWord(front);
         const TextView word = trim(front.substr(at), u".,");
         const bool isDay = !word.empty() && word.size() <= 2 && isDigits(word);
-        if (!isDay && !isMonth(before(before(word, u"/"), u"-")) && !isOneOf(word, kSeasons)) {
+        if (!isDay && !beginsWithMonth(word) && !isOneOf(word, kSeasons)) {
             break;
         }
         start = at;

@@ -89,6 +89,9 @@ std::optional<Cut> pageAtEnd(TextView text);
 /// A year, a range of years, or one in brackets: "1988", "1988-89", "[1988]", "1988a".
 bool isYear(TextView text);
 
+/// A date as MLA writes it: "25 June 2006", "3 Jan. 2004".
+bool isShortDate(TextView text);
+
 /// Without what joins a part to the next one: blanks and ". , ; :" at the end.
 TextView withoutJoint(TextView text);
 /// The same, with the full stop of an initial behind a last name: "Poupard, D."
