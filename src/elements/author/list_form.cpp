@@ -78,7 +78,8 @@ Charges chargesOf(const Piece& piece, WordSpan words) {
         charges.direct = front.isLower() ? 5 : 3;
     } else {
         const bool isWhole = name.size() < words.size();
-        charges.last = 2 + (piece.kind == Direct ? 2 : 0) + (front.is(kFirstName) ? 1 : 0) + (isWhole ? 1 : 0);
+        charges.last = (front.is(kGivenLikeParticle) ? 1 : 2) + (piece.kind == Direct ? 2 : 0) +
+                       (front.is(kFirstName) ? 1 : 0) + (isWhole ? 1 : 0);
         charges.direct = isGivenName(front) || front.isInitials() || front.is(kGivenLikeParticle) ? 0 : 1;
     }
     charges.direct += endsInFirstName ? 1 : 0;

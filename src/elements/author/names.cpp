@@ -258,7 +258,7 @@ Person parseAuthor(const Instrumented& element, WordSpan words) {
         if (words.back().is(kPostfix)) {
             parseAndRemovePostfix(element, words, person);
         }
-        if (const std::size_t inner = innerPostfix(words); inner != 0) {
+        if (const std::size_t inner = innerPostfix(words); inner != 0 && person.postfix.empty()) {
             person.first = textOf(words.first(inner));
             person.postfix = words[inner].text;
             person.last = textOf(words.subspan(inner + 1));

@@ -60,8 +60,9 @@ void readAttributedName(Text& text, AuthorPersons& persons) {
 void ParseAndRemoveDiscussant(AuthorReading& reading) {
     AuthorListText& list = reading.list;
     procedure(reading.element(), u"ParseAndRemoveDiscussant", {{u"text", list.text()}}, [&] {
-        const std::size_t at = toLower(list.text()).find(kInDiscussionOf);
-        if (at == Text::npos) {
+        const Text lower = toLower(list.text());
+        const std::size_t at = lower.find(kInDiscussionOf);
+        if (at == Text::npos || (at > 0 && lower[at - 1] != u' ')) {
             return;
         }
         const Text discussant(trim(TextView(list.text()).substr(0, at)));
@@ -69,7 +70,7 @@ void ParseAndRemoveDiscussant(AuthorReading& reading) {
         AuthorPersons persons;
         readPersons(reading.reader, rest, {}, true, persons);
         AuthorRecord& person = reading.persons.discussant.emplace();
-        if (persons.size() == 1) {
+        if (persons.size() == 1 && rest.empty() && persons.pseudoname.empty()) {
             person = persons.at(0);
         } else {
             person.lastName = discussant;

@@ -279,7 +279,7 @@ std::uint32_t splitIntoWords(TextView text, Words& words) {
             classify(word);
         }
         features |= featuresOf(word);
-        if (words.size() == 2 && word.shape == Shape::Capitals && word.before == Separator::Blank) {
+        if (words.size() > 1 && word.shape == Shape::Capitals && word.before == Separator::Blank) {
             features |= kHasCompactName;
         }
         if (at < text.size() && text[at] == u' ' && breaksSentence(word)) {

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "support/author_cases.h"
+#include "support/author_kept.h"
 #include "support/author_reading.h"
 
 namespace quorvel {
@@ -60,9 +61,26 @@ TEST(AuthorCases, AreReadExactlyWhateverTheStyle) {
                 continue;
             }
             const Text read = test::read(*author, list.printed);
-            EXPECT_TRUE(authorcases::areSamePersons(list.persons, recordsOf(*author)) && author->HasEtAl() == list.isCut)
+            EXPECT_TRUE(authorcases::areSamePersons(list.persons, recordsOf(*author)) &&
+                        author->HasEtAl() == list.isCut)
                 << list.id << " " << list.form << ": " << authorcases::utf8Of(list.printed) << " read as "
                 << authorcases::utf8Of(read);
+        }
+    }
+}
+
+/// No name is ever lost, neither in reading nor in writing.
+TEST(AuthorCases, KeepEveryLetter) {
+    for (test::AuthorPreset preset : test::authorPresets()) {
+        preset.options.numAuthorsToTriggerEtAl = 100;
+        preset.options.etAlUsesElipses = true;
+        const auto author = test::authorWith(preset.options);
+        for (const Case& list : cases()) {
+            test::read(*author, list.printed);
+            EXPECT_EQ(test::lostLetters(list.printed, *author), u"") << list.id << " " << list.form;
+            for (const bool isFootnote : {false, true}) {
+                EXPECT_EQ(test::unwrittenPersons(author->toString(isFootnote, false), *author), u"") << list.id;
+            }
         }
     }
 }

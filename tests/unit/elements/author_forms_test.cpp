@@ -55,6 +55,36 @@ TEST(AuthorForms, ReadsEachPrintedForm) {
     }
 }
 
+/// Where names of two words stand before a comma, what the list holds elsewhere decides.
+TEST(AuthorForms, TheWholeListDecides) {
+    struct Case {
+        TextView text;
+        TextView persons;
+    };
+    constexpr Case kCases[] = {
+        {u"Ben Liblit, Andrew Begel, and Eve Sweetser", u"Liblit|Ben; Begel|Andrew; Sweetser|Eve"},
+        {u"Al Bernanke, Martin Gertler, and Mark Watson", u"Bernanke|Al; Gertler|Martin; Watson|Mark"},
+        {u"Van Bernanke, Martin Gertler, and Mark Watson", u"Bernanke|Van; Gertler|Martin; Watson|Mark"},
+        {u"Van Dyke, Mary Ann, and Mark Watson", u"Van Dyke|Mary Ann; Watson|Mark"},
+        {u"Darity, William, Jr., Darrick Hamilton, Mark Paul, Alan Aja, and Anne Price",
+         u"Darity|William|Jr.; Hamilton|Darrick; Paul|Mark; Aja|Alan; Price|Anne"},
+        {u"Jonas Schild, Robert Walter, and Maria Masuch", u"Schild|Jonas; Walter|Robert; Masuch|Maria"},
+        {u"Ivan Herman, Marc S. Blank", u"Herman|Ivan; Blank|Marc S."},
+        {u"Cordeiro Silva, João Pedro", u"Cordeiro Silva|João Pedro"},
+        {u"de Melo, Pedro O. S. Vaz, Andrew Begel, and Eve Sweetser",
+         u"de Melo|Pedro O. S. Vaz; Begel|Andrew; Sweetser|Eve"},
+        {u"Smith, John, García Márquez, Gabriel José, & Doe, Ann", u"Smith|John; García Márquez|Gabriel José; Doe|Ann"},
+        {u"Paul, Mark; de Sainte Marie, Christian; and Van Der Storm, Tijs",
+         u"Paul|Mark; de Sainte Marie|Christian; Van Der Storm|Tijs"},
+    };
+    for (const test::AuthorPreset& preset : test::authorPresets()) {
+        const auto author = test::authorWith(preset.options);
+        for (const Case& c : kCases) {
+            EXPECT_EQ(test::read(*author, c.text), c.persons) << shown(preset.name);
+        }
+    }
+}
+
 /// Each style's own form of the same persons, and the way back from it.
 TEST(AuthorForms, WritesWhatItReadInEveryStyle) {
     struct Case {
@@ -77,6 +107,7 @@ TEST(AuthorForms, WritesWhatItReadInEveryStyle) {
          u"Rockefeller, John D., IV", u"John D. Rockefeller IV", u"Rockefeller JD IV"},
         {u"Simone de Beauvoir", u"Beauvoir, Simone de", u"Beauvoir, S. de", u"Beauvoir, Simone de",
          u"Simone de Beauvoir", u"de Beauvoir S"},
+        {u"Ying-kui Yang", u"Yang, Ying-kui", u"Yang, Y.-K.", u"Yang, Ying-kui", u"Ying-kui Yang", u"Yang YK"},
         {u"Jean-Paul Sartre", u"Sartre, Jean-Paul", u"Sartre, J.-P.", u"Sartre, Jean-Paul", u"Jean-Paul Sartre",
          u"Sartre JP"},
         {u"Smith, J. A., & World Health Organization", u"Smith, J. A., and World Health Organization",

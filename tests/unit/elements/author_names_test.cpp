@@ -42,6 +42,8 @@ TEST(AuthorNames, ParticlesBelongToTheLastName) {
         {u"María de la Luz Hernández", u"Hernández|María de la Luz"},
         {u"Simone de Beauvoir", u"Beauvoir|Simone de"},
         {u"Beauvoir, Simone de", u"Beauvoir|Simone de"},
+        // He goes by his second name, which is a particle elsewhere.
+        {u"W. Ben Towne", u"Towne|W. Ben"},
         {u"Russo, R. de F., and A. de F. S. M. Russo", u"Russo|R. de F.; de F. S. M. Russo|A."},
     };
     expectReadings(kCases);
@@ -96,6 +98,11 @@ TEST(AuthorNames, InitialsAreSpreadWithTheirStops) {
         {u"J.-P. Sartre", u"Sartre|J.-P."},
         {u"É. Durkheim and Ł. Kaczmarek", u"Durkheim|É.; Kaczmarek|Ł."},
         {u"Durkheim É, Kaczmarek Ł", u"Durkheim|É.; Kaczmarek|Ł."},
+        {u"John F Kennedy and Robert F Kennedy", u"Kennedy|John F.; Kennedy|Robert F."},
+        {u"Edward H Shortliffe and Bruce G. Buchanan", u"Shortliffe|Edward H.; Buchanan|Bruce G."},
+        // Sounds of two letters.
+        {u"Gritsenko YuI, Yakovlev AYa", u"Gritsenko|Yu. I.; Yakovlev|A. Ya."},
+        {u"CO Callender", u"Callender|C. O."},
         // Initials that spell other words.
         {u"O’Mara SM, Rolls ET, Jones ED, Smith DE", u"O’Mara|S. M.; Rolls|E. T.; Jones|E. D.; Smith|D. E."},
         {u"Smith JR, Brown IV", u"Smith|J. R.; Brown|I. V."},
@@ -115,6 +122,11 @@ TEST(AuthorNames, PostfixesAfterACommaABlankOrInitials) {
         {u"Rockefeller, John D., VI", u"Rockefeller|John D.|VI"},
         {u"Conway, L. G., III, & Gornick, L. J.", u"Conway|L. G.|III; Gornick|L. J."},
         {u"John D. Rockefeller III", u"Rockefeller|John D.|III"},
+        {u"Daumé, Hal III, and Daniel Marcu", u"Daumé|Hal|III; Marcu|Daniel"},
+        {u"Daumé III, Hal, and Daniel Marcu", u"Daumé|Hal|III; Marcu|Daniel"},
+        {u"Daumé H III, Marcu D", u"Daumé|H.|III; Marcu|D."},
+        {u"Paul III Tornetta", u"Tornetta|Paul|III"},
+        {u"von Hicks, Michael III", u"von Hicks|Michael|III"},
         {u"Smith, John A., PhD", u"Smith|John A.|PhD"},
         {u"Smith, MD", u"Smith|M. D."},
         {u"Smith CC, Jones M, Brown D", u"Smith|C. C.; Jones|M.; Brown|D."},
@@ -140,6 +152,9 @@ TEST(AuthorNames, InstitutionsStayWhole) {
         {u"The New Yorker", u"The New Yorker"},
         {u"UNESCO", u"UNESCO"},
         {u"Doctors Without Borders", u"Doctors Without Borders"},
+        {u"United States. Environmental Protection Agency", u"United States. Environmental Protection Agency"},
+        {u"Great Britain. Home Office", u"Great Britain. Home Office"},
+        {u"Genco BA; Ebooks Corporation; eds.", u"Genco|B. A.; Ebooks Corporation"},
         {u"Ernst & Young LLP", u"Ernst & Young LLP"},
         // Two of them, and institutions beside persons.
         {u"World Health Organization & World Bank", u"World Health Organization; World Bank"},
@@ -155,6 +170,7 @@ TEST(AuthorNames, InstitutionsStayWhole) {
         {u"William H. Press", u"Press|William H."},
         {u"Church, Alonzo", u"Church|Alonzo"},
         {u"Emily Post", u"Post|Emily"},
+        {u"Donald Force", u"Force|Donald"},
     };
     expectReadings(kCases);
 }

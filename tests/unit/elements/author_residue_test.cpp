@@ -33,6 +33,9 @@ TEST(AuthorResidue, TextOfOtherElementsIsKeptForThem) {
         {u"Smith, John, rev. ed.", u"Smith|John", u"rev. ed."},
         {u"Smith, John, 2nd ed.", u"Smith|John", u"2nd ed."},
         {u"Smith, John, series ed.", u"Smith|John", u"series ed."},
+        {u"van der Meer MA, Smith K. The title", u"van der Meer|M. A.; Smith|K.", u"The title"},
+        {u"Smith, John. House of Cards", u"Smith|John", u"House of Cards"},
+        {u"Smith, John, 2nd ed. Introduction.", u"Smith|John", u"2nd ed. Introduction."},
         // What looks like it and is not.
         {u"Thomas C. King", u"King|Thomas C.", u""},
         {u"Jill St. John", u"St. John|Jill", u""},

@@ -69,12 +69,19 @@ inline Text lostLetters(TextView text, const OutputTemplateAuthor& author) {
 }
 
 /// The persons whom an output leaves out although the style does not shorten the list; empty when all are there.
+/// Letters alone count: the assembly moves marks.
 inline Text unwrittenPersons(TextView output, const OutputTemplateAuthor& author) {
+    const auto lettersOf = [](TextView text) {
+        Text letters;
+        std::copy_if(text.begin(), text.end(), std::back_inserter(letters),
+                     [](char16_t unit) { return isDigit(unit) || isCasedLetter(unit); });
+        return letters;
+    };
+    const Text written = lettersOf(output);
     Text unwritten;
     for (std::int16_t i = 0; i < author.numAuthors(); ++i) {
-        // Commas may have become semicolons.
-        const Text name = replaceAll(author.person(i).lastName, u",", u";");
-        if (!contains(replaceAll(output, u",", u";"), name)) {
+        const Text& name = author.person(i).lastName;
+        if (!contains(written, lettersOf(name))) {
             unwritten += name + u"; ";
         }
     }
