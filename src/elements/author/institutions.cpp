@@ -210,15 +210,17 @@ void mergeInstitutions(AuthorListText& text) {
             const bool isCompanyEnding = words.size() == 1 && words[0].is(kCompanyEnding) &&
                                          (words[0].endsWithStop || words[0].text.size() > 2) &&
                                          words[0].shape != Shape::Initial;
-            // "University of California, Berkeley", but not "World Bank, UNESCO".
-            const bool isPlace = isPair && !text.isCompact &&
-                                 (piece.kind == PieceKind::Single || piece.kind == PieceKind::Multiple) &&
-                                 !piece.isInstitution && !words[0].is(kFirstName);
-            const bool isAcronym = words.size() == 1 && words[0].shape == Shape::Capitals &&
-                                   isAcronymOf(words[0].text, text.wordsOf(previous));
-            // "U.S. Department of Commerce, Bureau of the Census"
-            const bool isSubdivision = words[0].is(kSubdivision) && piece.isInstitution;
-            joins = isCompanyEnding || (previous.isInstitution && (isPlace || isAcronym || isSubdivision));
+            joins = isCompanyEnding;
+            if (!joins && previous.isInstitution) {
+                // "University of California, Berkeley", but not "World Bank, UNESCO".
+                const bool isPlace = isPair && !text.isCompact &&
+                                     (piece.kind == PieceKind::Single || piece.kind == PieceKind::Multiple) &&
+                                     !piece.isInstitution && !words[0].is(kFirstName);
+                const bool isAcronym = words.size() == 1 && words[0].shape == Shape::Capitals &&
+                                       isAcronymOf(words[0].text, text.wordsOf(previous));
+                // "U.S. Department of Commerce, Bureau of the Census"
+                joins = isPlace || isAcronym || (words[0].is(kSubdivision) && piece.isInstitution);
+            }
         }
         if (joins) {
             previous.end = piece.end;

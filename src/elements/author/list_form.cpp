@@ -39,12 +39,14 @@ bool beginsLastName(WordSpan words) {
            (words.size() == 2 && words.back().is(kFamilySuffix) && !isGivenName(first) && !first.isInitials());
 }
 
-/// What speaks against several words as first names: "Chris I. Thomas", "Gabriel García Márquez", "Nancy Lynch".
+/// What speaks against several words as first names: "Chris I. Thomas", "Gabriel García Márquez", "Marga van
+/// Mechelen", "Nancy Lynch".
 int chargeAsFirstNames(WordSpan name) {
     const Word& last = name.back();
     int charge = 0;
     for (std::size_t i = 1; i + 1 < name.size(); ++i) {
-        if ((name[i].isInitials() && !name.front().isInitials()) || name[i].is(kPartialLastName)) {
+        const bool isOfLastName = name[i].is(kPartialLastName) || (name[i].isLower() && !name[i + 1].isLower());
+        if (isOfLastName || (name[i].isInitials() && !name.front().isInitials())) {
             charge = 2;
         }
     }

@@ -69,8 +69,10 @@ bool isInstitutionalAt(WordSpan words, std::size_t index) {
 }
 
 bool hasInstitutionalWord(WordSpan words) {
+    // Nearly all words are initials and names that no list knows.
     for (std::size_t i = 0; words.size() > 1 && i < words.size(); ++i) {
-        if (words[i].is(kPreposition) || isInstitutionalAt(words, i)) {
+        const bool isKnown = words[i].classes != kNoClass || words[i].shape == Shape::Number;
+        if (isKnown && (words[i].is(kPreposition) || isInstitutionalAt(words, i))) {
             return true;
         }
     }
@@ -97,6 +99,9 @@ WordSpan withoutPostfix(WordSpan words, std::size_t nameLength) {
 }
 
 TextView writtenPostfix(TextView postfix) {
+    if (postfix.empty()) {
+        return postfix;
+    }
     for (const TextView abbreviation : kAbbreviatedPostfixes) {
         if (equalsIgnoringCase(before(postfix, u"."), before(abbreviation, u"."))) {
             return abbreviation;

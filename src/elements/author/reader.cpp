@@ -18,6 +18,7 @@ namespace {
 
 constexpr TextView kInDiscussionOf = u"in discussion of:";
 constexpr TextView kOthers = u"others";
+constexpr std::uint32_t kFewestWordsOfTwoNames = 4;
 
 bool isEmptyOrSigns(const Words& words) {
     return std::all_of(words.begin(), words.end(), [](const Word& word) { return word.shape == Shape::Mark; });
@@ -125,10 +126,11 @@ void parseAndRemoveAndSeparator(AuthorReading& reading) {
             }
             if (begin >= runEnd) {
                 runEnd = endOfRun(words, begin);
-                isRunOfCompactNames = endsWithInitials(WordSpan(words).subspan(begin, runEnd - begin));
+                isRunOfCompactNames = runEnd - begin >= kFewestWordsOfTwoNames &&
+                                      endsWithInitials(WordSpan(words).subspan(begin, runEnd - begin));
             }
-            std::uint32_t end = begin + 1;
-            while (end < runEnd && !(isRunOfCompactNames && endsCompactName(words, begin, end))) {
+            std::uint32_t end = isRunOfCompactNames ? begin + 1 : runEnd;
+            while (end < runEnd && !endsCompactName(words, begin, end)) {
                 ++end;
             }
             Piece piece;

@@ -134,7 +134,7 @@ void classify(Word& word) {
                 letters.beginsLower = letters.beginsLower || letters.capitals + letters.lower + letters.others == 0;
                 ++letters.lower;
                 letters.endsLower = true;
-                letters.digraphs += i > 0 && isDigraph(word.text[i - 1], unit) ? 1U : 0U;
+                letters.digraphs += i > 0 && word.text[i - 1] <= u'Z' && isDigraph(word.text[i - 1], unit) ? 1U : 0U;
                 break;
             case Letter::None:
                 isLetter = false;
@@ -220,20 +220,6 @@ bool endsWord(char16_t unit) {
 }
 
 }  // namespace
-
-bool isDigraph(char16_t capital, char16_t small) {
-    switch (small) {
-        case u'u':
-        case u'a':
-        case u'e':
-        case u'o': return capital == u'Y' || capital == u'J';
-        case u'h':
-            return capital == u'C' || capital == u'K' || capital == u'S' || capital == u'T' || capital == u'Z' ||
-                   capital == u'P';
-        case u's': return capital == u'T';
-        default: return false;
-    }
-}
 
 bool breaksSentence(const Word& word) {
     return word.endsWithStop && word.shape == Shape::Name &&

@@ -82,7 +82,19 @@ Word wordOf(TextView text);
 bool isShouted(const Words& words);
 
 /// Whether the two letters stand for one sound of a name, which is one initial: "Yu", "Zh", "Ch".
-bool isDigraph(char16_t capital, char16_t small);
+constexpr bool isDigraph(char16_t capital, char16_t small) {
+    switch (small) {
+        case u'u':
+        case u'a':
+        case u'e':
+        case u'o': return capital == u'Y' || capital == u'J';
+        case u'h':
+            return capital == u'C' || capital == u'K' || capital == u'S' || capital == u'T' || capital == u'Z' ||
+                   capital == u'P';
+        case u's': return capital == u'T';
+        default: return false;
+    }
+}
 
 /// "Smith, John. The" breaks after "John."; "St. John" and "J. Smith" do not break.
 bool breaksSentence(const Word& word);
