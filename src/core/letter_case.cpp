@@ -30,10 +30,15 @@ bool isAscii(TextView text) {
     return !anyUnit(text, [](char16_t unit) { return unit >= u'\u0080'; });
 }
 
+/// In a form that the compiler takes several characters at a time of.
 template <class Map>
 Text mapped(TextView text, Map map) {
     Text result(text);
-    std::transform(result.begin(), result.end(), result.begin(), map);
+    char16_t* const units = result.data();
+    const std::size_t size = result.size();
+    for (std::size_t i = 0; i < size; ++i) {
+        units[i] = map(units[i]);
+    }
     return result;
 }
 
@@ -57,21 +62,17 @@ char16_t lowerBeyondAscii(char16_t unit) {
 }  // namespace lettercase
 
 Text toUpper(TextView text) {
-    return isAscii(text) ? mapped(text, lettercase::upperOfAscii)
+    return isAscii(text) ? mapped(text, [](char16_t unit) { return lettercase::upperOfAscii(unit); })
                          : mapped(text, [](char16_t unit) { return toUpper(unit); });
 }
 
 Text toLower(TextView text) {
-    return isAscii(text) ? mapped(text, lettercase::lowerOfAscii)
+    return isAscii(text) ? mapped(text, [](char16_t unit) { return lettercase::lowerOfAscii(unit); })
                          : mapped(text, [](char16_t unit) { return toLower(unit); });
 }
 
 bool equalsIgnoringCase(TextView left, TextView right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(), areSameIgnoringCase);
-}
-
-bool startsWithIgnoringCase(TextView text, TextView prefix) {
-    return equalsIgnoringCase(text.substr(0, prefix.size()), prefix);
 }
 
 bool endsWithIgnoringCase(TextView text, TextView suffix) {

@@ -28,10 +28,12 @@ const LetterCase& letterCase();
 namespace lettercase {
 
 constexpr char16_t upperOfAscii(char16_t unit) {
-    return unit >= u'a' && unit <= u'z' ? static_cast<char16_t>(unit - u'a' + u'A') : unit;
+    const bool isSmall = static_cast<char16_t>(unit - u'a') <= u'z' - u'a';
+    return static_cast<char16_t>(unit - (isSmall ? u'a' - u'A' : 0));
 }
 constexpr char16_t lowerOfAscii(char16_t unit) {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit - u'A' + u'a') : unit;
+    const bool isLarge = static_cast<char16_t>(unit - u'A') <= u'Z' - u'A';
+    return static_cast<char16_t>(unit + (isLarge ? u'a' - u'A' : 0));
 }
 /// What the platform says of the other characters; of Latin letters it is asked once.
 char16_t upperBeyondAscii(char16_t unit);
@@ -63,7 +65,11 @@ inline bool isCasedLetter(char16_t unit) {
 
 /// Equal but for letter case.
 bool equalsIgnoringCase(TextView left, TextView right);
-bool startsWithIgnoringCase(TextView text, TextView prefix);
+inline bool startsWithIgnoringCase(TextView text, TextView prefix) {
+    // Most texts differ in their first letter.
+    return prefix.empty() || (text.size() >= prefix.size() && toLower(text.front()) == toLower(prefix.front()) &&
+                              equalsIgnoringCase(text.substr(0, prefix.size()), prefix));
+}
 bool endsWithIgnoringCase(TextView text, TextView suffix);
 /// Where the part first stands at `from` or behind it, in any letter case; npos when it does not.
 std::size_t findIgnoringCase(TextView text, TextView part, std::size_t from = 0);

@@ -34,10 +34,11 @@ bool isIn(const CodeUnitRange (&ranges)[N], char16_t unit) {
 }
 
 bool hasDoubleBlank(TextView text) {
-    unsigned any = 0;
+    char16_t any = 0;
     for (std::size_t i = 1; i < text.size(); ++i) {
-        // No "&&", so that the compiler can take several at once.
-        any |= static_cast<unsigned>(text[i - 1] == u' ') & static_cast<unsigned>(text[i] == u' ');
+        // No "&&", and as wide as the characters are, so that the compiler can take several at once.
+        const int isDouble = static_cast<int>(text[i - 1] == u' ') & static_cast<int>(text[i] == u' ');
+        any = static_cast<char16_t>(any | isDouble);
     }
     return any != 0;
 }

@@ -53,9 +53,10 @@ Text join(const std::vector<Text>& pieces, TextView separator);
 /// once: for a test of some comparisons that hardly a text passes.
 template <class Test>
 bool anyUnit(TextView text, Test test) {
-    unsigned any = 0;
+    // As wide as the characters are.
+    char16_t any = 0;
     for (const char16_t unit : text) {
-        any |= test(unit) ? 1U : 0U;
+        any = static_cast<char16_t>(any | (test(unit) ? 1 : 0));
     }
     return any != 0;
 }

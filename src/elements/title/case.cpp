@@ -28,7 +28,16 @@ public:
 
 private:
     void write(std::size_t index, bool isFirst) {
+        using namespace titlewords;
+        constexpr WordClasses kSpecial = kSmallWord | kParticle | kForeignParticle | kStaysInHeading | kSpeciesEpithet;
         const Word& word = mWords[index];
+        // Nearly all words.
+        if (!word.isCompound && !word.known.is(kSpecial) && word.core.end - word.core.begin > 1) {
+            if (!word.hasOwnCase) {
+                capitalizeAt(mText, word.core.begin);
+            }
+            return;
+        }
         Range first = word.core;
         Known known = word.known;
         bool hasCase = word.hasOwnCase;
@@ -46,29 +55,31 @@ private:
         if (!hasCase) {
             const char16_t letter = mTitle.text[first.begin];
             const bool isLetter = first.end - first.begin == 1;
-            const bool isGreek = isGreekLetter(slice(mTitle.text, first));
-            // "Dreams (An Interpretation)": what is set off may begin with a capital of its own.
-            const bool isSetOff =
-                word.core.begin > 0 && isCapital(letter) && isOpeningMark(mTitle.text[first.begin - 1]);
             // One test is on the word as it stands, deliberately: a capital "A" is no article.
-            const bool isSmall =
-                known.is(titlewords::kSmallWord) && !(isLetter && letter == u'A') && (!word.isCompound || isSlash);
-            const bool isLowered = isSmall && !isFirst && !word.isLast && !isSetOff;
+            const bool isSmall = known.is(kSmallWord) && !(isLetter && letter == u'A') && (!word.isCompound || isSlash);
+            const bool isLowered = isSmall && !isFirst && !word.isLast && !isSetOff(word);
             // "e-learning", "t-test": the letter stays, the word behind it is capitalised.
             const bool isPrefix = word.isCompound && isLetter && letter != u'a';
             // "p Values", "Student's t"; "ca. 1500".
-            const bool isSign = isGreek || (isLetter && !word.isCompound && letter != u'a' && !isFirst);
+            const bool isSign = isGreekLetter(slice(mTitle.text, first)) ||
+                                (isLetter && !word.isCompound && letter != u'a' && !isFirst);
             if (isSign) {
                 // It stays as it is typed.
             } else if (!isLowered && (isFirst || !(isPrefix || stays(index)))) {
                 capitalizeAt(mText, first.begin);
-            } else if (isLowered || known.is(titlewords::kSpeciesEpithet)) {
+            } else if (isLowered || known.is(kSpeciesEpithet)) {
                 lowerAt(mText, first.begin);
             }
         }
         if (word.isCompound && (mRules.capitalizeHyphenatedWord || isSlash)) {
             writeOtherParts(word.isLast);
         }
+    }
+
+    /// "Dreams (An Interpretation)": what is set off may begin with a capital of its own.
+    bool isSetOff(const Word& word) const {
+        const std::size_t at = word.core.begin;
+        return at > 0 && isOpeningMark(mTitle.text[at - 1]) && isCapital(mTitle.text[at]);
     }
 
     /// "56Gb/s", "10 km/h", "1/f".

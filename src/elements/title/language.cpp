@@ -1,6 +1,7 @@
 #include "elements/title/language.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "core/letter_case.h"
 
@@ -11,7 +12,6 @@ namespace {
 using titlecase::TitleText;
 using titlecase::Word;
 
-constexpr TextView kForeignSpellings[] = {u"\u0161", u"trz", u"sz"};
 constexpr TextView kAddressStarts[] = {u"http:", u"https:", u"www."};
 
 // Endings of words that English does not have, of German, the Scandinavian languages, Dutch and those of the south.
@@ -24,6 +24,12 @@ constexpr TextView kForeignEndings[] = {
     u"idades", u"idade", u"miento", u"mientos", u"zione",  u"zioni",  u"ismo"};
 constexpr std::size_t kShortestWithEnding = 6;
 
+bool hasForeignEnding(TextView lowered) {
+    const char16_t last = lowered.back();
+    return std::any_of(std::begin(kForeignEndings), std::end(kForeignEndings),
+                       [&](TextView ending) { return last == ending.back() && lowered.ends_with(ending); });
+}
+
 bool isForeignLetter(char16_t unit) {
     return unit >= 0xC0 && unit < 0x250 && unit != u'\u00D7' && unit != u'\u00F7';
 }
@@ -33,8 +39,22 @@ bool hasElision(TextView word) {
     return word.size() > 3 && word[1] == u'\'' && (word[0] == u'l' || word[0] == u'd');
 }
 
-/// What the words of a title tell of its language. A word of another language weighs two, what only looks like one
-/// weighs one.
+/// How much a word that no list of languages holds looks foreign: 2 for letters that English words do not have, 1 for
+/// an ending.
+int foreignLook(const TitleText& title, const Word& word) {
+    if (word.known.classes != 0 || word.hasOwnCase || word.isCompound) {
+        return 0;
+    }
+    const TextView lowered = title.lower(word.core);
+    const bool hasLetters = word.hasAccents && anyUnit(lowered, isForeignLetter);
+    if (word.isLower && (hasLetters || hasElision(lowered))) {
+        return 2;
+    }
+    const bool hasEnding = lowered.size() >= kShortestWithEnding && hasForeignEnding(lowered);
+    return hasEnding ? 1 + (hasLetters ? 1 : 0) : 0;
+}
+
+/// What the short words of a title tell of its language.
 struct Evidence {
     int english = 0;
     int englishElsewhere = 0;
@@ -43,26 +63,15 @@ struct Evidence {
     bool hasForeignArticle = false;
 };
 
-int foreignWeight(const TitleText& title, const Word& word) {
-    using namespace titlewords;
-    const TextView lowered = title.lower(word.core);
-    if (word.known.is(kForeignWord)) {
-        return word.isLower ? 2 : 0;
-    }
-    if (word.known.classes != 0 || word.hasOwnCase || word.isCompound) {
-        return 0;
-    }
-    if (word.isLower && (hasElision(lowered) || (word.hasAccents && anyUnit(lowered, isForeignLetter)))) {
-        return 2;
-    }
-    const bool hasEnding = lowered.size() >= kShortestWithEnding && endsWithOneOf(lowered, kForeignEndings);
-    return hasEnding ? 1 + (word.hasAccents && anyUnit(lowered, isForeignLetter) ? 1 : 0) : 0;
-}
-
 Evidence evidenceOf(const TitleText& title) {
     using namespace titlewords;
+    constexpr WordClasses kAnyLanguage =
+        kEnglishWord | kEnglishElsewhere | kFirstArticle | kLanguageParticle | kForeignWord;
     Evidence found;
     for (const Word& word : title.words) {
+        if (!word.isPossessive() && !word.known.is(kAnyLanguage)) {
+            continue;
+        }
         const bool isFirst = &word == &title.words.front();
         if (word.known.is(kEnglishWord) || word.isPossessive()) {
             ++found.english;
@@ -70,22 +79,29 @@ Evidence evidenceOf(const TitleText& title) {
             ++found.englishElsewhere;
         } else if (isFirst && title.words.size() > 1 && word.known.is(kFirstArticle)) {
             found.hasForeignArticle = !title.words[1].known.is(kAfterArticleInEnglish);
-            found.foreign += found.hasForeignArticle ? 1 : 0;
         } else if (word.known.is(kLanguageParticle)) {
             found.particles += word.isLower || isFirst ? 1 : 0;
-        } else {
-            found.foreign += foreignWeight(title, word);
+        } else if (word.known.is(kForeignWord) && word.isLower) {
+            ++found.foreign;
         }
     }
     return found;
 }
 
 bool readsAsEnglish(const TitleText& title) {
+    constexpr int kEnough = 2;
     const Evidence found = evidenceOf(title);
     if (found.english > 0) {
-        return found.foreign <= 2 * (found.english + found.englishElsewhere);
+        return found.foreign + (found.hasForeignArticle ? 1 : 0) <= found.english + found.englishElsewhere;
     }
-    if (found.foreign > 1) {
+    if (found.foreign > 0) {
+        return false;
+    }
+    int look = found.hasForeignArticle ? 1 : 0;
+    for (const Word& word : title.words) {
+        look += foreignLook(title, word);
+    }
+    if (look >= kEnough) {
         return false;
     }
     if (found.englishElsewhere > 0) {
@@ -98,15 +114,11 @@ bool readsAsEnglish(const TitleText& title) {
 }  // namespace
 
 bool hasForeignSpelling(const TitleText& title) {
-    // Few titles hold the letters in which these end.
-    return anyUnit(title.lowered, [](char16_t unit) { return unit == u'z' || unit == u'\u0161'; }) &&
-           containsOneOf(title.lowered, kForeignSpellings);
+    return title.hasForeignSpelling;
 }
 
 bool isOld(const TitleText& title) {
-    return hasForeignSpelling(title) || std::any_of(title.words.begin(), title.words.end(), [](const Word& word) {
-               return word.known.is(titlewords::kOldWord);
-           });
+    return hasForeignSpelling(title) || (title.classes & titlewords::kOldWord) != 0;
 }
 
 bool isEnglish(const TitleText& title) {
@@ -114,8 +126,8 @@ bool isEnglish(const TitleText& title) {
 }
 
 bool isPreformatted(TextView title) {
-    return startsWithOneOfIgnoringCase(title, kAddressStarts) ||
-           std::none_of(title.begin(), title.end(), isSmallLetter);
+    return std::none_of(title.begin(), title.end(), [](char16_t unit) { return isSmallLetter(unit); }) ||
+           startsWithOneOfIgnoringCase(title, kAddressStarts);
 }
 
 }  // namespace quorvel::titlelanguage

@@ -105,12 +105,14 @@ bool OutputTemplateTitle::fillSlots(bool /*isFootnote*/, std::vector<Text>& item
         items.at(kLeadInSlot) = description;
         return false;
     }
-    const Text translation = mValues.at(kTranslation);
     const Text typed = wholeTitle(shortenedVersion);
+    // Both before the reports of what follows, which reach the host.
+    const Text& translated = mValues.at(kTranslation);
+    Text translation = translated.empty() ? Text() : concatenate({u"[", translated, u"]"});
     TitleText read = titlecase::readTitle(typed);
     Text title = formatRule(read);
     if (!shortenedVersion) {
-        items.at(kTranslationSlot) = translation.empty() ? Text() : concatenate({u"[", translation, u"]"});
+        items.at(kTranslationSlot) = std::move(translation);
         items.at(kDescriptionSlot) = description;
         movePunctuation(items, title);
     }

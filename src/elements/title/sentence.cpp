@@ -58,9 +58,14 @@ private:
             writeParts(current, isCapitalized);
         } else if (isCapitalized) {
             capitalizeFirst(current.core);
-        } else if (!current.isKept && !current.isLower && !hasOwnCase(slice(mTitle.text, current.name))) {
+        } else if (!current.isKept && !current.isLower && !hasCaseInName(current)) {
             lowerAt(mText, current.core.begin);
         }
+    }
+
+    /// A case of its own without "'S".
+    bool hasCaseInName(const Word& current) const {
+        return current.hasOwnCase && (!current.isPossessive() || hasOwnCase(slice(mTitle.text, current.name)));
     }
 
     /// "edgeR", "mRNA", "p53" and a Greek letter stay.

@@ -1,6 +1,8 @@
 #include "elements/title/shapes.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 
 #include "core/letter_case.h"
 
@@ -40,31 +42,43 @@ constexpr TextView kSurnameEndings[] = {u"berg",  u"burg",  u"burgh", u"bury", u
                                         u"ski",   u"sky",   u"son",   u"stan", u"stein", u"ucci", u"vich",
                                         u"ville", u"worth", u"shire", u"guez"};
 
+/// The last letters of endings, one bit each.
 template <std::size_t N>
-bool endsWithAny(TextView text, const TextView (&endings)[N]) {
+constexpr std::uint32_t lastLetters(const TextView (&endings)[N]) {
+    std::uint32_t letters = 0;
+    for (const TextView ending : endings) {
+        letters |= 1U << (ending.back() - u'a');
+    }
+    return letters;
+}
+
+template <const auto& endings>
+bool endsWithAny(TextView text) {
     // Most endings are told by their last letter.
-    return !text.empty() && std::any_of(std::begin(endings), std::end(endings), [&](TextView ending) {
-        return text.back() == ending.back() && endsWith(text, ending);
-    });
+    constexpr std::uint32_t kLastLetters = lastLetters(endings);
+    const unsigned last = text.empty() ? 0U : static_cast<unsigned>(text.back()) - u'a';
+    return last <= u'z' - u'a' && (kLastLetters >> last & 1U) != 0 && !text.empty() &&
+           std::any_of(std::begin(endings), std::end(endings),
+                       [&](TextView ending) { return text.back() == ending.back() && text.ends_with(ending); });
 }
 
 bool hasPeopleEnding(TextView lowered) {
     if (endsWith(lowered, u"s")) {
         lowered.remove_suffix(1);
     }
-    return lowered.size() >= 5 && endsWithAny(lowered, kPeopleEndings) && !endsWithAny(lowered, kCommonEndings) &&
+    return lowered.size() >= 5 && endsWithAny<kPeopleEndings>(lowered) && !endsWithAny<kCommonEndings>(lowered) &&
            !Lexicon::instance().find(lowered, lowered).is(kCommonInNameSuffix);
 }
 
 bool hasSurnameEnding(TextView lowered, Known known) {
-    return lowered.size() >= 6 && endsWithAny(lowered, kSurnameEndings) && !endsWith(lowered, u"person") &&
+    return lowered.size() >= 6 && endsWithAny<kSurnameEndings>(lowered) && !endsWith(lowered, u"person") &&
            !known.is(kCommonInSurnameEnding);
 }
 
 /// Takes an ending off a word that is long enough to have it.
 bool takesOff(TextView& word, TextView ending) {
     if (word.back() != ending.back() || word.size() <= std::max<std::size_t>(3, 2 * ending.size()) ||
-        !endsWith(word, ending)) {
+        !word.ends_with(ending)) {
         return false;
     }
     word.remove_suffix(ending.size());
@@ -82,7 +96,7 @@ bool isLongName(TextView word, TextView lowered) {
             return isListed(word, lowered, kPlace);
         }
     }
-    return endsWithAny(lowered, kTaxonEndings);
+    return endsWithAny<kTaxonEndings>(lowered);
 }
 
 }  // namespace
@@ -130,13 +144,13 @@ bool hasForeignLetter(TextView lowered, Known known) {
 }
 
 bool endsAsNoun(TextView lowered) {
-    return endsWithAny(lowered, kNounEndings);
+    return endsWithAny<kNounEndings>(lowered);
 }
 bool endsAsAgent(TextView lowered) {
-    return endsWithAny(lowered, kAgentEndings);
+    return endsWithAny<kAgentEndings>(lowered);
 }
 bool endsAsAdjective(TextView lowered) {
-    return endsWithAny(lowered, kAdjectiveEndings);
+    return endsWithAny<kAdjectiveEndings>(lowered);
 }
 bool endsAsQuality(TextView lowered) {
     return std::any_of(std::begin(kQualityEndings), std::end(kQualityEndings), [&](TextView ending) {
@@ -144,13 +158,13 @@ bool endsAsQuality(TextView lowered) {
     });
 }
 bool endsAsPeople(TextView lowered) {
-    return endsWithAny(lowered, kPeopleEndings);
+    return endsWithAny<kPeopleEndings>(lowered);
 }
 bool endsAsEpithet(TextView lowered) {
-    return endsWithAny(lowered, kEpithetEndings);
+    return endsWithAny<kEpithetEndings>(lowered);
 }
 bool endsAsDerived(TextView lowered) {
-    return endsWithAny(lowered, kDerivedEndings);
+    return endsWithAny<kDerivedEndings>(lowered);
 }
 
 }  // namespace quorvel::titleshapes

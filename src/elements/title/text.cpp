@@ -12,6 +12,8 @@ namespace {
 
 constexpr char16_t kEmDash = u'\u2014';
 
+constexpr TextView kForeignSpellings[] = {u"\u0161", u"trz", u"sz"};
+
 // What a character is in a title.
 enum UnitKind : std::uint8_t {
     kLetterOrDigit = 1,
@@ -19,6 +21,9 @@ enum UnitKind : std::uint8_t {
     kCapital = 4,
     kPartBreak = 8,
     kBeyondAscii = 16,
+    kForeignSign = 32,
+    // Ends a word with what hangs on it: a blank, an em dash.
+    kBetweenWords = 64,
 };
 
 constexpr std::array<std::uint8_t, 0x80> kAsciiKinds = [] {
@@ -31,13 +36,15 @@ constexpr std::array<std::uint8_t, 0x80> kAsciiKinds = [] {
                                                 (isCapital ? kCapital : 0) | (isDigit ? kDigit : 0));
     }
     kinds[u'-'] = kinds[u'/'] = kPartBreak;
+    kinds[u' '] = kBetweenWords;
+    kinds[u'z'] |= kForeignSign;
+    kinds[u'Z'] |= kForeignSign;
     return kinds;
 }();
 
-/// @param lowered the character in lower case
-std::uint8_t kindOf(char16_t unit, char16_t lowered) {
-    if (unit < 0x80) {
-        return kAsciiKinds[unit];
+std::uint8_t kindBeyondAscii(char16_t unit, char16_t lowered) {
+    if (unit == kEmDash) {
+        return kBetweenWords;
     }
     if (unit == kEnDash || unit == u'\u2010' || unit == u'\u2011') {
         return kPartBreak;
@@ -46,7 +53,13 @@ std::uint8_t kindOf(char16_t unit, char16_t lowered) {
     if (unit < 0xC0 || (unit >= 0x2000 && unit <= 0x206F)) {
         return 0;
     }
-    return static_cast<std::uint8_t>(kLetterOrDigit | kBeyondAscii | (unit != lowered ? kCapital : 0));
+    return static_cast<std::uint8_t>(kLetterOrDigit | kBeyondAscii | (unit != lowered ? kCapital : 0) |
+                                     (lowered == u'\u0161' ? kForeignSign : 0));
+}
+
+/// @param lowered the character in lower case
+inline std::uint8_t kindOf(char16_t unit, char16_t lowered) {
+    return unit < 0x80 ? kAsciiKinds[unit] : kindBeyondAscii(unit, lowered);
 }
 
 bool isWordUnit(char16_t unit) {
@@ -91,9 +104,14 @@ public:
         while (i < mText.size()) {
             if (isWordUnit(mText[i])) {
                 i = readWord(i);
+                // Nearly always one blank and the next word.
+                const bool isPlain = i + 1 < mText.size() && mText[i] == u' ' && isWordUnit(mText[i + 1]) &&
+                                     isWordUnit(mText[i - 1]) && mNextPiece <= i;
+                i += isPlain ? 1 : 0;
                 continue;
             }
-            if (mText[i] == u' ') {
+            // Behind a letter no piece ends.
+            if (mText[i] == u' ' && i > 0 && !isWordUnit(mText[i - 1])) {
                 const std::size_t next = nextPiece(mText, mTitle.lowered, i);
                 mNextPiece = next != 0 ? next : mNextPiece;
             }
@@ -105,6 +123,8 @@ public:
             }
         }
         endPiece();
+        // Few titles hold the letters in which these end.
+        mTitle.hasForeignSpelling = (mKinds & kForeignSign) != 0 && containsOneOf(mTitle.lowered, kForeignSpellings);
     }
 
 private:
@@ -127,26 +147,33 @@ private:
     /// @return the end of the word and of the marks behind it
     std::size_t readWord(std::size_t begin) {
         const std::uint8_t first = kindOf(mText[begin], mTitle.lowered[begin]);
-        std::uint8_t others = 0;
-        std::uint8_t othersOfCore = 0;
+        unsigned others = 0;
+        unsigned othersOfCore = 0;
         std::size_t coreEnd = begin + 1;
         std::size_t end = begin + 1;
-        for (; end < mText.size() && mText[end] != u' ' && mText[end] != kEmDash; ++end) {
-            const std::uint8_t kind = kindOf(mText[end], mTitle.lowered[end]);
-            others |= kind;
-            if ((kind & kLetterOrDigit) != 0) {
-                // What stands behind the last letter is not part of the word.
-                coreEnd = end + 1;
-                othersOfCore = others;
+        for (; end < mText.size(); ++end) {
+            const unsigned kind = kindOf(mText[end], mTitle.lowered[end]);
+            if ((kind & kBetweenWords) != 0) {
+                break;
             }
+            others |= kind;
+            // What stands behind the last letter is not part of the word.
+            coreEnd = (kind & kLetterOrDigit) != 0 ? end + 1 : coreEnd;
+            othersOfCore = (kind & kLetterOrDigit) != 0 ? others : othersOfCore;
         }
         const std::size_t wordBefore = mIsFirst ? begin : mTitle.words.back().core.end;
         const Range core = {begin, coreEnd};
-        Word& word = mTitle.words.emplace_back(core, mTitle.find(core), mPiece);
-        word.name.end = begin + withoutPossessive(slice(mText, core)).size();
-        if (word.isPossessive()) {
-            word.knownName = mTitle.find(word.name);
+        const std::size_t size = coreEnd - begin;
+        const words::Known known = mLexicon.find({mText.data() + begin, size}, {mTitle.lowered.data() + begin, size});
+        Word& word = mTitle.words.emplace_back(core, known, mPiece);
+        if (mTitle.lowered[coreEnd - 1] == u's') {
+            word.name.end = begin + withoutPossessive(slice(mText, core)).size();
+            if (word.isPossessive()) {
+                word.knownName = mTitle.find(word.name);
+            }
         }
+        mTitle.classes |= word.known.classes;
+        mKinds |= first | others;
         word.isFirst = mIsFirst || mIsAfterDash;
         word.beginsSubtitle = word.isFirst && (mIsAfterDash || mMark == u':' || mMark == u',');
         word.beginsClause = mIsFirst && !mIsAfterDash && mMark == u';';
@@ -163,10 +190,13 @@ private:
 
     TitleText& mTitle;
     TextView mText;
+    const words::Lexicon& mLexicon = words::Lexicon::instance();
     std::size_t mPiece = 0;
     std::size_t mNextPiece = 0;
     bool mIsFirst = true;
     bool mIsAfterDash = false;
+    // Of the characters of all words.
+    unsigned mKinds = 0;
     // The mark that ended the piece before.
     char16_t mMark = u' ';
 };
@@ -185,11 +215,11 @@ TextView wordBefore(TextView text, std::size_t end) {
 
 }  // namespace
 
-TitleText readTitle(TextView title) {
-    TitleText result{title, toLower(title), {}};
-    std::replace(result.lowered.begin(), result.lowered.end(), words::kApostrophe, u'\'');
-    Reader(result).run();
-    return result;
+TitleText::TitleText(TextView title) : text(title), lowered(toLower(title)) {
+    if (anyUnit(title, [](char16_t unit) { return unit == words::kApostrophe; })) {
+        std::replace(lowered.begin(), lowered.end(), words::kApostrophe, u'\'');
+    }
+    Reader(*this).run();
 }
 
 std::span<Word> TitleText::pieceFrom(std::size_t word) {
@@ -222,13 +252,6 @@ bool isStopOfWord(TextView text, std::size_t stop) {
     }
     const bool isInitials = word.size() >= 3 && word[word.size() - 2] == u'.';
     return isInitials || words::Lexicon::instance().find(word, toLower(word)).is(titlewords::kAbbreviation);
-}
-
-void capitalizeAt(Text& text, std::size_t index) {
-    text[index] = toUpper(text[index]);
-}
-void lowerAt(Text& text, std::size_t index) {
-    text[index] = toLower(text[index]);
 }
 
 bool isAcronym(TextView word) {

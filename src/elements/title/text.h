@@ -1,9 +1,12 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <memory_resource>
 #include <span>
 #include <vector>
 
+#include "core/letter_case.h"
 #include "core/text.h"
 #include "elements/words/lexicon.h"
 
@@ -61,15 +64,27 @@ struct Word {
     bool isPossessive() const { return name.end != core.end; }
 };
 
-/// A title and its words. It borrows the title.
+/// A title and its words, which it reads. It borrows the title.
 ///
 /// The pieces of a title are what stands between ": ", ". ", "; ", "! " and "? ". A full stop behind an
 /// initial or an abbreviation ends none ("E. coli", "vs. ", "U.S.S. "), and "; or, " is no end of its own.
-struct TitleText {
+class TitleText {
+    // Of most titles all words stand here, where they cost no memory of the heap.
+    static constexpr std::size_t kRoom = 24 * sizeof(Word);
+    std::array<std::byte, kRoom> mRoom;
+    std::pmr::monotonic_buffer_resource mMemory{mRoom.data(), mRoom.size()};
+
+public:
+    explicit TitleText(TextView title);
+
     TextView text;
     /// The same in lower case and with straight apostrophes, as the lexicon is asked.
     Text lowered;
-    std::vector<Word> words;
+    std::pmr::vector<Word> words{&mMemory};
+    /// The classes that any of the words has.
+    titlewords::WordClasses classes = 0;
+    /// Holds "\u0161", "trz" or "sz".
+    bool hasForeignSpelling = false;
 
     TextView lower(Range range) const { return slice(lowered, range); }
     /// What the lexicon knows of a part of a word.
@@ -78,7 +93,9 @@ struct TitleText {
     std::span<Word> pieceFrom(std::size_t word);
 };
 
-TitleText readTitle(TextView title);
+inline TitleText readTitle(TextView title) {
+    return TitleText(title);
+}
 
 /// The parts of a word between hyphens, dashes and slashes, in place of what `parts` held.
 void splitWord(TextView text, Range word, std::vector<Range>& parts);
@@ -97,7 +114,11 @@ TextView withoutPossessive(TextView word);
 /// Whether a full stop at this place belongs to its word: behind an initial or an abbreviation.
 bool isStopOfWord(TextView text, std::size_t stop);
 
-void capitalizeAt(Text& text, std::size_t index);
-void lowerAt(Text& text, std::size_t index);
+inline void capitalizeAt(Text& text, std::size_t index) {
+    text[index] = toUpper(text[index]);
+}
+inline void lowerAt(Text& text, std::size_t index) {
+    text[index] = toLower(text[index]);
+}
 
 }  // namespace quorvel::titlecase

@@ -100,7 +100,9 @@ void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"secondaryStr", secondaryStr}}, [&] {
         text = cleanUp(text);
         mTitleType = secondaryStr;
-        mValues.assign(mValues.size(), Text());
+        for (Text& value : mValues) {
+            value.clear();
+        }
         mPunctuation.clear();
         if (mAuthorTemplate) {
             held(mAuthorTemplate)->ClearAuthors();
@@ -122,7 +124,9 @@ void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
                 text.pop_back();
             }
         }
-        const std::size_t colon = text.find(kSubtitleSeparator);
+        // Most titles have no subtitle.
+        const bool hasColon = anyUnit(text, [](char16_t unit) { return unit == u':'; });
+        const std::size_t colon = hasColon ? text.find(kSubtitleSeparator) : Text::npos;
         mValues.at(kTitle) = trim(TextView(text).substr(0, colon));
         if (colon != Text::npos) {
             mValues.at(kSubtitle) = trim(TextView(text).substr(colon + kSubtitleSeparator.size()));
@@ -156,7 +160,9 @@ void OutputTemplateTitle::parseAndRemovePrematter(Text& text, TextView secondary
     procedure(*this, u"parseAndRemovePrematter", {{u"text", text}, {u"secondaryStr", secondaryStr}}, [&] {
         Text type;
         for (const Text& name : mPrematterTypes) {
-            type = startsWithIgnoringCase(text, name) ? name : type;
+            if (startsWithIgnoringCase(text, name)) {
+                type = name;
+            }
         }
         bool isFound = titletypes::isPrematter(secondaryStr);
         if (type.empty() && !isFound) {

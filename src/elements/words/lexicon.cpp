@@ -12,26 +12,48 @@ using titlewords::WordClasses;
 
 namespace {
 
-bool areSame(TextView left, TextView right) {
-    return left.size() == right.size() && std::memcmp(left.data(), right.data(), left.size() * sizeof(char16_t)) == 0;
+constexpr std::size_t kLettersAtATime = 4;
+
+std::uint64_t fourLettersAt(const char16_t* word) {
+    std::uint64_t letters = 0;
+    std::memcpy(&letters, word, sizeof letters);
+    return letters;
 }
 
-/// Four letters at a time: a word is a handful of them.
-std::uint32_t hashOf(TextView word) {
+/// Four letters at a time: a word is a handful of them. The last four overlap those before.
+inline std::uint32_t hashOf(TextView word) {
     constexpr std::uint64_t kFactor = 0x9E3779B97F4A7C15U;
-    std::uint64_t hash = word.size() * kFactor;
-    for (; word.size() >= 4; word.remove_prefix(4)) {
-        std::uint64_t letters = 0;
-        std::memcpy(&letters, word.data(), sizeof letters);
-        hash = (hash ^ letters) * kFactor;
-        hash ^= hash >> 32U;
+    const char16_t* const letters = word.data();
+    const std::size_t size = word.size();
+    std::uint64_t hash = size * kFactor;
+    if (size >= kLettersAtATime) {
+        for (std::size_t i = 0; i + kLettersAtATime < size; i += kLettersAtATime) {
+            hash = (hash ^ fourLettersAt(letters + i)) * kFactor;
+            hash ^= hash >> 32U;
+        }
+        hash ^= fourLettersAt(letters + size - kLettersAtATime);
+    } else if (size > 0) {
+        // All of three letters and fewer.
+        hash ^= letters[0] | std::uint64_t{letters[size / 2]} << 16U | std::uint64_t{letters[size - 1]} << 32U;
     }
-    std::uint64_t rest = 0;
-    for (const char16_t unit : word) {
-        rest = rest << 16U | unit;
+    return static_cast<std::uint32_t>(hash * kFactor >> 32U);
+}
+
+inline bool areSame(TextView left, TextView right) {
+    const std::size_t size = left.size();
+    if (size != right.size()) {
+        return false;
     }
-    hash = (hash ^ rest) * kFactor;
-    return static_cast<std::uint32_t>(hash >> 32U);
+    if (size < kLettersAtATime) {
+        return std::equal(left.begin(), left.end(), right.begin());
+    }
+    for (std::size_t i = 0; i + kLettersAtATime < size; i += kLettersAtATime) {
+        if (fourLettersAt(left.data() + i) != fourLettersAt(right.data() + i)) {
+            return false;
+        }
+    }
+    const std::size_t last = size - kLettersAtATime;
+    return fourLettersAt(left.data() + last) == fourLettersAt(right.data() + last);
 }
 
 /// The same letters in the same case; the lists write the straight apostrophe.
@@ -83,9 +105,23 @@ Lexicon::Lexicon() {
     layOut(phrases);
 }
 
+inline std::size_t Lexicon::slotOf(TextView lowered, std::uint32_t hash) const {
+    const std::size_t mask = mSlots.size() - 1;
+    std::size_t slot = hash & mask;
+    while (mSlots[slot].entry != 0 &&
+           (mSlots[slot].hash != hash || !areSame(mEntries[mSlots[slot].entry].lowered, lowered))) {
+        slot = (slot + 1) & mask;
+    }
+    return slot;
+}
+
 Known Lexicon::find(TextView word, TextView lowered) const {
-    const EntryId entry = mSlots[slotOf(lowered, hashOf(lowered))].entry;
-    return {entry, mEntries[entry].inPersons, classesOf(entry, word)};
+    const EntryId id = mSlots[slotOf(lowered, hashOf(lowered))].entry;
+    if (id == 0) {
+        return {};
+    }
+    const Entry& entry = mEntries[id];
+    return {id, entry.inPersons, entry.form == 0 ? entry.anyCase : classesOf(id, word)};
 }
 
 std::uint32_t Lexicon::inPersons(TextView lowered) const {
@@ -96,7 +132,7 @@ std::uint32_t Lexicon::inPersons(TextView lowered) const {
 WordClasses Lexicon::classesOf(EntryId entry, TextView word) const {
     WordClasses classes = mEntries[entry].anyCase;
     for (std::uint32_t form = mEntries[entry].form; form != 0; form = mForms[form].next) {
-        if (isWrittenAs(word, mForms[form].word)) {
+        if (areSame(word, mForms[form].word) || isWrittenAs(word, mForms[form].word)) {
             classes |= mForms[form].classes;
         }
     }
@@ -205,16 +241,6 @@ void Lexicon::grow() {
             mSlots[slotOf(mEntries[slot.entry].lowered, slot.hash)] = slot;
         }
     }
-}
-
-std::size_t Lexicon::slotOf(TextView lowered, std::uint32_t hash) const {
-    const std::size_t mask = mSlots.size() - 1;
-    std::size_t slot = hash & mask;
-    while (mSlots[slot].entry != 0 &&
-           (mSlots[slot].hash != hash || !areSame(mEntries[mSlots[slot].entry].lowered, lowered))) {
-        slot = (slot + 1) & mask;
-    }
-    return slot;
 }
 
 }  // namespace quorvel::words
