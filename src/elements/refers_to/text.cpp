@@ -37,13 +37,11 @@ constexpr TextView kWordsBeforeNumbers[] = {u"Vol", u"Vols", u"No", u"no", u"Pt"
 constexpr TextView kNewSeries[] = {u"n.s.", u"ns", u"n.s", u"new ser.", u"new series", u"new"};
 constexpr TextView kOldSeries[] = {u"o.s.", u"os", u"o.s", u"old ser.", u"old series", u"old"};
 constexpr TextView kSeriesWords[] = {u" ser.", u" series"};
-constexpr TextView kOrdinalEnds[] = {u"st", u"nd", u"rd", u"th", u"2d", u"3d"};
 constexpr TextView kOrdinalWords[] = {u"first", u"second", u"third", u"fourth", u"fifth", u"sixth"};
 
 // Their full stop ends no sentence; neither does an initial's.
 constexpr TextView kAbbreviations[] = {u"St",  u"Mt",  u"Ft",   u"Dr",  u"vs",  u"Jan", u"Feb", u"Mar",
                                        u"Apr", u"Aug", u"Sept", u"Oct", u"Nov", u"Dec", u"no",  u"nr"};
-constexpr TextView kInLead = u". In: ";
 
 constexpr TextView kFirstYear = u"1400";
 constexpr TextView kLastYear = u"2099";
