@@ -11,7 +11,8 @@ bool hasForeignSpelling(const titlecase::TitleText& title);
 /// Foreign by its spelling, or in an old one: "doe", "whereunto".
 bool isOld(const titlecase::TitleText& title);
 /// Not foreign by its spelling, and its short words are not those of French, German, Spanish, Italian,
-/// Portuguese, Dutch or Latin. A title without any short word is English.
+/// Portuguese, Dutch, Latin, the Scandinavian and some other languages. A title whose words show no language is
+/// English.
 bool isEnglish(const titlecase::TitleText& title);
 /// Its letters stay as typed: an address, or no small letter at all ("JAMA").
 bool isPreformatted(TextView title);

@@ -215,6 +215,8 @@ TextView wordBefore(TextView text, std::size_t end) {
 
 }  // namespace
 
+// Its room is written when a word needs it.
+// NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
 TitleText::TitleText(TextView title) : text(title), lowered(toLower(title)) {
     if (anyUnit(title, [](char16_t unit) { return unit == words::kApostrophe; })) {
         std::replace(lowered.begin(), lowered.end(), words::kApostrophe, u'\'');
