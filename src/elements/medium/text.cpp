@@ -105,6 +105,10 @@ bool isDisc(TextView caption) {
     return caption == kCD || caption == kDVD;
 }
 
+bool arePages(TextView text) {
+    return startsWith(text, u"p. ") || startsWith(text, u"pp. ");
+}
+
 bool isMicroform(TextView caption) {
     return caption == kMicroform || caption == kMicrofilm || caption == kMicrofiche;
 }
