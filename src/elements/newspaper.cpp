@@ -82,7 +82,9 @@ struct TitleAndCity {
 
 /// A city is a text in one pair of brackets.
 bool isCity(TextView text) {
-    return !text.empty() && text.find_first_of(kAllBrackets) == TextView::npos && !endsWithOneOf(text, kEndsOfEditions);
+    const bool isEdition = std::any_of(std::begin(kEndsOfEditions), std::end(kEndsOfEditions),
+                                       [&](TextView end) { return endsWithIgnoringCase(text, end); });
+    return !text.empty() && text.find_first_of(kAllBrackets) == TextView::npos && !isEdition;
 }
 
 std::optional<TitleAndCity> ifBothThere(TextView title, TextView city) {

@@ -33,16 +33,27 @@ struct LeadIn {
 
 // In the order in which they are tried.
 constexpr LeadIn kLeadIns[] = {
-    {kAbstractRetrievedFrom, true, true}, {kAbstract, true, true},
+    {kAbstractRetrievedFrom, true, true},
+    {kAbstract, true, true},
     {u"Abstract ", true, false},         // Abstract http://www.example.org
     {kRetrievedFrom, false, false},      // APA 6 6.32
     {u"Available from ", false, false},  // Available from http://www.example.org
-    {u"Available at: ", false, false},    {u"Available at ", false, false},
+    {u"Available at: ", false, false},
+    {u"Available at ", false, false},
+    {u"URL: ", false, false},
 };
 
 // "Retrieved May 5, 2011, from http://www.example.org"
 constexpr TextView kRetrieved = u"Retrieved ";
 constexpr TextView kFrom = u" from ";
+
+// "accessed May 5, 2011, http://www.example.org"
+constexpr TextView kAccessed = u"Accessed ";
+constexpr TextView kBeginningsOfSources[] = {u" http://", u" https://", u" www.", u" doi:"};
+
+// APA 6 7.01; the text keeps it.
+constexpr TextView kAdvance = u"Advance online publication";
+constexpr TextView kAdvanceBeforeSource = u"Advance online publication. ";
 
 // What follows an address: "http://www.example.org. Published May 2, 2008. Accessed May 5, 2009."
 constexpr TextView kStatementsOfAccess[] = {u"accessed", u"retrieved", u"viewed", u"published", u"updated"};
@@ -56,7 +67,8 @@ constexpr TextView kPostfixes[] = {
     u"html", u"htm", u"shtml", u"php", u"asp",  u"aspx",   u"jsp", u"com", u"org", u"net", u"edu", u"gov",
     u"mil",  u"int", u"info",  u"biz", u"name", u"museum", u"uk",  u"ca",  u"au",  u"de",  u"fr",  u"jp",
     u"us",   u"eu",  u"ch",    u"nl",  u"it",   u"es",     u"se",  u"no",  u"dk",  u"fi",  u"nz",  u"ie",
-    u"in",   u"br",  u"ru",    u"cn",  u"at",   u"be",     u"pl",  u"za",  u"il",  u"kr",  u"mx",
+    u"in",   u"br",  u"ru",    u"cn",  u"at",   u"be",     u"pl",  u"za",  u"il",  u"kr",  u"mx",  u"io",
+    u"co",   u"tv",  u"gr",    u"pt",  u"hu",   u"cz",     u"tr",  u"hk",  u"tw",  u"sg",
 };
 constexpr TextView kSignsOfSites[] = {u"www.", u"ftp"};
 constexpr TextView kEndsOfName = u"/?%#:";
@@ -96,17 +108,34 @@ constexpr TextView kDatabases[] = {
 /// A source that stands behind a lead-in.
 struct Led {
     TextView source;
-    /// The date of "Retrieved May 5, 2011, from".
+    /// The date of "Retrieved May 5, 2011, from", or another statement that stands before the source.
     TextView date;
     bool isAbstract = false;
     bool isSure = false;
 };
+
+/// "May 5, 2011, http://www.example.org"
+std::optional<Led> behindAccess(TextView text) {
+    std::size_t source = text.size();
+    for (const TextView beginning : kBeginningsOfSources) {
+        source = std::min(source, text.find(beginning));
+    }
+    const TextView date = trim(text.substr(0, source), kSignsBehind);
+    const bool isKnown = source < text.size() && date.find_first_of(kDigits) != TextView::npos;
+    return isKnown ? std::optional<Led>({trim(text.substr(source)), date, false, false}) : std::nullopt;
+}
 
 std::optional<Led> led(TextView text) {
     for (const LeadIn& leadIn : kLeadIns) {
         if (startsWithIgnoringCase(text, leadIn.text)) {
             return Led{trim(text.substr(leadIn.text.size())), {}, leadIn.isAbstract, leadIn.isSure};
         }
+    }
+    if (startsWithIgnoringCase(text, kAdvanceBeforeSource)) {
+        return Led{trim(text.substr(kAdvanceBeforeSource.size())), text.substr(0, kAdvance.size()), false, false};
+    }
+    if (startsWithIgnoringCase(text, kAccessed)) {
+        return behindAccess(text.substr(kAccessed.size()));
     }
     if (!startsWithIgnoringCase(text, kRetrieved)) {
         return std::nullopt;
@@ -134,6 +163,13 @@ std::size_t statementOfAccess(TextView text) {
     const std::size_t blank = std::min(text.find(u' '), text.size());
     const TextView behind = trim(text.substr(blank), kSignsAround);
     return startsWithOneOfIgnoringCase(behind, kStatementsOfAccess) ? blank : text.size();
+}
+
+/// A database without the number that it has for the work: "PsycINFO database" for "PsycINFO database. (Accession No.
+/// 1)".
+TextView withoutNumber(TextView text) {
+    const std::size_t open = text.ends_with(u')') ? text.rfind(u'(') : TextView::npos;
+    return open == TextView::npos ? text : text.substr(0, text.substr(0, open).find_last_not_of(kSignsBehind) + 1);
 }
 
 TextView schemeOf(TextView text) {
@@ -237,16 +273,17 @@ void OutputTemplateOnline::Parse(Text& text, TextView previousStr) {
 bool OutputTemplateOnline::parseSource(Text& text) {
     mOnline.clear();
     isDatabase = mIsEric = mIsURL = mIsDOI = mIsHTTPS = mHasOtherScheme = false;
-    if (parseEric(text) || parseDatabase(text)) {
+    if (parseEric(text)) {
         text.clear();
         return true;
     }
-    return parseAndRemoveDOI(text) || parseAddress(text);
+    return parseDatabase(text) || parseAndRemoveDOI(text) || parseAddress(text);
 }
 
-/// "ERIC database. (ED482912)", "ED482912"
+/// "ERIC database. (ED482912)", "(ERIC Document Reproduction Service No. ED346082)", "ED482912"
 bool OutputTemplateOnline::parseEric(TextView text) {
     return procedure(*this, u"parseEric", {{u"text", text}}, [&] {
+        text = trim(text, kSignsAroundEric);
         const auto* const words = std::find_if(std::begin(kEricWords), std::end(kEricWords),
                                                [&](TextView entry) { return startsWithIgnoringCase(text, entry); });
         const TextView behind = text.substr(words != std::end(kEricWords) ? words->size() : 0);
@@ -259,19 +296,23 @@ bool OutputTemplateOnline::parseEric(TextView text) {
     });
 }
 
-/// "database: PsycINFO", "PsycINFO database", "PsycINFO"
-bool OutputTemplateOnline::parseDatabase(TextView text) {
+/// "database: PsycINFO", "PsycINFO database", "PsycINFO", "PsycINFO database. (Accession No. 1)"
+bool OutputTemplateOnline::parseDatabase(Text& text) {
+    const TextView statement = withoutNumber(text);
     TextView name;
+    TextView left;
     if (startsWithIgnoringCase(text, kDatabasePrefix)) {
-        name = trim(text.substr(kDatabasePrefix.size()));
-    } else if (endsWithIgnoringCase(text, kDatabaseSuffix) && schemeOf(text).empty()) {
-        name = trim(text.substr(0, text.size() - kDatabaseSuffix.size()));
+        name = trim(TextView(text).substr(kDatabasePrefix.size()));
+    } else if (endsWithIgnoringCase(statement, kDatabaseSuffix) && schemeOf(text).empty()) {
+        name = trim(statement.substr(0, statement.size() - kDatabaseSuffix.size()));
+        left = trim(TextView(text).substr(statement.size()), kSignsBehind);
     } else if (isOneOfIgnoringCase(text, kDatabases)) {
         name = text;
     }
     isDatabase = !name.empty();
     if (isDatabase) {
         mOnline = name;
+        text = Text(left);
     }
     return isDatabase;
 }

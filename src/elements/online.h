@@ -37,11 +37,12 @@ inline constexpr std::tuple kOnlineOptions{
 ///   doi:10.1000/182; DOI: 10.1000/182; 10.1000/182;             DOI           10.1000/182
 ///   http://dx.doi.org/10.1000/182; https://doi.org/10.1000/182
 ///   PsycINFO database; database: PsycINFO; JSTOR                database      PsycINFO; JSTOR
+///   PsycINFO database. (Accession No. 1)                        database      PsycINFO; the text keeps the number
 ///   ERIC database. (ED482912); ERIC ED 482 912; ED482912        ERIC number   ED482912
 ///   anything else                                               plain         as it stands
 ///
 /// Each may have "Retrieved from" before it, also with a date, or a mark that it is an abstract ("Abstract:",
-/// "Abstract retrieved from"), and an address or a DOI a statement of access behind it.
+/// "Abstract retrieved from"), and an address or a DOI a statement of access behind or before it.
 ///
 /// Styles: MLA 7 5.6.1, 5.6.4, APA 6 6.31-32, 7.01, Turabian 7 17.1.10, AMA 10 3.15.
 class OutputTemplateOnline final : public Instrumented {
@@ -90,7 +91,7 @@ private:
     bool isDOI(TextView text) const;
 
     bool parseSource(Text& text);
-    bool parseDatabase(TextView text);
+    bool parseDatabase(Text& text);
     bool parseAddress(Text& text);
     bool isStatement() const;
     Text source() const;

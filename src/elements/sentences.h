@@ -16,4 +16,16 @@ inline std::size_t lastSentence(TextView text) {
     return 0;
 }
 
+/// A name without the full stop of its sentence: that of an initial, of "Jr." and of "et al." stays.
+inline TextView withoutStopOfSentence(TextView name) {
+    constexpr TextView kAbbreviations[] = {u"Jr", u"Sr", u"al"};
+    if (!name.ends_with(u'.')) {
+        return name;
+    }
+    const TextView shortened = name.substr(0, name.size() - 1);
+    const TextView last = shortened.substr(shortened.find_last_of(u" .-") + 1);
+    const bool isInitial = last.size() == 1 && isCapital(last.front());
+    return isInitial || isOneOf(last, kAbbreviations) ? name : shortened;
+}
+
 }  // namespace quorvel

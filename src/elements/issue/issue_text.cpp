@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/letter_case.h"
+#include "elements/sentences.h"
 #include "elements/title/quotes.h"
 #include "elements/volume_numbers.h"
 
@@ -20,6 +21,10 @@ constexpr TextView kOpeningSigns = u" ([,.;";
 
 constexpr TextView kNumberWords[] = {u"no. ", u"nos. ", u"no ", u"nr. ", u"issue "};
 
+// What may stand between a number and a second one, and before that. The longer ones first.
+constexpr TextView kNumberJoints[] = {u" and ", u" & ", u", ", u" "};
+constexpr TextView kPartWords[] = {u"pt. ", u"pt ", u"part "};
+
 // The longer ones first.
 constexpr TextView kSupplementWords[] = {
     u"supplemental material", u"supplement", u"suppl.", u"suppl", u"supp.", u"supp"};
@@ -29,9 +34,6 @@ constexpr TextView kOf = u" of ";
 // Each stands behind a blank or at the front.
 constexpr TextView kEditorWords[] = {u"ed. ", u"eds. ", u"edited by "};
 
-// A full stop behind these belongs to them: "Henry Louis Gates, Jr."
-constexpr TextView kAbbreviations[] = {u"Jr", u"Sr", u"al"};
-
 constexpr char16_t kQuotes[] = {kLeftDoubleQuotationMark, kRightDoubleQuotationMark, u'"'};
 
 bool isQuote(char16_t unit) {
@@ -40,18 +42,6 @@ bool isQuote(char16_t unit) {
 
 bool isInParentheses(TextView text) {
     return text.size() > 2 && text.front() == u'(' && text.find(u')') == text.size() - 1;
-}
-
-/// What is joined to a person's name by no more than the sentence: a full stop of an initial or of "Jr." stays.
-TextView withoutEnd(TextView name) {
-    name = trim(name, u" ,;");
-    if (!name.ends_with(u'.')) {
-        return name;
-    }
-    const TextView shortened = name.substr(0, name.size() - 1);
-    const TextView last = shortened.substr(shortened.find_last_of(u" .-") + 1);
-    const bool isInitial = last.size() == 1 && isCapital(last.front());
-    return isInitial || isOneOf(last, kAbbreviations) ? name : shortened;
 }
 
 /// A title without the comma or full stop that joins it to what follows; an ellipsis and "U.S." stay.
@@ -91,20 +81,43 @@ std::optional<FoundWord> findWord(TextView text, const TextView (&words)[N]) {
     return std::nullopt;
 }
 
+/// "4", "3 and 4", "3, pt. 1"
+bool areNumbers(TextView text) {
+    const TextView first = text.substr(0, text.find_first_of(u" ,"));
+    TextView rest = text.substr(first.size());
+    if (rest.empty() || first.empty() || !isDigit(first.front())) {
+        return isNumber(text);
+    }
+    const auto* const joint = std::find_if(std::begin(kNumberJoints), std::end(kNumberJoints),
+                                           [&](TextView entry) { return startsWith(rest, entry); });
+    if (joint == std::end(kNumberJoints)) {
+        return false;
+    }
+    rest.remove_prefix(joint->size());
+    const auto* const part = std::find_if(std::begin(kPartWords), std::end(kPartWords),
+                                          [&](TextView word) { return startsWithIgnoringCase(rest, word); });
+    const bool isPart = part != std::end(kPartWords);
+    rest.remove_prefix(isPart ? part->size() : 0);
+    // "4 2001" is no pair.
+    return isNumber(rest) && (isPart || *joint != kBlank);
+}
+
 }  // namespace
 
 TextView withoutWord(TextView text) {
     const TextView inside = isInParentheses(text) ? trim(text.substr(1, text.size() - 2)) : text;
     for (const TextView word : kNumberWords) {
-        if (startsWithIgnoringCase(inside, word) && isNumber(trim(inside.substr(word.size())))) {
+        if (startsWithIgnoringCase(inside, word) && areNumbers(trim(inside.substr(word.size())))) {
             return trim(inside.substr(word.size()));
         }
     }
-    return isNumber(inside) ? inside : text;
+    return areNumbers(inside) ? inside : text;
 }
 
 bool isNumber(TextView text) {
-    return !contains(text, kBlank) && (text.find_first_of(kDigits) != TextView::npos || volumenumbers::isNumber(text));
+    const bool isOpen = contains(text, u"(") && !contains(text, u")");
+    return !contains(text, kBlank) && !isOpen &&
+           (text.find_first_of(kDigits) != TextView::npos || volumenumbers::isNumber(text));
 }
 
 std::optional<Supplement> supplement(TextView text) {
@@ -144,6 +157,11 @@ std::optional<Special> special(TextView text) {
     }
     // The bracket that opened before the words.
     const TextView rest = trim(behind, kSignsAndBrackets);
+    // APA 6 7.01
+    const bool endsBrackets = behind.starts_with(u"].") || behind.starts_with(u"],");
+    if (endsBrackets && !rest.empty()) {
+        return Special{trim(front, u" ,;:(["), trim(behind.substr(2))};
+    }
     if (rest.empty()) {
         return Special{trim(front, u" ,;:(["), {}};
     }
@@ -154,7 +172,7 @@ std::optional<Special> special(TextView text) {
 SpecialParts specialParts(TextView text) {
     SpecialParts parts;
     text = trim(text);
-    if (const TextView all = withoutWord(trim(text, kSigns)); isNumber(all)) {
+    if (const TextView all = withoutWord(trim(text, kSigns)); areNumbers(all)) {
         parts.number = all;
         return parts;
     }
@@ -164,7 +182,7 @@ SpecialParts specialParts(TextView text) {
         text = trim(text.substr(comma + 1));
     }
     if (const std::optional<FoundWord> word = findWord(text, kEditorWords)) {
-        parts.editor = withoutEnd(text.substr(word->at + word->length));
+        parts.editor = withoutStopOfSentence(trim(text.substr(word->at + word->length), u" ,;"));
         text = text.substr(0, word->at);
     }
     parts.title = withoutQuotes(text);

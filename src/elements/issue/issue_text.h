@@ -7,8 +7,8 @@
 /// What a text says of an issue by its form alone, whatever the style.
 namespace quorvel::issuetext {
 
-/// The number of an issue without its word and parentheses: "4" for "no. 4", "(4)", "Issue 4". A text that is none
-/// stays.
+/// The number of an issue without its word and parentheses: "4" for "no. 4", "(4)", "Issue 4", also "3 and 4" for "Nos.
+/// 3 and 4" and "3, pt 1" for "(3, pt 1)". A text that is none stays.
 TextView withoutWord(TextView text);
 
 /// True for one word with a digit, or a Roman numeral: "4", "3-4", "S1", "5B".
@@ -35,7 +35,7 @@ struct Special {
 };
 
 /// "4, special issue", "Identities. Spec. issue", "Identities [Special issue]", "20 (theme issue)", "Special issue:
-/// Identities". Nothing for any other text.
+/// Identities", "Identities [Special issue]. Social Text, 20(2)". Nothing for any other text.
 std::optional<Special> special(TextView text);
 
 /// The parts of a special issue.

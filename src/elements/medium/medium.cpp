@@ -242,8 +242,15 @@ void OutputTemplateMedium::fillCD(bool isFootnote, std::vector<Text>& items) {
 
 void OutputTemplateMedium::fillMicroform(bool isFootnote, std::vector<Text>& items) {
     Text date = dateText();
-    items.at(kFormSlot) = mediumText();
-    items.at(kSourceSlot) = mValues.at(kTitle);
+    Text form = mediumText();
+    const Text& source = mValues.at(kTitle);
+    const bool tellsPages = arePages(source);
+    if (tellsPages) {
+        // Turabian 7 17.5.8: "microfiche, p. 53, 3C12". Pages are no source, behind which a colon stands.
+        form = concatenate({form, isFootnote ? u", " : u". ", source});
+    }
+    items.at(kFormSlot) = std::move(form);
+    items.at(kSourceSlot) = tellsPages ? Text() : source;
     items.at(kSourceVersionSlot) = mValues.at(kVersion);
     items.at(kSourcePublisherSlot) = mValues.at(kPublisher);
     items.at(kSourceDateSlot) = std::move(date);
@@ -253,7 +260,7 @@ void OutputTemplateMedium::fillMicroform(bool isFootnote, std::vector<Text>& ite
         items.at(kFicheSlot) = concatenate({mValues.at(kFiche), mValues.at(kRow), mValues.at(kFrame)});
         return;
     }
-    bool isFirst = !isFootnote && !has(kTitle) && !has(kVersion) && !has(kPublisher) && !has(kDate);
+    bool isFirst = !isFootnote && (tellsPages || !has(kTitle)) && !has(kVersion) && !has(kPublisher) && !has(kDate);
     for (const PlaceWord& word : kPlaceWords) {
         if (has(word.index)) {
             items.at(word.slot) = concatenate({isFirst ? word.first : word.behind, mValues.at(word.index)});

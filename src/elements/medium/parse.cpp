@@ -38,6 +38,12 @@ Text withoutJoints(TextView text) {
     return Text(text.substr(0, text.find_last_not_of(u" ,:;") + 1));
 }
 
+/// "(version 2.0)" behind "CD-ROM".
+Text withoutParentheses(const Text& text) {
+    const bool isInside = text.size() > 2 && text.front() == u'(' && text.find(u')') == text.size() - 1;
+    return isInside ? text.substr(1, text.size() - 2) : text;
+}
+
 void cut(Text& text, const mediumtext::Piece& piece) {
     text.erase(piece.start, piece.length);
 }
@@ -64,6 +70,7 @@ void OutputTemplateMedium::Parse(Text& text, TextView secondaryText) {
             mJoinsByComma = isTold && startsWith(rest, u",");
             rest = withoutJoints(rest);
             if (mediumtext::isDisc(caption())) {
+                rest = withoutParentheses(rest);
                 ParseCD(rest);
             } else if (mediumtext::isMicroform(caption())) {
                 ParseMicrofilm(rest);
@@ -120,8 +127,10 @@ void OutputTemplateMedium::parseAndRemoveVersionAndTitle(Text& text) {
         takeValue(text, kVersion);
         Text title = withoutJoints(text);
         const std::size_t blank = title.rfind(u' ');
-        const bool endsInNumber = blank != Text::npos && isDigits(TextView(title).substr(blank + 1));
-        if (usesSecond() && endsInNumber && mValues.at(kVersion).empty()) {
+        const bool endsInNumber = blank != Text::npos && blank > 0 && isDigits(TextView(title).substr(blank + 1));
+        // "UMI, 1990" ends in a year, "p. 53" in a page.
+        const bool isVersion = endsInNumber && title[blank - 1] != u',' && !mediumtext::arePages(title);
+        if (usesSecond() && isVersion && mValues.at(kVersion).empty()) {
             mValues.at(kVersion) = title.substr(blank + 1);
             title.resize(blank);
         }
@@ -140,7 +149,7 @@ void OutputTemplateMedium::ParseAndRemovePublisher(Text& text) {
             cut(text, *date);
         }
         const Text rest = withoutJoints(text);
-        const std::size_t start = lastSentence(rest);
+        const std::size_t start = mediumtext::arePages(rest) ? 0 : lastSentence(rest);
         // A single sentence is the publisher of a CD and the title of a microform.
         if (start == 0 && usesSecond()) {
             text = rest;

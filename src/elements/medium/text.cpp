@@ -62,8 +62,10 @@ constexpr TextView kJointSigns = u".,:;";
 
 /// True where a piece may end: at the end, or before what joins the next one.
 bool ends(TextView rest) {
-    return rest.empty() || rest == u"." ||
-           (rest.size() > 1 && contains(kJointSigns, rest.substr(0, 1)) && rest[1] == u' ') || startsWith(rest, u" (");
+    if (rest.size() < 2) {
+        return rest.empty() || rest.front() == u'.';
+    }
+    return rest[1] == u' ' ? kJointSigns.find(rest[0]) != TextView::npos : rest[0] == u' ' && rest[1] == u'(';
 }
 
 /// The text up to where a piece ends.
@@ -78,7 +80,7 @@ TextView firstPiece(TextView text) {
 /// Where the next piece begins; npos when there is none.
 std::size_t nextPiece(TextView text, std::size_t from) {
     for (std::size_t blank = text.find(u' ', from); blank != TextView::npos; blank = text.find(u' ', blank + 1)) {
-        if (blank > 0 && contains(kJointSigns, text.substr(blank - 1, 1))) {
+        if (blank > 0 && kJointSigns.find(text[blank - 1]) != TextView::npos) {
             return blank + 1;
         }
     }
@@ -103,6 +105,10 @@ std::optional<Piece> findPiece(TextView text, Test test) {
 
 bool isDisc(TextView caption) {
     return caption == kCD || caption == kDVD;
+}
+
+bool arePages(TextView text) {
+    return startsWith(text, u"p. ") || startsWith(text, u"pp. ");
 }
 
 bool isMicroform(TextView caption) {

@@ -19,6 +19,8 @@ inline constexpr TextView kMonograph = u"Monograph";
 inline constexpr TextView kVideotape = u"Videotape";
 
 bool isDisc(TextView caption);
+/// "p. 53", "pp. 53-54"
+bool arePages(TextView text);
 bool isMicroform(TextView caption);
 
 /// The medium that a text begins with, "CD-ROM. Disc 3", or is, "PDF file".

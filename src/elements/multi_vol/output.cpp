@@ -169,9 +169,11 @@ std::vector<bool> OutputTemplateMultiVol::checkedSlots(bool /*isFootnote*/) cons
 std::vector<bool> OutputTemplateMultiVol::seriesCheckingArray() const {
     return procedure(*this, u"seriesCheckingArray", kNoParameters, [&] {
         std::vector<bool> checked(volumelayouts::kSeriesSlots);
-        // Both have their words when they stand together; what would be read as a part of the title has one, too.
+        // Both have their words when they stand together; what would be read as a part of the title has one, too, and
+        // what stands behind a number of the title: "Handbook of Physiology; section 2, vol. 3".
+        const bool endsInDigit = !mTitle.empty() && isDigit(mTitle.back());
         checked[volumelayouts::kSeriesTitleSlot] =
-            !Volume.empty() && (!Number.empty() || !volumetext::seriesVolumeAtEnd(Volume));
+            !Volume.empty() && (!Number.empty() || endsInDigit || !volumetext::seriesVolumeAtEnd(Volume));
         return checked;
     });
 }

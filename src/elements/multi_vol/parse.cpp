@@ -71,7 +71,12 @@ void OutputTemplateMultiVol::forgetValues() {
 void OutputTemplateMultiVol::readMultiVol(Text& text) {
     parseAndRemoveYear(text);
     parseAndRemoveVols(text);
+    const std::size_t length = text.size();
     multiVolParseAndRemoveEditor(text);
+    if (text.size() < length) {
+        // "5 vols. Ed. Arnold Glimcher"
+        parseAndRemoveVols(text);
+    }
     multiVolParseAndRemoveVol(text);
     multiVolParseAndRememoveNumber(text);
     multiVolParseAndRemoveTitle(text);
@@ -132,7 +137,7 @@ void OutputTemplateMultiVol::multiVolParseAndRemoveEditor(Text& text) {
         }
         if (const auto found = volumetext::editorAtEnd(text)) {
             editor = found->name;
-            EditorType = kPlainEditor;
+            EditorType = found->isGeneral ? kGeneralEditor : kPlainEditor;
             text.resize(found->start);
         }
     });
@@ -159,6 +164,14 @@ void OutputTemplateMultiVol::multiVolParseAndRemoveVol(Text& text) {
             if (isBareNumber || volumetext::tellsOfVolumes(text)) {
                 Volume = isBareNumber ? volumeNumber(whole) : text;
                 text.clear();
+                return;
+            }
+            // "The Works of John Dryden, vol. 9"; behind an abbreviation it may belong to something else: "3rd ed.,
+            // vol. 2".
+            const auto behind = volumetext::volumeWithWordAtEnd(text);
+            if (behind && behind->start > 0 && text[behind->start] == u',' && text[behind->start - 1] != u'.') {
+                Volume = volumeNumber(behind->number);
+                text.resize(behind->start);
             }
             return;
         }
@@ -183,7 +196,8 @@ void OutputTemplateMultiVol::multiVolParseAndRemoveVol(Text& text) {
 void OutputTemplateMultiVol::multiVolParseAndRememoveNumber(Text& text) {
     procedure(*this, u"multiVolParseAndRememoveNumber", {{u"text", text}}, [&] {
         const auto joint = volumetext::jointAtStart(text);
-        const std::size_t from = joint && joint->isComma ? joint->length : 0;
+        const bool isBehindSign = joint && contains(u",:", TextView(text).substr(0, 1));
+        const std::size_t from = isBehindSign ? joint->length : 0;
         const auto found = volumetext::numberAtStart(TextView(text).substr(from));
         if (!found) {
             return;

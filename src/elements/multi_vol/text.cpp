@@ -28,8 +28,9 @@ struct NumberWord {
 };
 
 constexpr NumberWord kNumberWords[] = {
-    {u"bk.", u"bk. "},  {u"bk", u"bk. "},  {u"book", u"bk. "},  {u"pt.", u"pt. "},    {u"pt", u"pt. "},
-    {u"part", u"pt. "}, {u"no.", u"no. "}, {u"nos.", u"nos. "}, {u"number", u"no. "},
+    {u"bk.", u"bk. "}, {u"bk", u"bk. "}, {u"book", u"bk. "},  {u"bks.", u"bks. "},  {u"books", u"bks. "},
+    {u"pt.", u"pt. "}, {u"pt", u"pt. "}, {u"part", u"pt. "},  {u"pts.", u"pts. "},  {u"parts", u"pts. "},
+    {u"no.", u"no. "}, {u"no", u"no. "}, {u"nos.", u"nos. "}, {u"number", u"no. "},
 };
 
 constexpr TextView kCountWords[] = {u"vols.", u"vols", u"volumes"};
@@ -39,8 +40,12 @@ constexpr TextView kDashes = u"-\u2013";
 
 // What stands before an editor's name. "Ed." as a word of its own is asked for behind a comma or a sentence only, so
 // that "3rd ed." and "rev. ed." stay in a title.
-constexpr TextView kEditorMarks[] = {u", edited by ", u". Edited by ", u", ed. ", u", Ed. ", u". Ed. ", u". ed. "};
-constexpr TextView kLeadingEditorMarks[] = {u"edited by ", u"ed. "};
+constexpr TextView kEditorMarks[] = {u", edited by ", u". Edited by ", u", ed. ",  u", Ed. ",  u". Ed. ",
+                                     u". ed. ",       u", eds. ",      u", Eds. ", u". Eds. ", u". eds. "};
+constexpr TextView kFirstUnitsOfMarks = u",.";
+constexpr TextView kLeadingEditorMarks[] = {u"edited by ", u"ed. ", u"eds. "};
+// Before a mark it makes a general editor: "Gen. ed. David Bevington".
+constexpr TextView kGeneral = u"gen";
 constexpr TextView kGeneralEditorMarks[] = {u", gen. ed.", u", gen. ed", u", general editor", u", general ed."};
 
 struct SeriesTypeWords {
@@ -56,6 +61,8 @@ constexpr TextView kSeriesWords[] = {u" ser.", u" series"};
 
 constexpr TextView kJointSigns = u",;:.";
 constexpr TextView kOf = u" of ";
+// Behind a book: "Vol. 2, bk. 1, of The History of Cartography".
+constexpr TextView kCommaOf = u", of ";
 constexpr TextView kRomanDigits = u"IVXLCDMivxlcdm";
 
 bool isLetterOrDigit(char16_t unit) {
@@ -111,11 +118,11 @@ std::size_t withoutBlanks(TextView text, std::size_t from) {
 }
 
 /// Where the sign and the blanks before a position begin.
-std::size_t joinedAt(TextView text, std::size_t start) {
+std::size_t joinedAt(TextView text, std::size_t start, TextView signs = kJointSigns) {
     while (start > 0 && text[start - 1] == u' ') {
         --start;
     }
-    return start > 0 && contains(kJointSigns, text.substr(start - 1, 1)) ? start - 1 : start;
+    return start > 0 && signs.find(text[start - 1]) != TextView::npos ? start - 1 : start;
 }
 
 /// Whether a sign stands before what begins at a position, or nothing does.
@@ -127,6 +134,13 @@ bool isApart(TextView text, std::size_t start) {
 std::size_t lastWord(TextView text, std::size_t end) {
     const std::size_t blank = end == 0 ? TextView::npos : text.rfind(u' ', end - 1);
     return blank == TextView::npos ? 0 : blank + 1;
+}
+
+/// Whether a number behind a position is told by the word before it: "Vital and Health Statistics; series 10".
+bool isNumberOfWord(TextView text, std::size_t end) {
+    const std::size_t word = lastWord(text, end);
+    return word > 0 && word < end && isAsciiLetter(text[word]) && !isCapital(text[word]) && text[end] == u' ' &&
+           isApart(text, word);
 }
 
 /// The end of a text without the full stop of its sentence.
@@ -175,7 +189,11 @@ bool tellsOfVolumes(TextView text) {
     const TextView word = text.substr(std::min(text.find_first_not_of(kDigits), text.size()));
     const TextView stem = trim(word);
     return std::any_of(std::begin(kVolumeWords), std::end(kVolumeWords), [&](const VolumeWord& row) {
-        return startsWithIgnoringCase(stem, row.word) && stem.size() > row.word.size() && stem[row.word.size()] == u' ';
+        // "1 vol." is no count of several.
+        const bool endsWord = stem.size() == row.word.size()
+                                  ? stem.size() < text.size()
+                                  : stem.size() > row.word.size() && stem[row.word.size()] == u' ';
+        return endsWord && startsWithIgnoringCase(stem, row.word);
     });
 }
 
@@ -277,39 +295,51 @@ std::optional<Editor> editorAtEnd(TextView text) {
     if (std::optional<Editor> general = generalEditorAtEnd(text)) {
         return general;
     }
-    std::size_t last = TextView::npos;
-    std::size_t length = 0;
-    for (const TextView mark : kEditorMarks) {
-        const std::size_t at = text.rfind(mark);
-        if (at != TextView::npos && (last == TextView::npos || at > last)) {
-            last = at;
-            length = mark.size();
+    for (std::size_t at = text.find_last_of(kFirstUnitsOfMarks); at != TextView::npos;
+         at = at == 0 ? TextView::npos : text.find_last_of(kFirstUnitsOfMarks, at - 1)) {
+        const auto* const mark = std::find_if(std::begin(kEditorMarks), std::end(kEditorMarks),
+                                              [&](TextView entry) { return startsWith(text.substr(at), entry); });
+        if (mark == std::end(kEditorMarks) || at + mark->size() == text.size()) {
+            continue;
         }
-    }
-    if (last != TextView::npos && last + length < text.size()) {
-        return Editor{text.substr(last + length), false, last};
+        const TextView name = withoutStopOfSentence(text.substr(at + mark->size()));
+        const std::size_t general = at < kGeneral.size() ? at : at - kGeneral.size();
+        const bool isGeneral =
+            equalsIgnoringCase(text.substr(general, at - general), kGeneral) && isApart(text, general);
+        return isGeneral ? Editor{name, true, joinedAt(text, general)} : Editor{name, false, at};
     }
     for (const TextView mark : kLeadingEditorMarks) {
         if (startsWithIgnoringCase(text, mark) && text.size() > mark.size()) {
-            return Editor{text.substr(mark.size()), false, 0};
+            return Editor{withoutStopOfSentence(text.substr(mark.size())), false, 0};
         }
     }
     return std::nullopt;
 }
 
+std::optional<SeriesVolume> volumeWithWordAtEnd(TextView text) {
+    const TextView statement = withoutStop(text);
+    const std::size_t last = lastWord(statement, statement.size());
+    const std::size_t word = last == 0 ? 0 : lastWord(statement, last - 1);
+    const std::optional<Volumes> found = volumesAtStart(statement.substr(word));
+    const bool isWhole = found && found->length == statement.size() - word;
+    return isWhole ? std::optional(SeriesVolume{found->number, joinedAt(text, word)}) : std::nullopt;
+}
+
 std::optional<SeriesVolume> seriesVolumeAtEnd(TextView text) {
+    if (std::optional<SeriesVolume> withWord = volumeWithWordAtEnd(text)) {
+        return withWord;
+    }
     const TextView statement = withoutStop(text);
     const std::size_t last = lastWord(statement, statement.size());
     const TextView number = statement.substr(last);
-    const std::size_t word = last == 0 ? 0 : lastWord(statement, last - 1);
-    const std::optional<Volumes> withWord = volumesAtStart(statement.substr(word));
-    if (withWord && withWord->length == statement.size() - word) {
-        return SeriesVolume{withWord->number, joinedAt(text, word)};
-    }
-    // Without its word only what can be nothing else: a single letter may be a part of the title.
+    // Without its word only what can be nothing else: a single letter may be a part of the title, and so is "1960s".
     const bool isRoman = number.size() > 1 && volumenumbers::isNumber(number);
-    const bool isArabic = !number.empty() && isDigit(number.front()) && numbers(number, false) == number;
-    return isRoman || isArabic ? std::optional(SeriesVolume{number, joinedAt(text, last)}) : std::nullopt;
+    const bool isArabic =
+        !number.empty() && isDigit(number.front()) && !number.ends_with(u's') && numbers(number, false) == number;
+    // A full stop before it is an abbreviation's: "Approaches to Teaching World Lit. 34".
+    const std::size_t start = joinedAt(text, last, u",;:");
+    return (isRoman || isArabic) && !isNumberOfWord(text, start) ? std::optional(SeriesVolume{number, start})
+                                                                 : std::nullopt;
 }
 
 Text seriesType(TextView words) {
@@ -341,8 +371,10 @@ std::optional<SeriesType> seriesTypeAtEnd(TextView text) {
 }
 
 std::optional<Joint> jointAtStart(TextView text) {
-    if (startsWith(text, kOf)) {
-        return Joint{false, kOf.size()};
+    for (const TextView of : {kOf, kCommaOf}) {
+        if (startsWith(text, of)) {
+            return Joint{false, of.size()};
+        }
     }
     const bool isSign = text.size() > 2 && contains(u",:.", text.substr(0, 1)) && text[1] == u' ';
     return isSign ? std::optional(Joint{text.front() == u',', 2}) : std::nullopt;

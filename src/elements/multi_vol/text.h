@@ -80,6 +80,8 @@ struct SeriesVolume {
     std::size_t start;
 };
 std::optional<SeriesVolume> seriesVolumeAtEnd(TextView text);
+/// The same, but only with the volume word: "Records, vol. 1".
+std::optional<SeriesVolume> volumeWithWordAtEnd(TextView text);
 
 /// What tells the old, the new or a numbered series: "Publications, n.s.", "Publications, 2nd ser."
 struct SeriesType {
@@ -95,7 +97,7 @@ struct Joint {
     bool isComma;
     std::size_t length;
 };
-/// " of ", ". ", ": ", ", " at the beginning.
+/// " of ", ", of ", ". ", ": ", ", " at the beginning.
 std::optional<Joint> jointAtStart(TextView text);
 
 }  // namespace quorvel::volumetext

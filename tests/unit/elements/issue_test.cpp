@@ -92,6 +92,11 @@ TEST(Issue, ReadsAndWritesWhatEveryStyleHas) {
     // All styles write these alike.
     constexpr std::pair<TextView, TextView> kPlain[] = {{u"4", u"4"},
                                                         {u"no. 3-4", u"3-4"},
+                                                        {u"Nos. 3 and 4", u"3 and 4"},
+                                                        {u"(3, pt 1)", u"3, pt 1"},
+                                                        {u"no. 3, pt. 1", u"3, pt. 1"},
+                                                        {u"4 (Spring)", u"4 (Spring)"},
+                                                        {u"5(2 suppl 1)", u"5(2 suppl 1)"},
                                                         {u"(S1)", u"S1"},
                                                         {u"Spring", u"Spring"},
                                                         {u"late ed.", u"late ed."},
@@ -134,6 +139,8 @@ TEST(Issue, LeavesTheJournalAndTakesTheKindFromTheHost) {
               u"Critical Inquiry 18.4");
     EXPECT_EQ(parsed(issue, u"“Made in the U.S.,” ed. Ann Lee, special issue, Social Text 20"), u"Social Text 20");
     EXPECT_EQ(issue.value(Issue::kSpecialTitle), u"Made in the U.S.");
+    EXPECT_EQ(parsed(issue, u"Identities [Special issue]. Social Text, 20(2)"), u"Social Text, 20(2)");
+    EXPECT_EQ(issue.value(Issue::kSpecialTitle), u"Identities");
     EXPECT_EQ(parsed(issue, u"Identities. Ed. Anthony Appiah. Spec. issue of Critical Inquiry"), u"Critical Inquiry");
     // No words in this style, deliberately.
     EXPECT_EQ(issue.toString(false, false, false), u"Identities. Anthony Appiah");

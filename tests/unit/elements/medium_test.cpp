@@ -61,6 +61,8 @@ TEST(Medium, ReadsWhatAnyStyleWroteAndWritesItInAll) {
         {u"CD-ROM, 8 discs", u"CD|discs 8", u"CD-ROM, 8 discs", u"CD-ROM, 8 discs", u"[CD-ROM]"},
         {u"DVD-ROM, version 4.0, disc 3", u"DVD|version 4.0|disc 3", u"DVD-ROM, version 4.0, disc 3",
          u"DVD-ROM, version 4.0, disc 3", u"[DVD]"},
+        {u"CD-ROM (version 2.0)", u"CD|version 2.0", u"CD-ROM. Version 2.0", u"CD-ROM, version 2.0", u"[CD-ROM]"},
+        {u"DVD (2 discs)", u"DVD|discs 2", u"DVD-ROM. 2 discs", u"DVD-ROM, 2 discs", u"[DVD]"},
         {u"CD-ROM. Version 2.0. Disc 3", u"CD|version 2.0|disc 3", u"CD-ROM. Version 2.0. Disc 3",
          u"CD-ROM, version 2.0, disc 3", u"[CD-ROM]"},
         {u"CD-ROM. ERIC. SilverPlatter. June 1993", u"CD|title ERIC|publisher SilverPlatter|date June 1993",
@@ -85,6 +87,11 @@ TEST(Medium, ReadsWhatAnyStyleWroteAndWritesItInAll) {
          u"[Microfiche]. Grids A8-11"},
         {u"Microfiche, 3C12", u"Microfiche|fiche 3|row C|frame 12", u"Microfiche. Fiche 3, row C, frame 12",
          u"Microfiche, 3C12", u"[Microfiche]. Fiche 3, row C, frame 12"},
+        {u"Microfiche, p. 53, 3C12", u"Microfiche|fiche 3|row C|frame 12|title p. 53",
+         u"Microfiche. p. 53. Fiche 3, row C, frame 12", u"Microfiche, p. 53, 3C12",
+         u"[Microfiche]. p. 53. Fiche 3, row C, frame 12"},
+        {u"Microform. Ann Arbor: UMI, 1990", u"Microform|title Ann Arbor: UMI, 1990",
+         u"Microform. Ann Arbor: UMI, 1990", u"Microform, Ann Arbor: UMI, 1990", u"[Microform]. Ann Arbor: UMI, 1990"},
         {u"Monograph", u"Monograph", u"Monograph", u"Monograph", u"[Monograph]"},
         {u"Videotape. PBS", u"Videotape|title PBS", u"Videotape. PBS", u"Videotape, PBS", u"[Videotape]. PBS"},
         // Books, websites and what is none of the media.
@@ -106,7 +113,7 @@ TEST(Medium, ReadsWhatAnyStyleWroteAndWritesItInAll) {
         EXPECT_EQ(element.toString(false, false), c.brackets);
         // Styles in brackets leave out versions and discs; commas do not tell a title from a publisher.
         for (const TextView written : {c.list, c.note, c.brackets}) {
-            const bool leavesOut = contains(written, u"[") && contains(c.list, u"isc");
+            const bool leavesOut = contains(written, u"[") && (contains(c.list, u"isc") || contains(c.list, u"ersion"));
             if (!leavesOut && !contains(written, u"ERIC,")) {
                 Medium again = elementOf("turabian");
                 parse(again, written);

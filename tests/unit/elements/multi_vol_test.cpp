@@ -66,6 +66,16 @@ TEST(MultiVol, ReadsWhatAnyStyleWroteAndWritesItInAll) {
         {u"Vol. 1, pt. 2", u"1|pt. 2|||||", u"Vol. 1, pt. 2", u"Vol. 1, pt. 2", u"Vol. 1, pt. 2", u"Vol 1, pt. 2"},
         {u"Vol. 1 of Works, edited by A. Lee", u"1||Works|A. Lee|||", u"Vol. 1 of Works. Ed. A. Lee",
          u"Vol. 1. Works. Ed. A. Lee", u"Vol. 1 of Works, edited by A. Lee", u"Vol 1: Works, edited by A. Lee"},
+        {u"The Works of John Dryden, vol. 9", u"9||The Works of John Dryden||||", u"Vol. 9 of The Works of John Dryden",
+         u"Vol. 9. The Works of John Dryden", u"Vol. 9 of The Works of John Dryden",
+         u"Vol 9: The Works of John Dryden"},
+        {u"Vol. 2, bk. 1, of Cartography", u"2|1|Cartography||||", u"Vol. 2, bk. 1 of Cartography",
+         u"Vol. 2, bk. 1. Cartography", u"Vol. 2, bk. 1 of Cartography", u"Vol 2, bk. 1: Cartography"},
+        {u"Vol. 2: parts 1 and 2", u"2|pts. 1 and 2|||||", u"Vol. 2, pts. 1 and 2", u"Vol. 2, pts. 1 and 2",
+         u"Vol. 2, pts. 1 and 2", u"Vol 2, pts. 1 and 2"},
+        {u"5 vols. Eds. A. Lee and B. Ray.", u"|||A. Lee and B. Ray|5||", u"Ed. A. Lee and B. Ray. 5 vols.",
+         u"Ed. A. Lee and B. Ray. Vols. 5", u"edited by A. Lee and B. Ray. 5 vols.",
+         u"edited by A. Lee and B. Ray. 5 vols"},
         // Years behind a comma are the title's.
         {u"Vol. 5 of Criticism, 1750-1950", u"5||Criticism, 1750-1950||||", u"Vol. 5 of Criticism, 1750-1950",
          u"Vol. 5. Criticism, 1750-1950", u"Vol. 5 of Criticism, 1750-1950", u"Vol 5: Criticism, 1750-1950"},
@@ -73,6 +83,9 @@ TEST(MultiVol, ReadsWhatAnyStyleWroteAndWritesItInAll) {
         {u"vers. 2.0", u"vers. 2.0||||||", u"vers. 2.0", u"vers. 2.0", u"vers. 2.0", u"vers. 2.0"},
         {u"vol. LNAI 1757", u"vol. LNAI 1757||||||", u"vol. LNAI 1757", u"vol. LNAI 1757", u"vol. LNAI 1757",
          u"vol. LNAI 1757"},
+        {u"1 vol.", u"1 vol.||||||", u"1 vol.", u"1 vol.", u"1 vol.", u"1 vol."},
+        {u"3rd ed., Vol. 2", u"||3rd ed., Vol. 2||||", u"3rd ed., Vol. 2", u"3rd ed., Vol. 2", u"3rd ed., Vol. 2",
+         u"3rd ed., Vol. 2"},
         {u"4 vols. in 2", u"4 vols. in 2||||||", u"4 vols. in 2", u"4 vols. in 2", u"4 vols. in 2", u"4 vols. in 2"},
         {u"Encyclopedia of Volcanoes", u"||Encyclopedia of Volcanoes||||", u"Encyclopedia of Volcanoes",
          u"Encyclopedia of Volcanoes", u"Encyclopedia of Volcanoes", u"Encyclopedia of Volcanoes"},
@@ -103,6 +116,15 @@ TEST(MultiVol, ReadsWhatAnyStyleWroteAndWritesItInAll) {
         {u"Teaching Langs., Lits., and Cultures", u"||Teaching Langs., Lits., and Cultures||||",
          u"Teaching Langs., Lits., and Cultures", u"Teaching Langs., Lits., and Cultures",
          u"Teaching Langs., Lits., and Cultures", u"Teaching Langs., Lits., and Cultures"},
+        {u"Pubs. in Mod. Philol. 12", u"12||Pubs. in Mod. Philol.||||", u"Pubs. in Mod. Philol. 12",
+         u"Pubs. in Mod. Philol.: Vol. 12", u"Pubs. in Mod. Philol. 12", u"Pubs. in Mod. Philol.; vol 12"},
+        {u"Health Statistics; series 10, no 221", u"|221|Health Statistics; series 10||||",
+         u"Health Statistics; series 10, no. 221", u"Health Statistics; series 10, No. 221",
+         u"Health Statistics; series 10, no. 221", u"Health Statistics; series 10, No. 221"},
+        {u"Physiology; section 2, vol 3", u"3||Physiology; section 2||||", u"Physiology; section 2, vol. 3",
+         u"Physiology; section 2: Vol. 3", u"Physiology; section 2, vol. 3", u"Physiology; section 2; vol 3"},
+        {u"The Literature of the 1960s", u"||The Literature of the 1960s||||", u"The Literature of the 1960s",
+         u"The Literature of the 1960s", u"The Literature of the 1960s", u"The Literature of the 1960s"},
         {u"Series A", u"||Series A||||", u"Ser. A", u"Series A", u"Series A", u"Series A"},
         {u"vol. 7", u"7||||||", u"Vol. 7", u"Vol. 7", u"Vol. 7", u"Vol 7"},
         {u"vol. 8586 LNCS", u"vol. 8586 LNCS||||||", u"vol. 8586 LNCS", u"vol. 8586 LNCS", u"vol. 8586 LNCS",
@@ -146,6 +168,9 @@ TEST(MultiVol, WritesWhatOnlySomeStylesTellApart) {
     EXPECT_EQ(written("mla", false), u"Vol. 5 of Works of W. D. Howells. Edwin H. Cady, gen. ed. 32 vols. 1968-83");
     EXPECT_EQ(written("apa", false), u"Vol. 5. Works of W. D. Howells. Ed. Edwin H. Cady. Vols. 32. 1968\u201383");
     EXPECT_EQ(written("turabian", true), u"vol. 5 of Works of W. D. Howells, ed. Edwin H. Cady. 32 vols. 1968\u201383");
+    parse(element, u"3 vols. Gen. ed. David Bevington.", kVolumes);
+    EXPECT_EQ(element.EditorType, MultiVol::kGeneralEditor);
+    EXPECT_EQ(written("mla", false), u"David Bevington, gen. ed. 3 vols.");
     parse(element, u"3 vols. to date.", kVolumes);
     EXPECT_EQ(element.Vols, u"3 to date");
     EXPECT_EQ(written("mla", false), u"3 vols. to date.");

@@ -54,17 +54,12 @@ TEST(Newspaper, ReadsAndWritesWhatEveryStyleHas) {
         {u"The Guardian", u"The Guardian", u"", u"The Guardian", u"The Guardian", u"The Guardian"},
     };
     // The state inside a title, a known title, an edition and brackets that are no pair are no city.
-    constexpr TextView kWithoutCity[] = {u"Chicago Tribune",
-                                         u"Hackensack (NJ) Record",
-                                         u"(Washington) Post",
-                                         u"Christian [Science Monitor]",
-                                         u"Herald [late ed.]",
-                                         u"Times [London",
-                                         u"Times [London)",
-                                         u"Times ((London))",
-                                         u"[Toronto]",
-                                         u"Times [ ]",
-                                         u""};
+    constexpr TextView kWithoutCity[] = {u"Chicago Tribune",   u"Hackensack (NJ) Record",
+                                         u"(Washington) Post", u"Christian [Science Monitor]",
+                                         u"Herald [late ed.]", u"New York Times (Late Edition)",
+                                         u"Times [London",     u"Times [London)",
+                                         u"Times ((London))",  u"[Toronto]",
+                                         u"Times [ ]",         u""};
     Newspaper mla = newspaperWith(kMla);
     for (const TextView text : kWithoutCity) {
         mla.City = u"before";
