@@ -26,11 +26,13 @@ constexpr TextView kReprintMarks[] = {u"original work published", u"originally p
 constexpr TextView kTranslationMark = u"trans. of";
 constexpr TextView kContributorMarks[] = {u"spec. issue", u"introd."};
 constexpr TextView kByMark = u"by ";
+constexpr TextView kFirstMark = u"first published ";
 constexpr TextView kTurabianMark = u"originally published";
 constexpr TextView kEndsOfTranslation[] = {u").", u")"};
 constexpr TextView kNamedMarks[] = {u"facsim", u"rev.", u"vers."};
 
 constexpr TextView kEdSplit = u"ed";
+constexpr TextView kEdWord = u" ed";
 constexpr TextView kEdSuffix = u" ed.";
 constexpr TextView kEd = u"ed.";
 
@@ -39,6 +41,18 @@ constexpr TextView kRevisedInNote = u"rev.";
 
 bool endsWithEditionWord(const std::vector<Text>& words) {
     return !words.empty() && editionwords::isEditionWord(words.back());
+}
+
+/// "… Leipzig: Insel, 1910."
+bool endsAsPublication(TextView text) {
+    const TextView statement = trim(text, u" .");
+    const std::optional<reprinttext::Range> year = reprinttext::yearAtEnd(statement);
+    return year && statement.substr(0, year->begin).ends_with(u", ");
+}
+
+bool hasEditionWord(TextView text) {
+    const std::vector<Text> words = split(text, u" ");
+    return std::any_of(words.begin(), words.end(), [](TextView word) { return editionwords::isEditionWord(word); });
 }
 
 }  // namespace
@@ -127,7 +141,7 @@ Text OutputTemplateEdition::numberedOrNamedText(bool isFootnote) {
     if (isFootnote) {
         result = replaceAll(result, kRevised, kRevisedInNote);
     }
-    if (mAddEdToNumberedEdition && !mIsAsItStands && editionwords::takesEd(result) && !isYear(result)) {
+    if (mAddEdToNumberedEdition && mTakesEd) {
         result.append(kEdSuffix);
     }
     return result;
@@ -140,7 +154,7 @@ void OutputTemplateEdition::Parse(Text& text, TextView previousStr) {
         forgetPublication();
         mNumberedEdition = {};
         mParsedNumberedOrNamedEdition.clear();
-        mIsAsItStands = false;
+        mTakesEd = false;
         const TextView inside = reprinttext::withoutParentheses(text);
         std::int16_t type = getEditionType(inside);
         if (inside.size() < text.size()) {
@@ -189,14 +203,14 @@ void OutputTemplateEdition::forgetPublication() {
 /// Of a statement that its reader could not use.
 void OutputTemplateEdition::keepAsItStands(TextView text) {
     forgetPublication();
-    mEditionType = parseNumericEdition(before(text, u" ")) ? kNumbered : kNamed;
+    mEditionType = editionwords::ordinal(before(text, u" ")).empty() ? kNamed : kNumbered;
     if (mEditionType == kNumbered) {
         NumberedEdition(text);
     } else if (endsWithEditionWord(split(text, u" "))) {
         NamedEdition(text);
     } else {
         mParsedNumberedOrNamedEdition = text;
-        mIsAsItStands = true;
+        mTakesEd = false;
     }
 }
 
@@ -211,9 +225,10 @@ std::int16_t OutputTemplateEdition::getEditionType(TextView text) {
         if (containsOneOf(small, kReprintMarks)) {
             return kReprint;
         }
-        // "Trans. of X"; "1900. Introd. E. L. Doctorow"; "By Henry James. Daisy Miller. 1878"; "1925"
+        // "Trans. of X"; "First published in 1900 by Doubleday"; "1900. Introd. E. L. Doctorow"; "By Henry James. Daisy
+        // Miller. 1878"; "1925"
         if (startsWith(small, kTranslationMark) || containsOneOf(small, kContributorMarks) ||
-            startsWith(small, kByMark) || isYear(text)) {
+            startsWith(small, kByMark) || startsWith(small, kFirstMark) || isYear(text)) {
             return kReprint;
         }
         // "Le passé d'une illusion (Paris: Laffont, 1995)"
@@ -238,8 +253,9 @@ std::int16_t OutputTemplateEdition::getEditionType(TextView text) {
                 return kReprint;
             }
         }
-        // "Le passé. Paris: Laffont, 1995"
-        return contains(first, u" ") && contains(first, u":") ? kTranslation : kNamed;
+        // "Le passé. Paris: Laffont, 1995"; of "Frieden" no edition begins.
+        const TextView inFront = text.substr(0, endsAsPublication(text) ? small.find(kEdWord) : first.size());
+        return contains(inFront, u" ") && contains(inFront, u":") ? kTranslation : kNamed;
     });
 }
 
@@ -255,13 +271,18 @@ bool OutputTemplateEdition::isYear(TextView text) {
     const TextView year = trim(text, u" .");
     const bool isPlain = year.size() == 4 && isDigits(year) && (year[0] == u'1' || year[0] == u'2');
     // The year element would say the same, with a date made of it.
-    return isPlain || (reprinttext::looksLikeYear(year) && (!isDigit(year[0]) || held(mYearTemplate)->isYear(year)));
+    return isPlain || reprinttext::isYearOfEra(year) ||
+           (reprinttext::looksLikeYear(year) && (!isDigit(year[0]) || held(mYearTemplate)->isYear(year)));
 }
 
-/// Whether a text of this type is an edition that stood in parentheses: "(6th ed.)", but not the end of a longer
-/// statement.
+bool OutputTemplateEdition::takesEd(TextView statement) {
+    return editionwords::takesEd(statement) && !isYear(statement);
+}
+
+/// Whether a text of this type is an edition that stood in parentheses: "(6th ed.)", "(4th ed., text rev.)", but not
+/// the end of a longer statement.
 bool OutputTemplateEdition::isEdition(TextView text, std::int16_t type) const {
-    return type == kNumbered || type == kReprint || (type == kNamed && endsWithEditionWord(split(text, u" ")));
+    return type == kNumbered || type == kReprint || (type == kNamed && hasEditionWord(text));
 }
 
 /// A facsimile of which the text tells the year of the first publication: "Facsim. ed. 1790".
@@ -283,14 +304,15 @@ Text OutputTemplateEdition::NumberedEdition() const {
 void OutputTemplateEdition::NumberedEdition(TextView theVal) {
     procedure(*this, u"NumberedEdition[Let]", {{u"theVal", theVal}}, [&] {
         const Text statement = cleanUp(theVal);
-        mIsAsItStands = false;
         mNumberedEdition = {};
         mNumberedEdition.NumEdition = trim(before(statement, u" "), u" ,");
         mTokens = split(statement, u" ");
         const Text number = editionwords::ordinal(mNumberedEdition.NumEdition);
         if (number.empty()) {
-            // "2008 ed."
-            mParsedNumberedOrNamedEdition = statement;
+            // "2008 ed.", "2008 Edition"
+            const bool isYearOfEdition = mTokens.size() == 2 && endsWithEditionWord(mTokens);
+            mParsedNumberedOrNamedEdition = isYearOfEdition ? concatenate({mTokens.front(), kEdSuffix}) : statement;
+            mTakesEd = takesEd(mParsedNumberedOrNamedEdition);
             return;
         }
         mTokens.erase(mTokens.begin());
@@ -299,6 +321,7 @@ void OutputTemplateEdition::NumberedEdition(TextView theVal) {
             noteWordsBesideNumber(statement);
         }
         mParsedNumberedOrNamedEdition = concatenate({number, rest.empty() ? u"" : u" ", rest});
+        mTakesEd = takesEd(mParsedNumberedOrNamedEdition);
     });
 }
 
@@ -319,16 +342,18 @@ Text OutputTemplateEdition::NamedEdition() const {
 void OutputTemplateEdition::NamedEdition(TextView theVal) {
     procedure(*this, u"NamedEdition[Let]", {{u"theVal", theVal}}, [&] {
         const Text statement = cleanUp(theVal);
-        mIsAsItStands = false;
         mTokens = split(statement, u" ");
-        const Text number = editionwords::ordinal(mTokens.front());
+        // "2nd, revised edition" keeps its comma.
+        const TextView first = editionwords::withoutSigns(mTokens.front());
+        const Text number = editionwords::ordinal(first);
         const bool hadEd = endsWithEditionWord(mTokens);
         // "Second revised edition", "1 American"; "2. Aufl." is none of ours.
         if (!number.empty() && (hadEd || editionwords::takesEd(statement))) {
-            mTokens.front() = number;
+            mTokens.front() = concatenate({number, TextView(mTokens.front()).substr(first.size())});
         }
         Text result = joinWords(!number.empty());
-        if (hadEd && (!editionwords::takesEd(result) || isYear(result))) {
+        mTakesEd = takesEd(result);
+        if (hadEd && !mTakesEd) {
             // It would not get its word back: "Kindle version ed."
             result.append(result.empty() ? kEd : kEdSuffix);
         }

@@ -128,6 +128,7 @@ private:
     std::int16_t getEditionType(TextView text);
     bool parseNumericEdition(TextView text);
     bool isYear(TextView text);
+    bool takesEd(TextView statement);
     bool isEdition(TextView text, std::int16_t type) const;
     void addChapterYear(Text& text);
     void forgetPublication();
@@ -190,8 +191,8 @@ private:
     std::int32_t mFormat = 0;
     Text mParsedNumberedOrNamedEdition;
     bool mAddEdToNumberedEdition = false;
-    /// The statement is a text that no reader could use; no " ed." comes behind it.
-    bool mIsAsItStands = false;
+    /// The statement gets " ed.": it is not complete as it stands, nor a text that no reader could use.
+    bool mTakesEd = false;
     std::vector<Text> mTokens;
     std::shared_ptr<OutputTemplateYear> mYearTemplate;
     std::shared_ptr<OutputTemplatePage> mPageTemplate;

@@ -68,7 +68,10 @@ void OutputTemplateEdition::parseMLAReprint(Text& text) {
         parseAndRemoveMLAVolume(text);
         parseAndRemoveMLAAuthor(text);
         parseAndRemoveMLAChapterOrArticleTitle(text);
-        parseAndRemoveMLAPublisher(text);
+        // "Ficciones (Buenos Aires: Sur, 1944)", as Turabian has it.
+        if (reprinttext::journalTail(text) || !ParseAndRemoveTranslationPublisher(text)) {
+            parseAndRemoveMLAPublisher(text);
+        }
         parseAndRemoveMLAPage(text);
         parseAndRemoveMLASpecialIssue(text);
         if (record.chapterOrArticleTitle.empty()) {

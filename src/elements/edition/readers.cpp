@@ -8,6 +8,7 @@
 #include "core/run_time_error.h"
 #include "elements/edition/edition.h"
 #include "elements/edition/reprint_text.h"
+#include "elements/edition/words.h"
 #include "elements/title/language.h"
 
 namespace quorvel {
@@ -26,9 +27,15 @@ constexpr TextView kTurabianLeadIns[] = {u" as a ", u" as ", u" in ", u" "};
 constexpr TextView kSpecialIssueMarks[] = {u" [Special issue]"};
 
 // "1925; repr.", "1925. Reprint", "1925. Rpt."; what follows belongs to the reprint itself.
-constexpr TextView kMarksBehindYear[] = {u"; reprint", u"; repr.", u". reprint", u". rpt.", u", reprint", u", repr."};
+constexpr TextView kMarksBehindYear[] = {u"; reprint", u"; repr.",   u". reprint", u". repr.",
+                                         u". rpt.",    u", reprint", u", repr."};
 // "First published 1925", "Orig. published in 1925"
 constexpr TextView kMarksBeforeYear[] = {u"published", u"printed", u"issued"};
+// "Reprint of the 1925 ed.": the year stands for the title.
+constexpr TextView kMarksBeforeEdition[] = {u"reprint of ", u"rpt. of ", u"repr. of "};
+constexpr TextView kThe = u"the ";
+constexpr TextView kOf = u"of ";
+constexpr TextView kReprintOf = u"Rpt. of ";
 constexpr TextView kPublishedIn = u"in ";
 
 // What the contributor and his part are set off with.
@@ -51,6 +58,15 @@ constexpr TextView kTurabianEditors[] = {u", eds., ", u", ed., "};
 
 constexpr TextView kEnds = u" .,;:";
 
+/// ", 50, 741-749", ", 12(3)"
+bool hasVolumeBehindComma(TextView text) {
+    return text.size() > kListSign.size() && startsWith(text, kListSign) && isDigit(text[kListSign.size()]);
+}
+/// ", p. 12"
+bool hasPageBehindComma(TextView text) {
+    return startsWith(text, u", p. ") || startsWith(text, u", pp. ");
+}
+
 }  // namespace
 
 void OutputTemplateEdition::ParseReprintOrPaperbackEdition(Text& text) {
@@ -62,7 +78,12 @@ void OutputTemplateEdition::ParseReprintOrPaperbackEdition(Text& text) {
             parseAndRemoveAPAReprint(text);
         } else {
             takeYearInFront(text);
-            if (mEditionBookChapterYear->Year.empty()) {
+            const bool hasTitleBehind = startsWith(text, kOf);
+            if (hasTitleBehind) {
+                // "1939. Rpt. of New York City Guide"
+                text.replace(0, kOf.size(), kReprintOf);
+            }
+            if (hasTitleBehind || mEditionBookChapterYear->Year.empty()) {
                 parseMLAReprint(text);
             }
         }
@@ -71,11 +92,20 @@ void OutputTemplateEdition::ParseReprintOrPaperbackEdition(Text& text) {
 
 /// "1925", "1925. Reprint", "First published 1925". Any other text stays.
 void OutputTemplateEdition::takeYearInFront(Text& text) {
+    // Most texts begin with no year, and each search is long.
+    const bool mayBeginWithYear = !text.empty() && (!isAsciiLetter(text[0]) || text[0] == u'c');
     for (const TextView mark : kMarksBehindYear) {
+        if (!mayBeginWithYear) {
+            break;
+        }
         const std::size_t at = findIgnoringCase(text, mark);
         if (at != Text::npos && isYear(TextView(text).substr(0, at))) {
             takeYear(TextView(text).substr(0, at));
             text = Text(trim(TextView(text).substr(at + mark.size()), kEnds));
+            if (editionwords::isEditionWord(text)) {
+                // "1936. Reprint ed."
+                text.clear();
+            }
             return;
         }
     }
@@ -93,7 +123,24 @@ void OutputTemplateEdition::takeYearInFront(Text& text) {
         if (startsWith(year, kPublishedIn)) {
             year.remove_prefix(kPublishedIn.size());
         }
-        if (isYear(year)) {
+        // "First published 1900 by Doubleday": what follows stays.
+        const TextView first = editionwords::withoutSigns(before(year, u" "));
+        if (isYear(year) || isYear(first)) {
+            const Text left(isYear(year) ? TextView() : trim(year.substr(first.size()), kEnds));
+            takeYear(isYear(year) ? year : first);
+            text = left;
+            return;
+        }
+    }
+    for (const TextView mark : kMarksBeforeEdition) {
+        if (!startsWithIgnoringCase(text, mark)) {
+            continue;
+        }
+        TextView edition = TextView(text).substr(mark.size());
+        edition.remove_prefix(startsWithIgnoringCase(edition, kThe) ? kThe.size() : 0);
+        const TextView year = before(edition, u" ");
+        if (year.size() < edition.size() && isYear(year) &&
+            editionwords::isEditionWord(trim(edition.substr(year.size())))) {
             takeYear(year);
             text.clear();
             return;
@@ -102,7 +149,11 @@ void OutputTemplateEdition::takeYearInFront(Text& text) {
 }
 
 void OutputTemplateEdition::takeYear(TextView year) {
-    mEditionBookChapterYear->Year = replaceAll(trim(year, kEnds), TextView(&kEnDash, 1), u"-");
+    const TextView bare = trim(year, kEnds);
+    // "ca. 350 B.C.E." and "n.d." keep the full stop of their abbreviation.
+    const bool isAbbreviated = bare.size() > 2 && isAsciiLetter(bare.back()) && bare[bare.size() - 2] == u'.';
+    mEditionBookChapterYear->Year =
+        concatenate({replaceAll(bare, TextView(&kEnDash, 1), u"-"), isAbbreviated ? u"." : u""});
 }
 
 /// A publisher as the publisher element reads it, so that another style gets it in full.
@@ -132,7 +183,7 @@ void OutputTemplateEdition::ParseAndRemoveYearAPA(Text& text) {
         }
         const std::size_t begin = at + kApaYearMark.size();
         const std::size_t end = std::min(text.find(u')', begin), text.size());
-        Text year(trim(TextView(text).substr(begin, end - begin), kEnds));
+        Text year(trim(TextView(text).substr(begin, end - begin), u" ,;:"));
         reprinttext::removeLeadIn(year, kPublishedIn);
         takeYear(year);
         const Text left = concatenate(
@@ -172,6 +223,7 @@ void OutputTemplateEdition::parseAndRemoveAuthor(Text& text) {
             Record& record = *mEditionBookChapterYear;
             const bool isEditor = std::any_of(std::begin(kApaEditors), std::end(kApaEditors),
                                               [&](TextView mark) { return removeSuffix(name, mark); });
+            name = replaceAll(name, u" & ", u" and ");
             record.AuthorType = isEditor ? Record::kEditor : row.type;
             record.author = name;
             if (!isEditor && row.type == Record::kAuthor) {
@@ -193,6 +245,18 @@ void OutputTemplateEdition::ParseAndRemovePublisher(Text& text) {
         const TextView behind = trim(TextView(whole).substr(at), u" ,");
         const TextView year = before(behind, kListSign);
         takeYear(year);
+        if (const TextView rest = behind.substr(year.size()); hasPageBehindComma(rest)) {
+            // "Time, March 3, 1999, p. 12"
+            text = concatenate({TextView(whole).substr(0, at), rest});
+            return;
+        } else if (!contains(rest, u": ") && hasVolumeBehindComma(rest)) {
+            // "American Psychologist, 1995, 50, 741-749": volume and pages follow the title.
+            const TextView volume = before(rest.substr(kListSign.size()), kListSign);
+            const TextView pages = rest.substr(kListSign.size() + volume.size());
+            text = concatenate({TextView(whole).substr(0, at), kListSign, volume, pages.empty() ? u"" : u", pp. ",
+                                pages.substr(std::min(pages.size(), kListSign.size()))});
+            return;
+        }
         const auto parts = reprinttext::placeAndPublisher(trim(behind.substr(year.size()), u" ,"));
         mEditionBookChapterYear->PlaceOrVolume = parts.place;
         if (!parts.publisher.empty()) {
@@ -252,6 +316,7 @@ void OutputTemplateEdition::ParseTurabianReprint(Text& text) {
         removeSuffix(statement, u".");
         text = inFront;
         Record& record = *mEditionBookChapterYear;
+        const bool hasTitle = startsWithIgnoringCase(statement, kAs);
         for (const TextView leadIn : kTurabianLeadIns) {
             if (reprinttext::removeLeadIn(statement, leadIn)) {
                 break;
@@ -280,12 +345,15 @@ void OutputTemplateEdition::ParseTurabianReprint(Text& text) {
             parseAndRemoveMLAPublisher(statement);
             parseAndRemoveMLAPage(statement);
         } else {
-            record.isReprintBook = true;
+            record.isReprintBook = !record.isSpecialIssue;
             // The pages stand behind the parentheses or before them.
             if (!endsWith(statement, u")")) {
                 parseAndRemoveMLAPage(statement);
             }
-            ParseAndRemoveTranslationPublisher(statement);
+            if (!ParseAndRemoveTranslationPublisher(statement) && !hasTitle) {
+                // "Originally published Cambridge, MA: Harvard University Press, 1960"
+                parseAndRemoveMLAPublisher(statement);
+            }
             if (record.Page.empty()) {
                 parseAndRemoveMLAPage(statement);
             }
@@ -332,6 +400,14 @@ void OutputTemplateEdition::parseAndRemoveTurabianContributor(Text& text) {
 void OutputTemplateEdition::parseTranslationEdition(Text& text) {
     procedure(*this, u"parseTranslationEdition", {{u"text", text}}, [&] {
         Text statement = text;
+        if (const TextView first = before(text, u". "); first.size() < text.size() && isYear(first)) {
+            // "1899. New York: Barnes, 2001" is a reprint; its own publication is none of ours.
+            mEditionType = kReprint;
+            statement.erase(0, first.size() + 2);
+            takeYear(first);
+            text = statement;
+            return;
+        }
         const bool isInParentheses = ParseAndRemoveTranslationPublisher(statement);
         if (!isInParentheses) {
             parseAndRemoveMLAPublisher(statement);

@@ -22,9 +22,12 @@ constexpr std::size_t kDigitsOfYear = 4;
 constexpr std::size_t kLongestYear = 14;
 constexpr TextView kSignsOfYear = u"0123456789-\u2013[]?/";
 constexpr TextView kCirca[] = {u"ca. ", u"c. ", u"[ca. ", u"[c. "};
+// Without the last full stop.
+constexpr TextView kEras[] = {u" B.C.E", u" BCE", u" B.C", u" BC", u" C.E", u" CE"};
 constexpr std::size_t kLongestMonth = 16;
 constexpr std::size_t kLongestPages = 40;
 constexpr TextView kNumberWord = u"no. ";
+constexpr TextView kWordsBeforeVolumes[] = {u"Vol", u"vol", u"Vols", u"vols", u"No", u"no", u"Pt", u"pt", u"Bk", u"bk"};
 
 // A volume has no more letters than a numeral, a number no more than "S2".
 constexpr std::size_t kLongestVolume = 8;
@@ -50,6 +53,15 @@ constexpr ContributorMark kContributorMarks[] = {
 // What stands before the sentence of a contributor.
 constexpr TextView kBeforeContributor[] = {u". ", u".\u201D ", u"\u201D ", u".\" ", u"? ", u"! "};
 
+TextView withoutCirca(TextView year) {
+    for (const TextView circa : kCirca) {
+        if (year.starts_with(circa)) {
+            return year.substr(circa.size());
+        }
+    }
+    return year;
+}
+
 bool isInitialOrAbbreviation(TextView word) {
     const std::size_t hyphen = word.rfind(u'-');
     const TextView last = hyphen == TextView::npos ? word : word.substr(hyphen + 1);
@@ -60,6 +72,10 @@ bool isInitialOrAbbreviation(TextView word) {
 
 bool endsSentence(TextView text, std::size_t stop) {
     const TextView inFront = text.substr(0, stop);
+    if (inFront.ends_with(u')')) {
+        // "The Mind (2nd ed.). Boston: Beacon"
+        return true;
+    }
     const std::size_t blank = inFront.find_last_of(u" (\u201C");
     const TextView word = blank == TextView::npos ? inFront : inFront.substr(blank + 1);
     return !isInitialOrAbbreviation(word);
@@ -114,12 +130,7 @@ bool endsWithFullStop(TextView text) {
 }
 
 bool looksLikeYear(TextView text) {
-    for (const TextView circa : kCirca) {
-        if (text.starts_with(circa)) {
-            text.remove_prefix(circa.size());
-            break;
-        }
-    }
+    text = withoutCirca(text);
     if (text.size() < kDigitsOfYear || text.size() > kLongestYear) {
         return false;
     }
@@ -130,6 +141,18 @@ bool looksLikeYear(TextView text) {
     return consistsOf(text, kSignsOfYear) && digits <= 1 && text.size() >= digits + kDigitsOfYear &&
            isDigits(text.substr(digits, kDigitsOfYear)) &&
            (text.size() == digits + kDigitsOfYear || !isDigit(text[digits + kDigitsOfYear]));
+}
+
+bool isYearOfEra(TextView text) {
+    const TextView stopped = trim(text, u" .");
+    for (const TextView era : kEras) {
+        if (stopped.ends_with(era)) {
+            const TextView year = withoutCirca(stopped.substr(0, stopped.size() - era.size()));
+            return year.size() <= 2 * kDigitsOfYear + 1 && isDigit(year.empty() ? u' ' : year[0]) &&
+                   consistsOf(year, kSignsOfYear);
+        }
+    }
+    return false;
 }
 
 std::optional<Range> yearAtEnd(TextView text) {
@@ -234,8 +257,9 @@ std::size_t beginOfPages(TextView text) {
         const TextView pages = trim(behind);
         const std::size_t begin = beginOfWord(tail.substr(0, sign));
         const TextView word = tail.substr(begin, sign - begin);
-        // "45, n. 3" and "12-14, 20" go on in front.
-        const bool goesOn = word == u"n" || word == u"nn" || pages.starts_with(u'n') ||
+        // "Studies. Vol. 2" has no page, "45, n. 3" and "12-14, 20" go on in front.
+        const bool isVolume = tail[sign] == u'.' && isOneOf(word, kWordsBeforeVolumes);
+        const bool goesOn = isVolume || word == u"n" || word == u"nn" || pages.starts_with(u'n') ||
                             (tail[sign] == u',' && sign > 0 && isDigit(tail[sign - 1]));
         if (!behind.starts_with(u' ') || goesOn) {
             continue;

@@ -29,6 +29,8 @@ bool endsWithFullStop(TextView text);
 /// Four digits, also as part of a range and with a letter, brackets or "c." around: "1925", "1925-27", "[1925?]",
 /// "c. 1925". It says nothing of whether such a year can be.
 bool looksLikeYear(TextView text);
+/// "350 B.C.E.", "ca. 370 BC", with or without the last full stop.
+bool isYearOfEra(TextView text);
 /// What follows the last blank or comma, when it looks like a year: "1939" of "New York: Knopf, 1939".
 std::optional<Range> yearAtEnd(TextView text);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <span>
 
 #include "core/common_model_processing_functions.h"
 #include "core/letter_case.h"
@@ -17,10 +18,14 @@ constexpr TextView kNumberWords[] = {
     u"eighth",    u"ninth",     u"tenth",       u"eleventh",   u"twelfth",    u"thirteenth", u"fourteenth",
     u"fifteenth", u"sixteenth", u"seventeenth", u"eighteenth", u"nineteenth", u"twentieth",
 };
+constexpr std::size_t kUnits = 9;
+// From twenty on, before "-ieth" and "y-".
+constexpr TextView kTens[] = {u"twent", u"thirt", u"fort", u"fift", u"sixt", u"sevent", u"eight", u"ninet"};
 constexpr std::size_t kMostDigits = 3;
 
 constexpr TextView kEditionWords[] = {u"ed", u"ed.", u"edn", u"edn.", u"edition"};
 constexpr TextView kEd = u"ed.";
+constexpr TextView kEditor = u"Ed.";
 constexpr TextView kSignsBehind = u",;";
 
 struct Abbreviation {
@@ -43,6 +48,8 @@ constexpr TextView kNoEdBehind[] = {
     u"vers.",
     // Statements that are complete as they stand: "Kindle version", "6. print.", "3rd printing", "2. Aufl.",
     // "2e \u00E9d.", "2a edici\u00F3n", "Rpt. in".
+    // "Rev. by Jane Smith".
+    u" by ",
     u"version",
     u"print.",
     u"printing",
@@ -68,11 +75,6 @@ constexpr TextView kFacsimile = u"Facsim.";
 constexpr std::size_t kDigitsOfYear = 4;
 constexpr TextView kSignsAroundYear = u" .,;()[]";
 
-TextView withoutSigns(TextView word) {
-    const std::size_t last = word.find_last_not_of(kSignsBehind);
-    return word.substr(0, last == TextView::npos ? 0 : last + 1);
-}
-
 /// The first year of four digits, or of such a range, that no other digit touches.
 TextView yearIn(TextView text) {
     std::size_t begin = 0;
@@ -88,18 +90,43 @@ TextView yearIn(TextView text) {
     return {};
 }
 
+/// The ordinal number that is spelled in words, "twenty-first"; 0 for any other text.
+unsigned spelledOrdinal(TextView word) {
+    const auto indexIn = [](TextView text, std::span<const TextView> words) {
+        const auto found =
+            std::find_if(words.begin(), words.end(), [&](TextView known) { return equalsIgnoringCase(text, known); });
+        return found == words.end() ? 0U : static_cast<unsigned>(found - words.begin()) + 1;
+    };
+    if (const unsigned number = indexIn(word, kNumberWords); number > 0) {
+        return number;
+    }
+    for (std::size_t i = 0; i < std::size(kTens); ++i) {
+        const unsigned tens = 10 * (static_cast<unsigned>(i) + 2);
+        if (!startsWithIgnoringCase(word, kTens[i])) {
+            continue;
+        }
+        const TextView rest = word.substr(kTens[i].size());
+        const unsigned units =
+            rest.starts_with(u"y-") ? indexIn(rest.substr(2), std::span(kNumberWords).first(kUnits)) : 0;
+        return units > 0 ? tens + units : equalsIgnoringCase(rest, u"ieth") ? tens : 0;
+    }
+    return 0;
+}
+
 }  // namespace
+
+TextView withoutSigns(TextView word) {
+    const std::size_t last = word.find_last_not_of(kSignsBehind);
+    return word.substr(0, last == TextView::npos ? 0 : last + 1);
+}
 
 Text ordinal(TextView word) {
     const std::size_t digits = std::min(word.find_first_not_of(kDigits), word.size());
     if (digits == 0) {
-        const auto* const found =
-            std::find_if(std::begin(kNumberWords), std::end(kNumberWords),
-                         [&](TextView numberWord) { return equalsIgnoringCase(word, numberWord); });
-        if (found == std::end(kNumberWords)) {
+        const unsigned number = spelledOrdinal(word);
+        if (number == 0) {
             return {};
         }
-        const auto number = static_cast<unsigned>(found - std::begin(kNumberWords)) + 1;
         Text spelled;
         if (number >= 10) {
             spelled.push_back(static_cast<char16_t>(u'0' + number / 10));
@@ -147,7 +174,9 @@ Text normalised(const std::vector<Text>& words, bool isBehindNumber) {
         if (isLast && isEditionWord(word) && withoutSigns(word) == word) {
             break;
         }
-        if (isEditionWord(word) && !isBehindEd) {
+        // "1911. Ed. A. Lee" has an editor.
+        const bool isEditor = word == kEditor && !isBehindNumber && !isLast;
+        if (isEditionWord(word) && !isBehindEd && !isEditor) {
             isBehindEd = true;
             kept = kEd;
             signs = word.substr(withoutSigns(word).size());

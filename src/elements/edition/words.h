@@ -12,6 +12,9 @@ namespace quorvel::editionwords {
 /// also for a number that is none of editions ("0", "2008").
 Text ordinal(TextView word);
 
+/// Without the commas and semicolons behind it.
+TextView withoutSigns(TextView word);
+
 /// True for "ed", "ed.", "edn." and "edition", in any letter case and also with a comma behind.
 bool isEditionWord(TextView word);
 

@@ -87,6 +87,12 @@ Text quoted(TextView title, TextView sign) {
 bool isIntroducer(TextView authorType) {
     return authorType == Record::kIntroducer || authorType == Record::kIntroducerWithNotes;
 }
+/// APA joins persons by the sign, the others by the word, with which the record keeps them.
+constexpr TextView kAndWord = u" and ";
+constexpr TextView kAndSign = u" & ";
+bool isPlural(TextView persons) {
+    return contains(persons, kAndWord) || contains(persons, kAndSign);
+}
 /// In the styles that do not abbreviate it.
 TextView introduction(TextView authorType) {
     return authorType == Record::kIntroducer ? u"introduction by " : u"introduction and notes by ";
@@ -233,7 +239,7 @@ bool OutputTemplateEdition::isJournal() const {
 
 Text OutputTemplateEdition::yearText() {
     const Text year = mEditionBookChapterYear->Year;
-    return isYear(year) ? held(mYearTemplate)->formatStr(year) : year;
+    return isYear(year) && !reprinttext::isYearOfEra(year) ? held(mYearTemplate)->formatStr(year) : year;
 }
 
 /// "Introd. E. L. Doctorow. 1900"
@@ -283,7 +289,9 @@ Text OutputTemplateEdition::shortenedAuthor() const {
 Text OutputTemplateEdition::toStringYearOnly(bool isFootnote) {
     return procedure(*this, u"toStringYearOnly", {{u"isFootnote", isFootnote}}, [&] {
         const Text year = yearText();
-        return year.empty() ? Text() : concatenate({year, isFootnote ? u"; repr." : u". Reprint"});
+        // "350 B.C.E. Reprint"
+        const TextView reprint = year.ends_with(u'.') ? u" Reprint" : u". Reprint";
+        return year.empty() ? Text() : concatenate({year, isFootnote ? u"; repr." : reprint});
     });
 }
 
@@ -406,12 +414,18 @@ void OutputTemplateEdition::fillAPA(std::vector<Text>& items, OutputSinkRef titl
     } else if (record.author == mNamedAuthor && record.AuthorType == Record::kAuthor) {
         lead = u"by ";
     }
-    const bool isWithPages = !record.author.empty() && !lead.empty();
+    // The layout knows one editor only.
+    const bool areEditors = lead.empty() && record.AuthorType == Record::kEditor && isPlural(record.author);
+    if (areEditors) {
+        lead = u"by ";
+    }
+    const Text author = replaceAll(record.author, kAndWord, kAndSign);
+    const bool isWithPages = !author.empty() && !lead.empty();
     if (isWithPages) {
-        pages.append(pages.empty() ? u"" : u", ").append(lead).append(record.author);
+        pages.append(pages.empty() ? u"" : u", ").append(lead).append(author).append(areEditors ? u", Eds." : u"");
     }
     items.at(kApaPages) = std::move(pages);
-    items.at(kApaContributor) = isWithPages ? Text() : record.author;
+    items.at(kApaContributor) = isWithPages ? Text() : author;
     items.at(kApaYear) = std::move(year);
     items.at(kApaPublisher) = std::move(publisher);
     OutputSink& sink = object(title);
@@ -440,7 +454,9 @@ void OutputTemplateEdition::fillTurabian(std::vector<Text>& items, OutputSinkRef
     const bool hasIntroducer = !record.author.empty() && isIntroducer(record.AuthorType);
     Text contributor;
     if (!record.author.empty() && !hasIntroducer) {
-        contributor = concatenate({record.author, record.AuthorType == Record::kEditor ? u", ed., " : u", "});
+        contributor = concatenate({record.author, record.AuthorType != Record::kEditor ? u", "
+                                                  : isPlural(record.author)            ? u", eds., "
+                                                                                       : u", ed., "});
     }
     // The title of a translated work has no lead-in of its own.
     items.at(kTurabianLeadIn) = concatenate({mEditionType == kReprint ? kOriginallyPublishedAs : u"",

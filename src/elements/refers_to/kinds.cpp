@@ -71,6 +71,7 @@ struct Lead {
 // AMA 10 3.11.12-17, and the wordings of its earlier editions; MLA 7 5.4.8 "Abstract."
 constexpr Lead kLeads[] = {
     {u"abstract taken from", kAbstractIn},
+    {u"abstract obtained from", kAbstractIn, true},
     {u"abstract from", kAbstractIn, true},
     {u"abstract in", kAbstractIn, true},
     {u"abstract.", kAbstractIn, true},
@@ -79,6 +80,7 @@ constexpr Lead kLeads[] = {
     {u"published corrections appear in", kCorrection},
     {u"published correction in", kCorrection},
     {u"published erratum appears in", kCorrection},
+    {u"correction published in", kCorrection, true},
     {u"correction in", kCorrection, true},
     {u"corrected in", kCorrection, true},
     {u"erratum in", kCorrection, true},
@@ -86,6 +88,7 @@ constexpr Lead kLeads[] = {
     {u"duplicate publication of", kDuplicate},
     {u"dupl. publcn", kDuplicate, true},
     {u"retracted in", kRetractedIn},
+    {u"retraction in", kRetractedIn, true},
     {u"retraction of", kRetractionOf},
     {u"translated by", kTranslator},
     {u"trans. by", kTranslator},
@@ -96,6 +99,9 @@ constexpr TextView kNoTranslator = u"of ";
 
 // MLA 7 5.5.6. What stands before is the first publication.
 constexpr TextView kReprintLeads[] = {u"Rpt. in ", u"Reprinted in ", u"Repr. in "};
+
+// What the square brackets left.
+constexpr TextView kAbstractsAlone[] = {kAbstract, u"abstract.", u"(abstract)"};
 
 constexpr TextView kParts[] = {u"pt. ", u"part ", u"pts. ", u"parts "};
 constexpr TextView kOfSeries = u" of a series";
@@ -129,7 +135,11 @@ std::optional<TextView> behind(TextView text, TextView words) {
 
 /// "late ed.", "2nd rev. edition": a few words that end so and are one sentence.
 bool isEdition(TextView text) {
-    return endsWithOneOf(text, kEndsOfEditions) && referstotext::lastSentence(text) == 0 &&
+    const auto isSentence = [&](TextView end) {
+        // "natl. ed." is one
+        return text.ends_with(end) && referstotext::lastSentence(text.substr(0, text.size() - end.size())) == 0;
+    };
+    return std::any_of(std::begin(kEndsOfEditions), std::end(kEndsOfEditions), isSentence) &&
            std::count(text.begin(), text.end(), u' ') <= kMostBlanksOfEdition;
 }
 
@@ -159,7 +169,7 @@ TextView captionOf(TextView text) {
 
 std::optional<Statement> byWords(TextView text) {
     const TextView inside = withoutBrackets(text);
-    if (equalsIgnoringCase(inside, kAbstract) || equalsIgnoringCase(inside, u"abstract.")) {
+    if (isOneOfIgnoringCase(inside, kAbstractsAlone)) {
         return Statement{kAbstract, {}};
     }
     for (const Lead& lead : kLeads) {

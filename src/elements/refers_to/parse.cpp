@@ -25,6 +25,8 @@ constexpr TextView kOfSeries = u"of a series";
 constexpr TextView kBegunWord = u"begun ";
 
 constexpr TextView kReprintLeads[] = {u"Rpt. in ", u"Reprinted in ", u"Repr. in "};
+// MLA 7 5.5.2: what ends the reference rather than the statement.
+constexpr TextView kMedia[] = {u" Print.", u" Print", u" Web.", u" Web"};
 constexpr TextView kEditorLead = u"Ed. ";
 constexpr TextView kVolumeLead = u"Vol. ";
 constexpr TextView kBehindSentence = u". ";
@@ -39,7 +41,8 @@ bool cutSentence(Text& text, TextView lead, Text& value) {
     }
     const std::size_t from = at == Text::npos ? lead.size() : at + kBehindSentence.size() + lead.size();
     value = text.substr(from);
-    text.erase(at == Text::npos ? 0 : at);
+    // An initial keeps its full stop: "Ed. Stine, J. C. Vol. 29".
+    text = Text(referstotext::withoutFullStop(TextView(text).substr(0, at == Text::npos ? 0 : at + 1)));
     return true;
 }
 
@@ -181,13 +184,15 @@ void OutputTemplateRefersTo::parseAndRemoveAbstractVolAndNumber(Text& text) {
     });
 }
 
-/// ". 2004", ". January 3, 2004".
+/// ". 2004", ". January 3, 2004", " 2004" before ";291", ", 2004" before ", 291".
 void OutputTemplateRefersTo::parseAndRemoveAbstractDate(Text& text) {
     procedure(*this, u"parseAndRemoveAbstractDate", {{u"text", text}}, [&] {
         if (!mValues.at(journalValue(kJournalYear)).empty()) {
             return;
         }
-        if (const std::optional<referstotext::Cut> found = referstotext::date(text)) {
+        const bool hasVolume = !mValues.at(journalValue(kJournalVolume)).empty();
+        if (const std::optional<referstotext::Cut> found =
+                referstotext::date(hasVolume ? referstotext::withoutJoint(text) : TextView(text), hasVolume)) {
             mValues.at(journalValue(kJournalYear)) = found->part;
             text = Text(found->rest);
         }
@@ -290,6 +295,12 @@ void OutputTemplateRefersTo::parseReprint(Text& text) {
                 break;
             }
         }
+        for (const TextView medium : kMedia) {
+            if (removeSuffix(text, medium)) {
+                left.append(left.empty() ? medium.substr(1) : medium);
+                break;
+            }
+        }
         ParseAndRemovePage(text);
         text = Text(referstotext::withoutFullStop(text));
         ParseAndRemovePublisher(text);
@@ -354,10 +365,16 @@ void OutputTemplateRefersTo::ParseAndRemovePublisher(Text& text) {
             mValues.at(kPlace) = found->place;
             mValues.at(kYear) = found->year;
             text = Text(referstotext::withoutFullStop(found->rest));
-        } else if (const std::size_t comma = whole.rfind(u", ");
-                   comma != Text::npos && referstotext::isYear(TextView(whole).substr(comma + 2))) {
-            mValues.at(kYear) = whole.substr(comma + 2);
-            text = whole.substr(0, comma);
+            return;
+        }
+        // "Essays, 1998", "Essays. 1998"
+        for (const TextView sign : {TextView(u", "), kBehindSentence}) {
+            const std::size_t at = whole.rfind(sign);
+            if (at != Text::npos && referstotext::isYear(TextView(whole).substr(at + sign.size()))) {
+                mValues.at(kYear) = whole.substr(at + sign.size());
+                text = whole.substr(0, at);
+                return;
+            }
         }
     });
 }

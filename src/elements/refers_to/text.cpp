@@ -36,12 +36,14 @@ constexpr TextView kWordsBeforeNumbers[] = {u"Vol", u"Vols", u"No", u"no", u"Pt"
 
 constexpr TextView kNewSeries[] = {u"n.s.", u"ns", u"n.s", u"new ser.", u"new series", u"new"};
 constexpr TextView kOldSeries[] = {u"o.s.", u"os", u"o.s", u"old ser.", u"old series", u"old"};
-constexpr TextView kSeriesWords[] = {u" ser.", u" series"};
+constexpr TextView kSeriesWords[] = {u" ser.", u" series", u" ser"};
+constexpr TextView kSeriesFirst[] = {u"ser. ", u"series "};
 constexpr TextView kOrdinalWords[] = {u"first", u"second", u"third", u"fourth", u"fifth", u"sixth"};
 
 // Their full stop ends no sentence; neither does an initial's.
 constexpr TextView kAbbreviations[] = {u"St",  u"Mt",  u"Ft",   u"Dr",  u"vs",  u"Jan", u"Feb", u"Mar",
                                        u"Apr", u"Aug", u"Sept", u"Oct", u"Nov", u"Dec", u"no",  u"nr"};
+constexpr TextView kLeadsOfParts[] = {u"Vol. ", u"Ed. "};
 
 constexpr TextView kFirstYear = u"1400";
 constexpr TextView kLastYear = u"2099";
@@ -107,6 +109,16 @@ bool isLastInitial(TextView text, std::size_t at) {
     const TextView next = text.substr(at + 2);
     const bool isInitialNext = next.size() > 1 && isCapital(next[0]) && (next[1] == u'.' || next[1] == u'-');
     return text[at] == u'.' && !isInitialNext && !next.empty() && isCapital(next[0]);
+}
+
+/// "2" of "ser. 2"; empty for any other text.
+TextView numberOfSeries(TextView text) {
+    for (const TextView word : kSeriesFirst) {
+        if (startsWithIgnoringCase(text, word) && isDigits(text.substr(word.size()))) {
+            return text.substr(word.size());
+        }
+    }
+    return {};
 }
 
 /// The first person stands last name first with initials: "Hwang, W."
@@ -211,7 +223,7 @@ bool isShortDate(TextView text) {
            std::any_of(std::begin(kMonths), std::end(kMonths), [&](const Month& row) { return row.mla == month; });
 }
 
-std::optional<Cut> date(TextView text) {
+std::optional<Cut> date(TextView text, bool bareYear) {
     for (const TextView word : kWordsForYears) {
         if (text.ends_with(word)) {
             const TextView rest = trim(text.substr(0, text.size() - word.size()));
@@ -240,7 +252,7 @@ std::optional<Cut> date(TextView text) {
         start = year;
     }
     const TextView rest = trim(text.substr(0, start));
-    if (rest.empty() || endsASentence(rest) || start < year) {
+    if (rest.empty() || bareYear || endsASentence(rest) || start < year) {
         return Cut{rest, text.substr(start)};
     }
     return std::nullopt;
@@ -368,11 +380,14 @@ bool isSeries(TextView text) {
         return text.find_first_of(u". ") != TextView::npos || text.size() == 2;
     }
     const TextView word = before(text, u" ");
-    return isOneOfIgnoringCase(text.substr(word.size()), kSeriesWords) &&
-           (hasDigit(word) || isOneOfIgnoringCase(word, kOrdinalWords));
+    return !numberOfSeries(text).empty() || (isOneOfIgnoringCase(text.substr(word.size()), kSeriesWords) &&
+                                             (hasDigit(word) || isOneOfIgnoringCase(word, kOrdinalWords)));
 }
 
 Text seriesName(TextView text) {
+    if (const TextView number = numberOfSeries(text); !number.empty()) {
+        text = number;
+    }
     if (isOneOfIgnoringCase(text, kNewSeries)) {
         return Text(kNewSeries[0]);
     }
@@ -445,13 +460,16 @@ std::optional<Publication> publication(TextView text) {
         }
     }
     const std::size_t colon = body.rfind(u": ");
-    const std::size_t start = lastSentence(body.substr(0, colon), kEndsSentence);
+    const bool hasPlace = colon != TextView::npos;
+    const std::size_t start = lastSentence(body.substr(0, colon), hasPlace ? kEndsSentence : kEndsNothing);
     if (start == 0 && parts.year.empty()) {
         return std::nullopt;
     }
     const TextView statement = body.substr(start);
-    const std::size_t sign = colon == TextView::npos ? colon : statement.find(u": ");
-    if (sign == TextView::npos && (parts.year.empty() || start == 0)) {
+    const std::size_t sign = hasPlace ? statement.find(u": ") : TextView::npos;
+    // "Vol. 2, 1998" and "Ed. A. Lee, 1998" have no publisher.
+    const bool isOtherPart = endsWithOneOf(body.substr(0, start), kLeadsOfParts);
+    if (sign == TextView::npos && (parts.year.empty() || start == 0 || isOtherPart)) {
         return std::nullopt;
     }
     parts.rest = trim(text.substr(0, start));

@@ -26,7 +26,8 @@ std::optional<Cut> page(TextView text);
 /// "(2004)", "(12 Jan. 2004)" behind a blank.
 std::optional<Cut> yearInParentheses(TextView text);
 /// "2004", "January 3, 2004", "In press" behind a full stop; "12 Jan. 2004" also behind a blank.
-std::optional<Cut> date(TextView text);
+/// @param bareYear a year is one too behind a blank or comma, "JAMA 2004", since a volume followed it
+std::optional<Cut> date(TextView text, bool bareYear = false);
 
 struct VolumeAndNumber {
     TextView rest;

@@ -93,6 +93,22 @@ constexpr Case kCases[] = {
       u"published correction appears in The New York Times. January 3, 2004:A1",
       u"published correction appears in New York Times (3 Jan. 2004): A1",
       u"published correction appears in New York Times. January 3, 2004:A1"}},
+    {u"published erratum appears in Ann Intern Med 2001;135:1114",
+     u"",
+     u"Correction",
+     u"Ann Intern Med|2001|135||1114",
+     {u"published correction appears in Ann Intern Med 135 (2001): 1114",
+      u"published correction appears in Ann Intern Med. 2001;135:1114",
+      u"published correction appears in Ann Intern Med 135 (2001): 1114",
+      u"published correction appears in Ann Intern Med. 2001;135:1114"}},
+    {u"Abstract obtained from Brain Research, 1999, 101(2), 137-152",
+     u"",
+     u"Abstract in",
+     u"Brain Research|1999|101|2|137-152",
+     {u"abstract taken from Brain Research 101.2 (1999): 137-52",
+      u"abstract taken from Brain Research. 1999;101(2):137\u2013152",
+      u"abstract taken from Brain Research 101, no. 2 (1999): 137\u201352",
+      u"abstract taken from Brain Research. 1999;101(2):137-152"}},
     {u"duplicate publication of Lee K, Smith JA. Is it so? A trial. JAMA. 2004;291(20):2432-2440",
      u"",
      u"Dupl. publcn",
@@ -123,8 +139,10 @@ constexpr Case kCases[] = {
      u"||ASM|||D-36",
      {u"ASM abstract D-36", u"[abstract]", u"abstract", u"ASM abstract D-36"},
      true},
+    {u"(Abstract)", u"", u"Abstract", u"", {u"abstract", u"[abstract]", u"abstract", u"[abstract]"}},
     {u"Abstract", u"", u"Abstract", u"", {u"abstract", u"[abstract]", u"abstract", u"[abstract]"}},
     {u"3rd series", u"", u"Series", u"3rd", {u"3rd ser.", u"3rd", u"3rd ser.", u"3rd"}, true},
+    {u"ser. 2", u"", u"Series", u"2nd", {u"2nd ser.", u"2nd", u"2nd ser.", u"2nd"}, true},
     {u"2", u"Series", u"Series", u"2nd", {u"2nd ser.", u"2nd", u"2nd ser.", u"2nd"}},
     {u"new series", u"", u"Series", u"n.s.", {u"ns", u"n.s.", u"n.s.", u"ns"}},
     {u"os", u"", u"Series", u"o.s.", {u"os", u"o.s.", u"o.s.", u"os"}},
@@ -171,6 +189,12 @@ constexpr Case kCases[] = {
      u"Reprint",
      u"Essays|1939|||New York|Harcourt; London: Kegan",
      {u"Rpt. in Essays. New York: Harcourt; London: Kegan, 1939"}},
+    {u"Rpt. in Essays. Ed. Stine, J. C. Vol. 2. 1998.",
+     u"",
+     u"Reprint",
+     u"Essays|1998|Stine, J. C.|2",
+     {u"Rpt. in Essays. Ed. J. C. Stine. Vol. 2, 1998", u"Rpt. in Essays. Ed. Stine, J. C. Vol. 2, 1998", u"",
+      u"Rpt. in Essays. Ed. Stine JC. Vol. 2, 1998"}},
     {u"Essays, 1984", u"Reprint", u"Reprint", u"Essays|1984", {u"Rpt. in Essays, 1984"}},
     {u"translated by Jane Smith and Bob Lee",
      u"",
@@ -178,6 +202,7 @@ constexpr Case kCases[] = {
      u"Jane Smith and Bob Lee",
      {u"Trans. Jane Smith and Bob Lee", u"Smith, J., & Lee, B.", u"Jane Smith and Bob Lee", u"Smith J, Lee B"},
      true},
+    {u"natl. ed.", u"", u"Edition", u"natl.", {u"natl. ed.", u"natl. edition", u"", u"natl. edition"}},
     {u"late ed.", u"", u"Edition", u"late", {u"late ed.", u"late edition", u"", u"late edition"}},
     // What is none of these stays as it is.
     {u"Trans. of Le pass\u00E9", u"", u"Refers to", u"Trans. of Le pass\u00E9", {u"Trans. of Le pass\u00E9"}},
@@ -241,6 +266,8 @@ TEST(RefersTo, JournalsHaveTheirPartsInEveryCombination) {
 TEST(RefersTo, KeepsInTheTextWhatBelongsToOtherElements) {
     RefersTo element = elementIn(kMla);
     EXPECT_EQ(parsed(element, u"PMLA 99.5 (1984): 990-95. Rpt. in Myth. 18-27", u""), u"PMLA 99.5 (1984): 990-95.");
+    EXPECT_EQ(valuesOf(element), u"Myth||||||18-27");
+    EXPECT_EQ(parsed(element, u"Rpt. in Myth. 18-27. Print.", u""), u"Print.");
     EXPECT_EQ(valuesOf(element), u"Myth||||||18-27");
     EXPECT_EQ(parsed(element, u"American Literature 52.4 (1981): 688; 53.1 (1981): 164; 53.2 (1981): 348-59",
                      u"Serial article"),
