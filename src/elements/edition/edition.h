@@ -180,9 +180,9 @@ private:
     bool hasSource() const;
     bool hasPublication() const;
     bool isContributorAlone() const;
-    void fillMLA(std::vector<Text>& items, OutputSinkRef title);
-    void fillAPA(std::vector<Text>& items, OutputSinkRef title);
-    void fillTurabian(std::vector<Text>& items, OutputSinkRef title);
+    void fillMLA(std::vector<Text>& items, const OutputSinkRef& title);
+    void fillAPA(std::vector<Text>& items, const OutputSinkRef& title);
+    void fillTurabian(std::vector<Text>& items, const OutputSinkRef& title);
 
     std::int16_t mEditionType = kNumbered;
     std::shared_ptr<quorvel::EditionBookChapterYear> mEditionBookChapterYear;

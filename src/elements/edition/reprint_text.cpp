@@ -93,8 +93,7 @@ bool isNumberOfIssue(TextView text) {
 /// "1992", "Summer 1992"
 bool isDate(TextView text) {
     const std::size_t blank = text.find(u' ');
-    return looksLikeYear(text) ||
-           (blank != TextView::npos && blank <= kLongestMonth && looksLikeYear(text.substr(blank + 1)));
+    return looksLikeYear(text) || (blank <= kLongestMonth && looksLikeYear(text.substr(blank + 1)));
 }
 
 std::size_t beginOfWord(TextView text) {

@@ -197,11 +197,11 @@ bool OutputTemplateEdition::fillSlots(bool /*isFootnote*/, std::vector<Text>& it
                                       std::vector<OutputSinkRef>& formattedItems, bool /*shortenedVersion*/) {
     if (stylecodes::isMla(mFormat)) {
         // Copies of the fragments: the host may ask for a new layout while it is written to.
-        fillMLA(items, formattedItems.at(kMlaTitle));
+        fillMLA(items, OutputSinkRef(formattedItems.at(kMlaTitle)));
     } else if (mFormat == stylecodes::kApa) {
-        fillAPA(items, formattedItems.at(kApaTitle));
+        fillAPA(items, OutputSinkRef(formattedItems.at(kApaTitle)));
     } else if (mFormat == stylecodes::kTurabian) {
-        fillTurabian(items, formattedItems.at(kTurabianTitle));
+        fillTurabian(items, OutputSinkRef(formattedItems.at(kTurabianTitle)));
     } else {
         return true;
     }
@@ -274,7 +274,7 @@ Text OutputTemplateEdition::contributorText() const {
 /// MLA 7 5.5.8: of the author whom the reference names already the last name is enough.
 Text OutputTemplateEdition::shortenedAuthor() const {
     return procedure(*this, u"shortenedAuthor", kNoParameters, [&] {
-        const Text author = mEditionBookChapterYear->author;
+        Text author = mEditionBookChapterYear->author;
         const std::size_t comma = mOldAuthor.find(u", ");
         const Text direct = comma == Text::npos
                                 ? mOldAuthor
@@ -359,7 +359,7 @@ Text OutputTemplateEdition::getPageStr() {
 }
 
 /// "Rpt. of “Daisy Miller.” Cornhill Magazine 37 (1878): 678-98"
-void OutputTemplateEdition::fillMLA(std::vector<Text>& items, OutputSinkRef title) {
+void OutputTemplateEdition::fillMLA(std::vector<Text>& items, const OutputSinkRef& title) {
     const Record record = *mEditionBookChapterYear;
     const bool isArticle = isJournal();
     Text contributor = contributorText();
@@ -400,7 +400,7 @@ void OutputTemplateEdition::fillMLA(std::vector<Text>& items, OutputSinkRef titl
 }
 
 /// "(Reprinted from Manual of child psychology, pp. 703-732, by P. H. Mussen, Ed., 1970, New York, NY: Wiley)"
-void OutputTemplateEdition::fillAPA(std::vector<Text>& items, OutputSinkRef title) {
+void OutputTemplateEdition::fillAPA(std::vector<Text>& items, const OutputSinkRef& title) {
     const Record record = *mEditionBookChapterYear;
     const bool isArticle = isJournal();
     Text pages = getPageStr();
@@ -445,7 +445,7 @@ void OutputTemplateEdition::fillAPA(std::vector<Text>& items, OutputSinkRef titl
 }
 
 /// "Originally published as Le passé d'une illusion (Paris: Robert Laffont, 1995)"
-void OutputTemplateEdition::fillTurabian(std::vector<Text>& items, OutputSinkRef title) {
+void OutputTemplateEdition::fillTurabian(std::vector<Text>& items, const OutputSinkRef& title) {
     const Record record = *mEditionBookChapterYear;
     const bool isArticle = isJournal();
     const Text pages = getPageStr();
