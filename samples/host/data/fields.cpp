@@ -47,6 +47,8 @@ constexpr Field kFields[] = {
     // What a thesis, report or title is: "Doctoral dissertation".
     {L"type", 21, kNoElement, L""},
     {L"refers-to", 22, 12, L"refers-to"},
+    // Volume, number, year and pages of an article that came in parts.
+    {L"parts", 35, 12, L"refers-to"},
     {L"database", 23, 13, L"online"},
     {L"doi", 24, 13, L"online"},
     {L"url", 25, 13, L"online"},

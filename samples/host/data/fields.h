@@ -30,7 +30,7 @@ struct Field {
 constexpr std::int16_t kNoteIndex = 4;
 constexpr std::int16_t kHasNoteIndex = 7;
 constexpr std::int16_t kPageIndex = 17;
-constexpr std::int16_t kLastIndex = 34;
+constexpr std::int16_t kLastIndex = 35;
 
 std::span<const Field> fields();
 

@@ -97,17 +97,18 @@ void SlotFiller::write(std::size_t slot, bool isFootnote, bool shortenedVersion,
         fragment.add(authorMark(filling));
     } else if (filling.element != nullptr && (*mSlots)[slot].slot->isFormatted) {
         const Frame frame = frameOf(*filling.source, isFootnote);
-        fragment.add(frame.before);
+        const std::int32_t font = filling.source->font;
+        fragment.add(frame.before, font);
         const ComPointer<FormattedText> text = makeObject<FormattedText>();
         parse(filling, isFootnote);
         filling.element->toFormattedString({text.get(), isFootnote || filling.source->inNoteForm, shortenedVersion});
         text->trim();
-        if (filling.source->font == kPlain) {
+        if (font == kPlain) {
             fragment.add(*text);
         } else {
-            fragment.add(text->toString(), filling.source->font);
+            fragment.add(text->toString(), font);
         }
-        fragment.add(frame.behind);
+        fragment.add(frame.behind, font);
     } else {
         fragment.add(plainText(filling, isFootnote, shortenedVersion),
                      filling.element == nullptr ? filling.source->font : kPlain);
