@@ -76,39 +76,36 @@ std::vector<const Reference*> ordered(ReferenceWriter& writer, const std::vector
     return result;
 }
 
-/// Works of one author and year are told apart by letters: 2006a, 2006b.
-std::vector<Reference> withYearLetters(ReferenceWriter& writer, const std::vector<const Reference*>& list) {
+}  // namespace
+
+std::vector<Reference> withYearLetters(ReferenceWriter& writer, const std::vector<Reference>& references) {
+    std::vector<Reference> lettered = references;
+    if (writer.style().order != ListOrder::kByYear) return lettered;
     const Field& year = *findField(L"year");
+    const std::vector<const Reference*> list = ordered(writer, references, Form::kList);
     const auto isLikeNext = [&](std::size_t i) {
         return i + 1 < list.size() && isPlainYear(list[i]->text(year)) &&
                list[i]->text(year) == list[i + 1]->text(year) && writer.isSameAuthor(*list[i], *list[i + 1]);
     };
-    std::vector<Reference> lettered;
     wchar_t letter = L'a';
     for (std::size_t i = 0; i < list.size(); ++i) {
-        lettered.push_back(*list[i]);
         const bool isLikeLast = i > 0 && isLikeNext(i - 1);
         letter = isLikeLast ? static_cast<wchar_t>(letter + 1) : L'a';
-        if ((isLikeLast || isLikeNext(i)) && letter <= L'z') lettered.back().set(year, list[i]->text(year) + letter);
+        if ((!isLikeLast && !isLikeNext(i)) || letter > L'z') continue;
+        lettered[static_cast<std::size_t>(list[i] - references.data())].set(year, list[i]->text(year) + letter);
     }
     return lettered;
 }
 
-}  // namespace
-
 std::vector<ListedReference> listed(ReferenceWriter& writer, const std::vector<Reference>& references, Form form) {
     const bool isNumbered = form != Form::kList || writer.style().order == ListOrder::kAsCited;
-    const bool isByYear = form == Form::kList && writer.style().order == ListOrder::kByYear;
-    const std::vector<const Reference*> inOrder = ordered(writer, references, form);
-    const std::vector<Reference> lettered = isByYear ? withYearLetters(writer, inOrder) : std::vector<Reference>();
     std::vector<ListedReference> list;
     const Reference* before = nullptr;
-    for (std::size_t i = 0; i < inOrder.size(); ++i) {
-        const Reference& reference = isByYear ? lettered[i] : *inOrder[i];
+    for (const Reference* reference : ordered(writer, references, form)) {
         ListedReference entry{L"", makeObject<FormattedText>()};
-        writer.write(reference, form, *entry.text, form == Form::kList ? before : nullptr);
+        writer.write(*reference, form, *entry.text, form == Form::kList ? before : nullptr);
         if (isNumbered) entry.number = std::to_wstring(list.size() + 1) + L".";
-        before = &reference;
+        before = reference;
         list.push_back(std::move(entry));
     }
     return list;
