@@ -4,6 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "support/refers_to_preset.h"
 #include "support/style_file.h"
 #include "support/utf8.h"
 
@@ -11,9 +12,10 @@ namespace quorvel::bench {
 
 namespace {
 
-/// The fields of the file by the slots that they fill; others are passed over.
+/// The fields of a references file by the slots that they fill; others are passed over.
 constexpr std::array<std::string_view, kElements> kFields = {
-    "author", "title", "container", "editor", "volume", "issue", "place", "publisher", "year", "page",
+    "author", "title",     "container", "editor",       "volume", "issue", "place", "publisher", "year",
+    "page",   "newspaper", "edition",   "multi-volume", "series", "date",  "url",   "medium",    "refers-to",
 };
 
 /// What a style writes before a slot, whatever stands in front of it.
@@ -29,8 +31,8 @@ constexpr Separators kSeparators[] = {
     {"ama", u"(", u"; ", u":"},
 };
 
-std::vector<Reference> readReferences() {
-    std::ifstream file(QUORVEL_REFERENCES);
+std::vector<Reference> readReferences(const char* path) {
+    std::ifstream file(path);
     std::vector<Reference> references;
     Reference reference;
     const auto take = [&] {
@@ -52,7 +54,7 @@ std::vector<Reference> readReferences() {
     }
     take();
     if (references.empty()) {
-        throw std::runtime_error("no references in " QUORVEL_REFERENCES);
+        throw std::runtime_error(std::string("no references in ") + path);
     }
     return references;
 }
@@ -70,14 +72,22 @@ public:
     bool has(TextView /*key*/) const override { return false; }
 };
 
+constexpr std::size_t kFormattedSlots[] = {kTitle,    kContainer, kNewspaper, kEdition,
+                                           kMultiVol, kSeries,    kMedium,    kRefersTo};
+
 bool isFormatted(std::size_t slot) {
-    return slot == kTitle || slot == kContainer;
+    return std::find(std::begin(kFormattedSlots), std::end(kFormattedSlots), slot) != std::end(kFormattedSlots);
 }
 
 }  // namespace
 
 const std::vector<Reference>& references() {
-    static const std::vector<Reference> kReferences = readReferences();
+    static const std::vector<Reference> kReferences = readReferences(QUORVEL_REFERENCES);
+    return kReferences;
+}
+
+const std::vector<Reference>& sampleReferences() {
+    static const std::vector<Reference> kReferences = readReferences(QUORVEL_SAMPLE_REFERENCES);
     return kReferences;
 }
 
@@ -123,7 +133,8 @@ std::int16_t PhraseSink::removeQuoteFromLastPhrase() {
     return kPlain;
 }
 
-Style::Style(const std::string& name) : mFields(std::make_shared<NoFields>()) {
+Style::Style(const std::string& name, std::size_t elements)
+    : mElements(elements), mFields(std::make_shared<NoFields>()) {
     const OutputSinkRef sink = std::make_shared<PhraseSink>();
     const test::StyleFile& style = test::StyleFile::of(name);
     for (OutputTemplateAuthor* persons : {&mAuthor, &mEditor}) {
@@ -145,6 +156,26 @@ Style::Style(const std::string& name) : mFields(std::make_shared<NoFields>()) {
     mYear.Reset(style.options<YearOptions>("year", kYearOptions));
     mPage.Initialize(sink);
     mPage.Reset(style.options<PageOptions>("page", kPageOptions));
+    mNewspaper.Initialize(sink);
+    mNewspaper.Reset(style.options<NewspaperOptions>("newspaper", kNewspaperOptions));
+    const RefersToOptions refersTo = test::refersToOptions(name, sink);
+    mEdition.Initialize(sink);
+    // The style code is the same in all elements.
+    mEdition.Reset({refersTo.format, refersTo.pageTemplate});
+    for (OutputTemplateMultiVol* volumes : {&mMultiVol, &mSeries}) {
+        volumes->Initialize(sink);
+        volumes->Reset(style.options<MultiVolOptions>("multi-volume", kMultiVolOptions));
+    }
+    mIssue.Initialize(sink);
+    mIssue.Reset(style.options<IssueOptions>("issue", kIssueOptions));
+    mDate.Initialize(sink);
+    mDate.Reset(style.options<DateTimeOptions>("date-time", kDateTimeOptions));
+    mOnline.Initialize(sink);
+    mOnline.Reset(style.options<OnlineOptions>("online", kOnlineOptions));
+    mMedium.Initialize(sink);
+    mMedium.Reset(style.options<MediumOptions>("medium", kMediumOptions));
+    mRefersTo.Initialize(sink);
+    mRefersTo.Reset(refersTo);
     layOut(name, sink);
 }
 
@@ -152,10 +183,10 @@ void Style::layOut(const std::string& name, const OutputSinkRef& sink) {
     const auto* const own = std::find_if(std::begin(kSeparators), std::end(kSeparators),
                                          [&](const Separators& known) { return known.style == name; });
     mModel.Initialize(sink, std::make_shared<NoKeys>());
-    mModel.Reset(kElements - 1, u"..", 1);
-    for (std::size_t slot = 0; slot < kElements; ++slot) {
+    mModel.Reset(static_cast<std::int16_t>(mElements - 1), u"..", 1);
+    for (std::size_t slot = 0; slot < mElements; ++slot) {
         std::vector<Text> separators = {Text()};
-        for (std::size_t next = slot + 1; next < kElements; ++next) {
+        for (std::size_t next = slot + 1; next < mElements; ++next) {
             const bool isAfterContainer = slot == kContainer && next == kVolume;
             separators.emplace_back(next == kYear        ? own->year
                                     : next == kPage      ? own->page
@@ -187,6 +218,27 @@ void Style::parse(const Reference& reference) {
     parse(mYear, kYear);
     parse(mPage, kPage);
     mTitle.IsChapterOrWebsite(!reference[kContainer].empty());
+    if (mElements > kCommonElements) {
+        parseOthers(reference);
+    }
+}
+
+void Style::parseOthers(const Reference& reference) {
+    const auto parse = [&](auto& element, std::size_t slot, TextView secondary = {}) {
+        if (!reference[slot].empty()) {
+            mText = reference[slot];
+            element.Parse(mText, secondary);
+        }
+    };
+    parse(mNewspaper, kNewspaper);
+    parse(mEdition, kEdition);
+    parse(mMultiVol, kMultiVol, OutputTemplateMultiVol::kMultiVolCaption);
+    parse(mSeries, kSeries);
+    parse(mIssue, kIssue);
+    parse(mDate, kDate);
+    parse(mOnline, kOnline);
+    parse(mMedium, kMedium);
+    parse(mRefersTo, kRefersTo);
 }
 
 void Style::write(const Reference& reference, const OutputSinkRef& sink) {
@@ -212,7 +264,28 @@ bool Style::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std
     if (has(kPublisher)) items[kPublisher] = mPublisher.toString(isFootnote, shortenedVersion);
     if (has(kYear)) items[kYear] = mYear.toString(isFootnote, shortenedVersion);
     if (has(kPage)) items[kPage] = mPage.toString(isFootnote, shortenedVersion);
+    if (mElements > kCommonElements) {
+        writeOthers(isFootnote, items, formattedItems, shortenedVersion);
+    }
     return false;
+}
+
+void Style::writeOthers(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                        bool shortenedVersion) {
+    const Reference& reference = *mReference;
+    const auto write = [&](auto& element, std::size_t slot) {
+        if (!reference[slot].empty()) element.ToFormattedString(formattedItems[slot], isFootnote, shortenedVersion);
+    };
+    const auto has = [&](std::size_t slot) { return !reference[slot].empty(); };
+    write(mNewspaper, kNewspaper);
+    write(mEdition, kEdition);
+    write(mMultiVol, kMultiVol);
+    write(mSeries, kSeries);
+    write(mMedium, kMedium);
+    write(mRefersTo, kRefersTo);
+    if (has(kIssue)) items[kIssue] = mIssue.toString(isFootnote, shortenedVersion, false);
+    if (has(kDate)) items[kDate] = mDate.toString(isFootnote, shortenedVersion, false);
+    if (has(kOnline)) items[kOnline] = mOnline.toString(isFootnote, shortenedVersion, false);
 }
 
 Reference Style::elementsOf(const Reference& reference) {

@@ -8,16 +8,24 @@
 
 #include "core/output_template_model.h"
 #include "elements/author/author.h"
+#include "elements/date/date_time.h"
+#include "elements/edition/edition.h"
+#include "elements/issue/issue.h"
+#include "elements/medium/medium.h"
+#include "elements/multi_vol/multi_vol.h"
+#include "elements/newspaper.h"
+#include "elements/online.h"
 #include "elements/page.h"
 #include "elements/place.h"
 #include "elements/publisher.h"
+#include "elements/refers_to/refers_to.h"
 #include "elements/title/title.h"
 #include "elements/year.h"
 
 /// A native host: references with all their elements, and a style that writes them.
 namespace quorvel::bench {
 
-/// The elements of a reference, each a slot of its layout.
+/// The elements of a reference, each a slot of its layout: first those that most references have.
 enum Element : std::size_t {
     kAuthor,
     kTitle,
@@ -29,6 +37,15 @@ enum Element : std::size_t {
     kPublisher,
     kYear,
     kPage,
+    kCommonElements,
+    kNewspaper = kCommonElements,
+    kEdition,
+    kMultiVol,
+    kSeries,
+    kDate,
+    kOnline,
+    kMedium,
+    kRefersTo,
     kElements,
 };
 
@@ -37,6 +54,8 @@ using Reference = std::array<Text, kElements>;
 
 /// Some hundred different books, articles and chapters, read once from references.txt.
 const std::vector<Reference>& references();
+/// Those of the sample host, which have all elements between them.
+const std::vector<Reference>& sampleReferences();
 
 /// A sink that keeps what is written, with its fonts.
 class PhraseSink final : public OutputSink {
@@ -68,7 +87,8 @@ private:
 class Style final : public Implementor {
 public:
     /// @param name that of a style file: mla, apa, turabian, ama
-    explicit Style(const std::string& name);
+    /// @param elements how many of them the style writes: kCommonElements or all
+    explicit Style(const std::string& name, std::size_t elements = kCommonElements);
 
     /// Parses all elements and writes the reference.
     void write(const Reference& reference, const OutputSinkRef& sink);
@@ -82,6 +102,9 @@ public:
 
 private:
     void parse(const Reference& reference);
+    void parseOthers(const Reference& reference);
+    void writeOthers(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
+                     bool shortenedVersion);
     void layOut(const std::string& name, const OutputSinkRef& sink);
 
     OutputTemplateAuthor mAuthor;
@@ -92,6 +115,16 @@ private:
     OutputTemplatePublisher mPublisher;
     OutputTemplateYear mYear;
     OutputTemplatePage mPage;
+    OutputTemplateNewspaper mNewspaper;
+    OutputTemplateEdition mEdition;
+    OutputTemplateMultiVol mMultiVol;
+    OutputTemplateMultiVol mSeries;
+    OutputTemplateIssue mIssue;
+    OutputTemplateDateTime mDate;
+    OutputTemplateOnline mOnline;
+    OutputTemplateMedium mMedium;
+    OutputTemplateRefersTo mRefersTo;
+    std::size_t mElements;
     OutputTemplateModel mModel;
     const Reference* mReference = nullptr;
     // Not owned: the style is its own implementor.

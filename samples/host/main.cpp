@@ -39,12 +39,11 @@ Style namedStyle(const std::wstring& name) {
 
 std::vector<ListedReference> written(const LateBoundObject& library, const Style& style,
                                      const std::vector<Reference>& references, const CommandLine& line) {
-    if (line.citations) {
-        CitationWriter writer(library, style);
-        return cited(writer, references);
-    }
     ReferenceWriter writer(library, style);
-    return listed(writer, references, line.form);
+    const std::vector<Reference> lettered = withYearLetters(writer, references);
+    if (!line.citations) return listed(writer, lettered, line.form);
+    CitationWriter citations(library, style);
+    return cited(citations, lettered);
 }
 
 void printLists(const CommandLine& line, const std::vector<Style>& styles, const std::optional<Style>& from,

@@ -98,6 +98,28 @@ TEST(Styles, ALayoutIsWhatTheModelTemplateTakes) {
     EXPECT_EQ(report[0].separators.size(), 4u);
 }
 
+TEST(Styles, ASourceHasConditionsAndMayBeATextOfTheStyle) {
+    const TemporaryFile file(
+        L"style.name = \"S\"\n[element heading = title]\nformat = 1\n"
+        L"[slots]\nplace = number as heading if number~\"x\" unless medium=\"Print\" if year=date \"({})\" | "
+        L"says \"N.p.\" notes \"n.p.\" unless publisher\n"
+        L"[list book]\nplace last \".\"\n");
+    const Style style = readStyle(file.path());
+    const std::vector<SlotSource>& sources = style.layouts.at(L"book").slots[0].sources;
+    ASSERT_EQ(sources.size(), 2u);
+    EXPECT_EQ(sources[0].elementCode, codeOf(L"title"));
+    EXPECT_EQ(sources[0].pattern, L"({})");
+    ASSERT_EQ(sources[0].conditions.size(), 3u);
+    EXPECT_EQ(sources[0].conditions[0].text, L"x");
+    EXPECT_FALSE(sources[0].conditions[0].isWhole);
+    EXPECT_EQ(sources[0].conditions[1].text, L"Print");
+    EXPECT_FALSE(sources[0].conditions[1].holds);
+    EXPECT_EQ(sources[0].conditions[2].sameAs, findField(L"date"));
+    EXPECT_EQ(sources[1].field, nullptr);
+    EXPECT_EQ(sources[1].notePattern, L"n.p.");
+    EXPECT_EQ(sources[1].conditions[0].field, findField(L"publisher"));
+}
+
 TEST(Styles, FaultsAreNamedWithTheirLine) {
     const std::pair<const wchar_t*, const wchar_t*> cases[] = {
         {L"\nyear = true", L"line 2: the name is not of the form element.option."},
@@ -114,6 +136,8 @@ TEST(Styles, FaultsAreNamedWithTheirLine) {
         {L"[slots]\nauthor = autor", L"line 2: there is no field named autor."},
         {L"[slots]\nauthor = author bold", L"line 2: \"bold\" says nothing of a slot."},
         {L"[slots]\nnumber = number \"no.\"", L"line 2: there is no {} in the pattern."},
+        {L"[slots]\nnumber = says italic", L"line 2: a text in quotation marks is missing."},
+        {L"[slots]\nnumber = number if numbr", L"line 2: there is no field named numbr."},
         {L"style.name = \"S\"\n[list book]\nauthor last \".\"\ntitle last \".\"",
          L"line 3: what stands before title is missing."},
         {L"style.name = \"S\"\n[list book]\nauthor yaer \"\" other \"\" last \".\"\ntitle last \".\"",

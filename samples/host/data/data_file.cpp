@@ -10,7 +10,7 @@ namespace sample {
 namespace {
 
 constexpr const wchar_t* kBlanks = L" \t";
-constexpr const wchar_t* kWordEnds = L" \t=#,|[]\"";
+constexpr const wchar_t* kWordEnds = L" \t=~#,|[]\"";
 
 }  // namespace
 

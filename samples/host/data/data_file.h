@@ -22,7 +22,7 @@ public:
     /// Takes this character if it is the next one.
     bool take(wchar_t character);
     bool isNext(wchar_t character) const { return !mRest.empty() && mRest.front() == character; }
-    /// A run of other characters than blanks, quotation marks and = # , | [ ]
+    /// A run of other characters than blanks, quotation marks and = ~ # , | [ ]
     std::wstring word();
     /// A text in quotation marks, where one begins; a quotation mark in it is written twice.
     std::optional<std::wstring> text();

@@ -22,14 +22,19 @@ constexpr Field kFields[] = {
     {L"container", 8, 2, L"title"},
     {L"newspaper", 9, 4, L"newspaper"},
     {L"edition", 10, 8, L"edition"},
-    // The year of the first publication of what is reprinted.
+    // The year of the first publication of what is reprinted; and all that is told of it.
     {L"reprint", 31, 8, L"edition"},
+    {L"first-publication", 32, 8, L"edition"},
     // Of a book: "vol. 2", "4 vols."
     {L"multi-volume", 11, 10, L"multi-volume"},
+    // The whole of which a volume with a title of its own is a part: "Vol. 3 of A History of England. 4 vols."
+    {L"set", 33, 10, L"multi-volume"},
     {L"series", 12, 10, L"multi-volume"},
     // Of a journal.
     {L"volume", 13, kNoElement, L""},
     {L"issue", 14, 11, L"issue"},
+    // The title and editor of a special issue.
+    {L"special-issue", 34, 11, L"issue"},
     {L"year", 15, 6, L"year"},
     {L"date", 16, 17, L"date-time"},
     {L"page", kPageIndex, 7, L"page"},
@@ -42,7 +47,9 @@ constexpr Field kFields[] = {
     // What a thesis, report or title is: "Doctoral dissertation".
     {L"type", 21, kNoElement, L""},
     {L"refers-to", 22, 12, L"refers-to"},
-    {L"database", 23, kNoElement, L""},
+    // Volume, number, year and pages of an article that came in parts.
+    {L"parts", 35, 12, L"refers-to"},
+    {L"database", 23, 13, L"online"},
     {L"doi", 24, 13, L"online"},
     {L"url", 25, 13, L"online"},
     {L"medium", 26, 16, L"medium"},
@@ -62,6 +69,12 @@ const Field* findField(std::wstring_view name) {
     const auto* found =
         std::find_if(std::begin(kFields), std::end(kFields), [name](const Field& field) { return name == field.name; });
     return found == std::end(kFields) ? nullptr : found;
+}
+
+std::int16_t codeOf(std::wstring_view element) {
+    const auto* found = std::find_if(std::begin(kFields), std::end(kFields),
+                                     [element](const Field& field) { return element == field.element; });
+    return found == std::end(kFields) ? kNoElement : found->elementCode;
 }
 
 bool isElement(std::wstring_view name) {

@@ -30,12 +30,15 @@ struct Field {
 constexpr std::int16_t kNoteIndex = 4;
 constexpr std::int16_t kHasNoteIndex = 7;
 constexpr std::int16_t kPageIndex = 17;
-constexpr std::int16_t kLastIndex = 31;
+constexpr std::int16_t kLastIndex = 35;
 
 std::span<const Field> fields();
 
 /// The field with this name; null when there is none.
 const Field* findField(std::wstring_view name);
+
+/// What `Main2.build` takes for the element of that name.
+std::int16_t codeOf(std::wstring_view element);
 
 /// Whether style files may give options under this name.
 bool isElement(std::wstring_view name);

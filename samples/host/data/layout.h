@@ -10,11 +10,14 @@
 
 namespace sample {
 
-/// What a source asks of the reference: that it has a field, or that two fields are the same; or that this is not so.
+/// What a source asks of the reference: that it has a field, with the text of another field, with this text, or with
+/// this text in it; or that it is not so.
 struct SourceCondition {
     const Field* field = nullptr;
-    /// Null: any text will do.
     const Field* sameAs = nullptr;
+    /// Empty, and no other field: any text will do.
+    std::wstring text;
+    bool isWhole = true;
     bool holds = true;
 };
 
@@ -22,8 +25,10 @@ struct SourceCondition {
 struct SlotSource {
     /// Null: the pattern is what the style says of itself ("n.p.").
     const Field* field = nullptr;
-    /// Under which name the style gives the options of the element that writes the field.
+    /// Under which name the style gives the options of the element that writes the field, and what `Main2.build` takes
+    /// for it; kNoElement: the host writes the text as it stands.
     std::wstring element;
+    std::int16_t elementCode = kNoElement;
     /// The second text of `Parse`: of a title its type.
     std::wstring secondaryText;
     /// What the persons are is written with them: "Lopate, Phillip, ed."
@@ -35,10 +40,8 @@ struct SlotSource {
     bool inNotes = true;
     /// The source counts only when all of these are met.
     std::vector<SourceCondition> conditions;
-    /// The host writes the text, also where the library has an element for it.
-    bool asItStands = false;
-    /// What the host does with a text that no element of the library writes. {} in the pattern is the text, where the
-    /// source has a field; an empty pattern of notes is that of lists.
+    /// What the host adds: {} in the pattern is the text, where the source has a field; an empty pattern of notes is
+    /// that of lists. Another font than the plain one is that of the whole text.
     std::int32_t font = kPlain;
     std::wstring pattern = L"{}";
     std::wstring notePattern = {};

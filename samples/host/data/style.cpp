@@ -12,8 +12,8 @@ namespace {
 
 /// The options of short citations stand under this name.
 constexpr const wchar_t* kCitation = L"citation";
-/// Elements that write in several fonts.
-constexpr const wchar_t* kElementsWithFonts[] = {L"title", L"newspaper", L"multi-volume", L"refers-to"};
+/// Elements that write in several fonts: titles, newspapers, editions, volumes and series, issues, refers-to, media.
+constexpr std::int16_t kElementsWithFonts[] = {1, 2, 4, 8, 10, 11, 12, 16};
 
 /// Begins a source that is no field but a text of the style's own.
 constexpr std::wstring_view kSays = L"says";
@@ -198,9 +198,12 @@ private:
                 const std::wstring word = line.word();
                 if (word == L"as") {
                     source.element = line.word();
-                    if (!mStyle.elements.contains(source.element)) {
+                    const auto found = mStyle.elements.find(source.element);
+                    if (found == mStyle.elements.end()) {
                         throw Fault{L"there is no element named " + source.element};
                     }
+                    const std::wstring& base = found->second.base.empty() ? source.element : found->second.base;
+                    if (source.field == nullptr || base != source.field->element) source.elementCode = codeOf(base);
                 } else if (word == L"type") {
                     source.secondaryText = line.neededText();
                 } else if (word == L"with-role") {
@@ -212,11 +215,9 @@ private:
                 } else if (word == L"notes-only") {
                     source.inLists = false;
                 } else if (word == L"if" || word == L"unless") {
-                    SourceCondition condition{fieldNamed(line.word()), nullptr, word == L"if"};
-                    if (line.take(L'=')) condition.sameAs = fieldNamed(line.word());
-                    source.conditions.push_back(condition);
+                    source.conditions.push_back(condition(line, word == L"if"));
                 } else if (word == L"as-it-stands") {
-                    source.asItStands = true;
+                    source.elementCode = kNoElement;
                 } else if (word == L"italic") {
                     source.font = kItalic;
                 } else if (word == L"notes") {
@@ -228,6 +229,24 @@ private:
             sources.push_back(std::move(source));
         } while (line.take(L'|'));
         for (const std::wstring& kind : mSection.names) mSources[kind][slot] = sources;
+    }
+
+    // medium="Print", publisher=author, issue~"suppl"
+    static SourceCondition condition(LineReader& line, bool holds) {
+        SourceCondition condition;
+        condition.field = fieldNamed(line.word());
+        condition.holds = holds;
+        condition.isWhole = !line.take(L'~');
+        if (!condition.isWhole) {
+            condition.text = line.neededText();
+        } else if (line.take(L'=')) {
+            if (const std::optional<std::wstring> text = line.text()) {
+                condition.text = *text;
+            } else {
+                condition.sameAs = fieldNamed(line.word());
+            }
+        }
+        return condition;
     }
 
     static std::wstring pattern(LineReader& line, const SlotSource& source) {
@@ -247,6 +266,7 @@ private:
         SlotSource source;
         source.field = fieldNamed(name);
         source.element = source.field->element;
+        source.elementCode = source.field->elementCode;
         return source;
     }
 
@@ -287,11 +307,8 @@ private:
         for (Slot& slot : layout.slots) {
             slot.sources = sources(kind, slot.name);
             slot.isFormatted = std::any_of(slot.sources.begin(), slot.sources.end(), [](const SlotSource& source) {
-                const bool elementHasFonts =
-                    source.field != nullptr &&
-                    std::find(std::begin(kElementsWithFonts), std::end(kElementsWithFonts),
-                              std::wstring_view(source.field->element)) != std::end(kElementsWithFonts);
-                return source.font != kPlain || (elementHasFonts && !source.asItStands);
+                return source.font != kPlain || std::find(std::begin(kElementsWithFonts), std::end(kElementsWithFonts),
+                                                          source.elementCode) != std::end(kElementsWithFonts);
             });
         }
         return layout;

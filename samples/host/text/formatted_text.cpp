@@ -26,7 +26,9 @@ std::wstring withoutLooseEnds(std::wstring_view text) {
     std::wstring result;
     for (const wchar_t character : text) {
         const bool isSecondBlank = character == L' ' && (result.empty() || result.back() == L' ');
-        if (!isSecondBlank) result += character;
+        if (isSecondBlank) continue;
+        if (character == L';' && result.ends_with(L' ')) result.pop_back();
+        result += character;
     }
     const std::size_t last = result.find_last_not_of(L' ');
     result.resize(last == std::wstring::npos ? 0 : last + 1);

@@ -10,7 +10,7 @@
 namespace sample {
 
 /// The text without what an element's rule may leave of a part that it does not write: blanks and a comma at the end,
-/// blanks at the start, the second of two.
+/// blanks at the start and before a semicolon, the second of two.
 std::wstring withoutLooseEnds(std::wstring_view text);
 
 /// The formatted text to which the library writes: a row of phrases, each in one font. The library

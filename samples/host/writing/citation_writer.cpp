@@ -15,6 +15,7 @@ enum CitationField : std::int16_t {
     kPeriodical,
     kWebsite,
     kYear,
+    kOriginalYear,
     kIssue,
     kCitedVolume,
     kCitedPage,
@@ -26,9 +27,17 @@ struct CitationKey {
 };
 
 constexpr CitationKey kKeys[] = {
-    {L"author", kAuthor},           {L"editor", kEditor},       {L"title", kTitle}, {L"subwork", kPartTitle},
-    {L"periodical", kPeriodical},   {L"website", kWebsite},     {L"year", kYear},   {L"issue", kIssue},
-    {L"citedVolume", kCitedVolume}, {L"citedPage", kCitedPage},
+    {L"author", kAuthor},
+    {L"editor", kEditor},
+    {L"title", kTitle},
+    {L"subwork", kPartTitle},
+    {L"periodical", kPeriodical},
+    {L"website", kWebsite},
+    {L"year", kYear},
+    {L"originalYear", kOriginalYear},
+    {L"issue", kIssue},
+    {L"citedVolume", kCitedVolume},
+    {L"citedPage", kCitedPage},
 };
 
 /// How the author is told from others of the list.
@@ -123,6 +132,7 @@ void CitationWriter::setModel(const Reference& reference) {
     mModel->set(kPeriodical, isPeriodical ? container + reference.text(L"newspaper") : std::wstring());
     mModel->set(kWebsite, kind == L"web" && !isWholeSite ? container + reference.text(L"publisher") : std::wstring());
     mModel->set(kYear, formatted(L"year", reference.text(reference.text(L"year").empty() ? L"date" : L"year")));
+    mModel->set(kOriginalYear, reference.text(L"reprint"));
     mModel->set(kIssue, reference.text(L"issue"));
     mModel->set(kCitedVolume, isPeriodical ? reference.text(L"volume") : std::wstring());
     mModel->set(kCitedPage, formatted(L"cited", reference.text(L"cited")));

@@ -15,6 +15,10 @@ constexpr const char* kHeadingSpace = "\\keepn\\sb240\\sa120";
 constexpr std::wstring_view kArticles[] = {L"A ", L"An ", L"The "};
 constexpr DWORD kLettersAlone = NORM_IGNORECASE | NORM_IGNORENONSPACE | NORM_IGNORESYMBOLS;
 
+bool isPlainYear(std::wstring_view text) {
+    return text.size() == 4 && text.find_first_not_of(L"0123456789") == std::wstring_view::npos;
+}
+
 int compare(std::wstring_view left, std::wstring_view right) {
     return CompareStringEx(LOCALE_NAME_INVARIANT, kLettersAlone, left.data(), static_cast<int>(left.size()),
                            right.data(), static_cast<int>(right.size()), nullptr, nullptr, 0) -
@@ -73,6 +77,25 @@ std::vector<const Reference*> ordered(ReferenceWriter& writer, const std::vector
 }
 
 }  // namespace
+
+std::vector<Reference> withYearLetters(ReferenceWriter& writer, const std::vector<Reference>& references) {
+    std::vector<Reference> lettered = references;
+    if (writer.style().order != ListOrder::kByYear) return lettered;
+    const Field& year = *findField(L"year");
+    const std::vector<const Reference*> list = ordered(writer, references, Form::kList);
+    const auto isLikeNext = [&](std::size_t i) {
+        return i + 1 < list.size() && isPlainYear(list[i]->text(year)) &&
+               list[i]->text(year) == list[i + 1]->text(year) && writer.isSameAuthor(*list[i], *list[i + 1]);
+    };
+    wchar_t letter = L'a';
+    for (std::size_t i = 0; i < list.size(); ++i) {
+        const bool isLikeLast = i > 0 && isLikeNext(i - 1);
+        letter = isLikeLast ? static_cast<wchar_t>(letter + 1) : L'a';
+        if ((!isLikeLast && !isLikeNext(i)) || letter > L'z') continue;
+        lettered[static_cast<std::size_t>(list[i] - references.data())].set(year, list[i]->text(year) + letter);
+    }
+    return lettered;
+}
 
 std::vector<ListedReference> listed(ReferenceWriter& writer, const std::vector<Reference>& references, Form form) {
     const bool isNumbered = form != Form::kList || writer.style().order == ListOrder::kAsCited;

@@ -15,6 +15,10 @@ struct ListedReference {
     ComPointer<FormattedText> text;
 };
 
+/// The references with letters behind the years of works that one author has in one year, where the style lists works
+/// by year: 2006a, 2006b.
+std::vector<Reference> withYearLetters(ReferenceWriter& writer, const std::vector<Reference>& references);
+
 /// All references in the order that the style asks for; notes in the order of citation.
 std::vector<ListedReference> listed(ReferenceWriter& writer, const std::vector<Reference>& references, Form form);
 

@@ -35,10 +35,8 @@ Reference ReferenceWriter::elementTexts(const Reference& reference) {
     for (std::size_t i = 0; i < assembly.slots.size(); ++i) {
         const PreparedSource* filling = mFiller->filling(i);
         if (filling == nullptr || filling->element == nullptr) continue;
-        mSink->reset();
-        mFiller->write(i, false, false, *mSink);
         const Field& field = *filling->source->field;
-        texts.set(field, mStyle.textBehind(field, mSink->toString()));
+        texts.set(field, mStyle.textBehind(field, mFiller->elementText(i)));
     }
     mFiller->end();
     return texts;
@@ -85,10 +83,7 @@ ReferenceWriter::Template ReferenceWriter::build(const Layout& layout) {
         model.call(L"Add", {index++, slot.isFormatted, slot.checkingKey, Variant::array(separators)});
         PreparedSlot prepared{&slot, {}};
         for (const SlotSource& source : slot.sources) {
-            const bool isOwnText = source.asItStands || source.field == nullptr;
-            const StyledElement* element =
-                isOwnText ? nullptr : mElements.element(source.element, source.field->elementCode);
-            prepared.sources.push_back({&source, element});
+            prepared.sources.push_back({&source, mElements.element(source.element, source.elementCode)});
         }
         result.slots.push_back(std::move(prepared));
     }

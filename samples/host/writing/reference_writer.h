@@ -33,13 +33,15 @@ public:
     /// The field that heads the reference in a list of this style: author, editor, title.
     const Field* heading(const Reference& reference);
 
+    /// Whether both stand under the same persons.
+    bool isSameAuthor(const Reference& reference, const Reference& before);
+
 private:
     struct Template {
         LateBoundMember toFormattedString;
         std::vector<PreparedSlot> slots;
     };
 
-    bool isSameAuthor(const Reference& reference, const Reference& before);
     Template& templateFor(const Reference& reference);
     Template build(const Layout& layout);
     void setModel(const Reference& reference);

@@ -53,12 +53,19 @@ void SlotFiller::begin(const Reference& reference, const std::vector<PreparedSlo
 
 bool SlotFiller::counts(const SlotSource& source, Form form) const {
     const bool isInForm = form == Form::kList ? source.inLists : source.inNotes;
-    return isInForm && std::all_of(source.conditions.begin(), source.conditions.end(), [this](const auto& condition) {
-               const bool isMet = mReference->has(*condition.field) &&
-                                  (condition.sameAs == nullptr ||
-                                   mReference->text(*condition.field) == mReference->text(*condition.sameAs));
-               return isMet == condition.holds;
-           });
+    return isInForm && std::all_of(source.conditions.begin(), source.conditions.end(),
+                                   [this](const SourceCondition& condition) { return isMet(condition); });
+}
+
+bool SlotFiller::isMet(const SourceCondition& condition) const {
+    const std::wstring& text = mReference->text(*condition.field);
+    bool isSo = !text.empty();
+    if (condition.sameAs != nullptr) {
+        isSo = isSo && text == mReference->text(*condition.sameAs);
+    } else if (!condition.text.empty()) {
+        isSo = condition.isWhole ? text == condition.text : text.find(condition.text) != std::wstring::npos;
+    }
+    return isSo == condition.holds;
 }
 
 void SlotFiller::end() {
@@ -88,15 +95,28 @@ void SlotFiller::write(std::size_t slot, bool isFootnote, bool shortenedVersion,
     const PreparedSource& filling = *mFilling[slot];
     if (slot == 0 && !mSameAuthor.empty()) {
         fragment.add(authorMark(filling));
-    } else if (filling.element == nullptr) {
-        fragment.add(hostText(*filling.source, isFootnote), filling.source->font);
-    } else if ((*mSlots)[slot].slot->isFormatted) {
+    } else if (filling.element != nullptr && (*mSlots)[slot].slot->isFormatted) {
+        const Frame frame = frameOf(*filling.source, isFootnote);
+        const std::int32_t font = filling.source->font;
+        fragment.add(frame.before, font);
+        const ComPointer<FormattedText> text = makeObject<FormattedText>();
         parse(filling, isFootnote);
-        filling.element->toFormattedString({&fragment, isFootnote || filling.source->inNoteForm, shortenedVersion});
-        fragment.trim();
+        filling.element->toFormattedString({text.get(), isFootnote || filling.source->inNoteForm, shortenedVersion});
+        text->trim();
+        if (font == kPlain) {
+            fragment.add(*text);
+        } else {
+            fragment.add(text->toString(), font);
+        }
+        fragment.add(frame.behind, font);
     } else {
-        fragment.add(plainText(filling, isFootnote, shortenedVersion));
+        fragment.add(plainText(filling, isFootnote, shortenedVersion),
+                     filling.element == nullptr ? filling.source->font : kPlain);
     }
+}
+
+std::wstring SlotFiller::elementText(std::size_t slot) const {
+    return elementText(*mFilling[slot], false, false);
 }
 
 void SlotFiller::check(const Arguments& arguments) const {
@@ -132,7 +152,15 @@ void SlotFiller::parse(const PreparedSource& filling, bool isFootnote) const {
 
 std::wstring SlotFiller::plainText(const PreparedSource& filling, bool isFootnote, bool shortenedVersion) const {
     const SlotSource& source = *filling.source;
-    if (filling.element == nullptr) return hostText(source, isFootnote);
+    const Frame frame = frameOf(source, isFootnote);
+    if (source.field == nullptr) return frame.before;
+    const std::wstring text = filling.element == nullptr ? fieldText(*source.field, isFootnote)
+                                                         : elementText(filling, isFootnote, shortenedVersion);
+    return frame.before + text + frame.behind;
+}
+
+std::wstring SlotFiller::elementText(const PreparedSource& filling, bool isFootnote, bool shortenedVersion) const {
+    const SlotSource& source = *filling.source;
     parse(filling, isFootnote);
     const bool inNoteForm = isFootnote || source.inNoteForm;
     if (source.field->elementCode == kPlaceElement) {
@@ -143,10 +171,11 @@ std::wstring SlotFiller::plainText(const PreparedSource& filling, bool isFootnot
     return withoutLooseEnds(textOf(filling.element->toString({inNoteForm, shortenedVersion})));
 }
 
-std::wstring SlotFiller::hostText(const SlotSource& source, bool isFootnote) const {
-    std::wstring result = isFootnote && !source.notePattern.empty() ? source.notePattern : source.pattern;
-    if (source.field == nullptr) return result;
-    return result.replace(result.find(kPatternText), kPatternText.size(), fieldText(*source.field, isFootnote));
+SlotFiller::Frame SlotFiller::frameOf(const SlotSource& source, bool isFootnote) {
+    const std::wstring& pattern = isFootnote && !source.notePattern.empty() ? source.notePattern : source.pattern;
+    const std::size_t place = pattern.find(kPatternText);
+    if (place == std::wstring::npos) return {pattern, {}};
+    return {pattern.substr(0, place), pattern.substr(place + kPatternText.size())};
 }
 
 const std::wstring& SlotFiller::fieldText(const Field& field, bool isFootnote) const {

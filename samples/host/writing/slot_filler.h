@@ -42,15 +42,25 @@ public:
     const PreparedSource* filling(std::size_t slot) const { return mFilling[slot]; }
     /// What stands in the slot, in its fonts.
     void write(std::size_t slot, bool isFootnote, bool shortenedVersion, FormattedText& fragment) const;
+    /// What the element that fills a slot writes of its field in lists, without what the layout adds.
+    std::wstring elementText(std::size_t slot) const;
 
 private:
+    /// What the style writes around a text.
+    struct Frame {
+        std::wstring before;
+        std::wstring behind;
+    };
+
     void fill(const Arguments& arguments) const;
     void check(const Arguments& arguments) const;
     bool counts(const SlotSource& source, Form form) const;
+    bool isMet(const SourceCondition& condition) const;
     bool endsSentence(std::size_t slot) const;
     void parse(const PreparedSource& filling, bool isFootnote) const;
     std::wstring plainText(const PreparedSource& filling, bool isFootnote, bool shortenedVersion) const;
-    std::wstring hostText(const SlotSource& source, bool isFootnote) const;
+    std::wstring elementText(const PreparedSource& filling, bool isFootnote, bool shortenedVersion) const;
+    static Frame frameOf(const SlotSource& source, bool isFootnote);
     const std::wstring& fieldText(const Field& field, bool isFootnote) const;
     std::wstring authorMark(const PreparedSource& filling) const;
 

@@ -36,7 +36,7 @@ constexpr SlotLayout kCDLayout({
      {u"", u". ", u". ", u". ", u". ", u". ", u""}},
     {kPlainSlot, {u"", u", ", u", ", u", ", u", ", u""}, kChecked, {u"", u". ", u". ", u". ", u". ", u""}},
     {kPlainSlot, {u"", u", ", u", ", u", ", u""}, kChecked, {u"", u". ", u". ", u". ", u""}},
-    {kPlainSlot, {u"", u", ", u", ", u""}, kChecked, {u"", u". ", u". ", u""}},
+    {kFormattedSlot, {u"", u", ", u", ", u""}, kChecked, {u"", u". ", u". ", u""}},
     {kPlainSlot, {u"", u", ", u""}, kChecked, {u"", u". ", u""}},
     {kPlainSlot, {u"", u""}, kChecked, {u"", u""}},
 });
@@ -46,7 +46,7 @@ constexpr SlotLayout kMicroformLayout({
     {kPlainSlot,
      {u"", u". ", u". ", u". ", u". (", u". ", u". ", u". ", u". ", u". ", u""},
      {u"", u", ", u", ", u", ", u" (", u", ", u", ", u", ", u", ", u", ", u""}},
-    {kPlainSlot, {u"", u" ", u". ", u" (", u": ", u": ", u": ", u": ", u": ", u""}},
+    {kFormattedSlot, {u"", u" ", u". ", u" (", u": ", u": ", u": ", u": ", u": ", u""}},
     {kPlainSlot, {u"", u". ", u" (", u": ", u": ", u": ", u": ", u": ", u""}},
     {kPlainSlot, {u"", u" (", u": ", u": ", u": ", u": ", u": ", u""}},
     {kPlainSlot, {u"(", u"): ", u"): ", u"): ", u"): ", u"): ", u")"}},
@@ -207,11 +207,20 @@ Text OutputTemplateMedium::toString(bool isFootnote, bool shortenedVersion, bool
 }
 
 bool OutputTemplateMedium::fillSlots(bool isFootnote, std::vector<Text>& items,
-                                     std::vector<OutputSinkRef>& /*formattedItems*/, bool /*shortenedVersion*/) {
-    if (usesSecond()) {
+                                     std::vector<OutputSinkRef>& formattedItems, bool /*shortenedVersion*/) {
+    const bool isMicroform = usesSecond();
+    const TextView medium = caption();
+    // The title of a file is its format, which stands in the name of the medium.
+    const bool hasTitle = isMicroform || (medium != kBook && medium != kDigitalFile && medium != kEbook);
+    const Text title = hasTitle ? mValues.at(kTitle) : Text();
+    const OutputSinkRef fragment = formattedItems.at(isMicroform ? std::size_t{kSourceSlot} : std::size_t{kTitleSlot});
+    if (isMicroform) {
         fillMicroform(isFootnote, items);
     } else {
         fillCD(isFootnote, items);
+    }
+    if (!title.empty()) {
+        object(fragment).Add(title, OutputSink::kItalic);
     }
     return false;
 }
@@ -228,14 +237,12 @@ void OutputTemplateMedium::fillCD(bool isFootnote, std::vector<Text>& items) {
     Text name = tellsDiscs && joinsByComma ? outputTurabianCD() : mediumText();
     Text discs = getDiscString();
     Text date = dateText();
-    const bool hasFormat = medium == kDigitalFile || medium == kEbook;
     items.at(kMediumSlot) = std::move(name);
     if (tellsDiscs && !joinsByComma) {
         const Text& version = mValues.at(kVersion);
         items.at(kVersionSlot) = version.empty() ? Text() : concatenate({u"Version ", version});
         items.at(kDiscSlot) = std::move(discs);
     }
-    items.at(kTitleSlot) = hasFormat ? Text() : mValues.at(kTitle);
     items.at(kPublisherSlot) = mValues.at(kPublisher);
     items.at(kDateSlot) = std::move(date);
 }
@@ -243,14 +250,12 @@ void OutputTemplateMedium::fillCD(bool isFootnote, std::vector<Text>& items) {
 void OutputTemplateMedium::fillMicroform(bool isFootnote, std::vector<Text>& items) {
     Text date = dateText();
     Text form = mediumText();
-    const Text& source = mValues.at(kTitle);
-    const bool tellsPages = arePages(source);
+    const bool tellsPages = arePages(mValues.at(kTitle));
     if (tellsPages) {
         // Turabian 7 17.5.8: "microfiche, p. 53, 3C12". Pages are no source, behind which a colon stands.
-        form = concatenate({form, isFootnote ? u", " : u". ", source});
+        form = concatenate({form, isFootnote ? u", " : u". ", mValues.at(kTitle)});
     }
     items.at(kFormSlot) = std::move(form);
-    items.at(kSourceSlot) = tellsPages ? Text() : source;
     items.at(kSourceVersionSlot) = mValues.at(kVersion);
     items.at(kSourcePublisherSlot) = mValues.at(kPublisher);
     items.at(kSourceDateSlot) = std::move(date);

@@ -75,7 +75,8 @@ void OutputTemplateMedium::Parse(Text& text, TextView secondaryText) {
             } else if (mediumtext::isMicroform(caption())) {
                 ParseMicrofilm(rest);
             } else {
-                mValues.at(kTitle) = isTold && !found->format.empty() ? Text(found->format) : rest;
+                const bool hasFormat = isTold && !found->format.empty();
+                mValues.at(kTitle) = hasFormat ? Text(found->format) : Text(mediumtext::withoutVersion(rest));
             }
         }
         text.clear();

@@ -115,6 +115,11 @@ bool isMicroform(TextView caption) {
     return caption == kMicroform || caption == kMicrofilm || caption == kMicrofiche;
 }
 
+TextView withoutVersion(TextView text) {
+    return endsWithIgnoringCase(text, kVersionInBrackets) ? text.substr(0, text.size() - kVersionInBrackets.size())
+                                                          : text;
+}
+
 std::optional<Medium> mediumAtStart(TextView text) {
     for (const Spelling& spelling : kSpellings) {
         if (startsWithIgnoringCase(text, spelling.text) && ends(text.substr(spelling.text.size()))) {
@@ -129,7 +134,7 @@ std::optional<Medium> mediumAtStart(TextView text) {
         }
     }
     if (isInBrackets && endsWithIgnoringCase(inside, kVersionInBrackets)) {
-        return Medium{kEbook, inside.substr(0, inside.size() - kVersionInBrackets.size()), text.size()};
+        return Medium{kEbook, withoutVersion(inside), text.size()};
     }
     return std::nullopt;
 }

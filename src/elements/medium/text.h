@@ -33,6 +33,9 @@ struct Medium {
 };
 std::optional<Medium> mediumAtStart(TextView text);
 
+/// The format of an e-book without the word behind it: "Kindle" for "Kindle version". Any other text stays.
+TextView withoutVersion(TextView text);
+
 /// A piece of a statement, at its beginning or behind ". ", ", ", ": ": where it begins, with its joint, and how long
 /// it is; its value lies inside.
 struct Piece {

@@ -123,6 +123,25 @@ TEST(Medium, ReadsWhatAnyStyleWroteAndWritesItInAll) {
     }
 }
 
+TEST(Medium, TitlesAreItalic) {
+    Medium element = elementOf("mla");
+    const std::pair<TextView, TextView> cases[] = {
+        {u"Microform. NewsBank: Welfare 12 (1990): fiche 1", u"NewsBank: Welfare"},
+        {u"CD-ROM. ERIC. SilverPlatter. June 1993", u"ERIC"},
+        {u"PDF file", u""},
+    };
+    for (const auto& [text, title] : cases) {
+        parse(element, text);
+        const auto sink = std::make_shared<RecordingSink>();
+        element.ToFormattedString(sink, false, false);
+        Text italic;
+        for (const RecordingSink::Phrase& phrase : sink->phrases()) {
+            italic += phrase.font == OutputSink::kItalic ? phrase.text : Text();
+        }
+        EXPECT_EQ(italic, title) << shown(text);
+    }
+}
+
 TEST(Medium, TakesItsCaptionFromTheHost) {
     Medium element = elementOf("turabian");
     parse(element, u"Disc 2", u"DVD");
@@ -130,8 +149,10 @@ TEST(Medium, TakesItsCaptionFromTheHost) {
     EXPECT_TRUE(element.showDiscs());
     parse(element, u"CD-ROM", u"Book or website");
     EXPECT_EQ(valuesOf(element), u"Book or website");
-    parse(element, u"Kindle", u"e-book");
-    EXPECT_EQ(element.toString(false, false), u"Kindle eBook");
+    for (const TextView text : {u"Kindle", u"Kindle version"}) {
+        parse(element, text, u"e-book");
+        EXPECT_EQ(element.toString(false, false), u"Kindle eBook");
+    }
     EXPECT_FALSE(element.showDiscs());
     parse(element, u"", u"Microfilm");
     EXPECT_EQ(element.toString(false, false), u"Microfilm");
