@@ -1,60 +1,28 @@
 #include "elements/page.h"
 
-#include <benchmark/benchmark.h>
+#include "element_bench.h"
 
 namespace quorvel::bench {
 namespace {
 
-OutputTemplatePage turabianPage() {
-    OutputTemplatePage page;
-    page.Initialize(nullptr);
-    page.Reset({false, true, true, false, false, true, u"n.p.", u"chap.", u"chaps.", u"par.", u"pars.", true, true});
-    return page;
+auto turabianPage() {
+    const auto page = elementWith<OutputTemplatePage>(PageOptions{false, true, true, false, false, true, u"n.p.",
+                                                                  u"chap.", u"chaps.", u"par.", u"pars.", true, true});
+    return [page](TextView text, TextView secondary) {
+        Text parsed(text);
+        page->Parse(parsed, secondary);
+        benchmark::DoNotOptimize(page->toString(false, false));
+    };
 }
 
-Text parseAndFormat(OutputTemplatePage& page, TextView text) {
-    Text parsed(text);
-    page.Parse(parsed, {});
-    return page.toString(false, false);
-}
-
-void parseAndFormatPage(benchmark::State& state, TextView text) {
-    OutputTemplatePage page = turabianPage();
-    for (auto _ : state) {
-        benchmark::DoNotOptimize(parseAndFormat(page, text));
-    }
-}
-BENCHMARK_CAPTURE(parseAndFormatPage, single, u"45");
-BENCHMARK_CAPTURE(parseAndFormatPage, range, u"379-423");
-BENCHMARK_CAPTURE(parseAndFormatPage, chaptersWithNotes, u"chaps. 101\u2013108nn3-4");
-BENCHMARK_CAPTURE(parseAndFormatPage, list, u"B1, B4, B5-B7");
-
-/// The time for each character stays the same when the growth is linear.
-void pagePerCharacter(benchmark::State& state, TextView piece) {
-    OutputTemplatePage page = turabianPage();
-    const auto length = static_cast<std::size_t>(state.range(0));
-    Text text;
-    while (text.size() < length) {
-        text += piece;
-    }
-    for (auto _ : state) {
-        for (std::size_t done = 0; done < 100'000; done += length) {
-            benchmark::DoNotOptimize(parseAndFormat(page, text));
-        }
-    }
-}
-BENCHMARK_CAPTURE(pagePerCharacter, list, u"321-328, xii-xiv, ")
-    ->Arg(100)
-    ->Arg(1'000)
-    ->Arg(10'000)
-    ->Arg(100'000)
-    ->Unit(benchmark::kMicrosecond);
-BENCHMARK_CAPTURE(pagePerCharacter, dashes, u"1-2-")
-    ->Arg(100)
-    ->Arg(1'000)
-    ->Arg(10'000)
-    ->Arg(100'000)
-    ->Unit(benchmark::kMicrosecond);
+const bool kTexts = benchTexts("parseAndFormatPage", turabianPage,
+                               {{"single", u"45"},
+                                {"range", u"379-423"},
+                                {"chaptersWithNotes", u"chaps. 101\u2013108nn3-4"},
+                                {"list", u"B1, B4, B5-B7"}});
+const bool kGrowth =
+    benchGrowth("pagePerCharacter", turabianPage,
+                {{.name = "list", .piece = u"321-328, xii-xiv, "}, {.name = "dashes", .piece = u"1-2-"}});
 
 }  // namespace
 }  // namespace quorvel::bench

@@ -1,4 +1,5 @@
 #include "core/text.h"
+#include "support/rows.h"
 
 #include <gtest/gtest.h>
 
@@ -10,15 +11,11 @@ TEST(Text, CleanUpKeepsWhatAReaderSees) {
         TextView raw;
         TextView clean;
     };
-    constexpr Case kCases[] = {
-        {u"", u""},
-        {u"  1990  ", u"1990"},
-        {u"Garc\u00EDa\u00A0M\u00E1rquez,\tGabriel\r\n", u"Garc\u00EDa M\u00E1rquez, Gabriel"},
-        {u"New\u2009\u3000 York", u"New York"},
-        {u"\uFEFFCam\u00ADbridge\u200B", u"Cambridge"},
-        {u"\u200B \u00AD", u""},
-        {u"\u0646\u200C\u0647", u"\u0646\u200C\u0647"},
-    };
+    const auto kCases = rows<Case>(
+        u" =>  ||   1990   => 1990 || "
+        u"Garc\u00EDa\u00A0M\u00E1rquez,\tGabriel\r\n => Garc\u00EDa M\u00E1rquez, Gabriel || "
+        u"New\u2009\u3000 York => New York || \uFEFFCam\u00ADbridge\u200B => Cambridge || \u200B \u00AD =>  || "
+        u"\u0646\u200C\u0647 => \u0646\u200C\u0647");
     for (const Case& c : kCases) {
         EXPECT_EQ(cleanUp(c.raw), c.clean);
     }

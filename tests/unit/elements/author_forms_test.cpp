@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/author_reading.h"
+#include "support/rows.h"
 #include "support/shown.h"
 
 namespace quorvel {
@@ -11,42 +12,36 @@ TEST(AuthorForms, ReadsEachPrintedForm) {
         TextView text;
         TextView persons;
     };
-    constexpr Case kCases[] = {
-        {u"Wegener, D. T., & Petty, R. E.", u"Wegener|D. T.; Petty|R. E."},
-        {u"Wegener, D. T. and Petty, R. E.", u"Wegener|D. T.; Petty|R. E."},
-        {u"Wegener,D.T.,Petty,R.E.", u"Wegener|D. T.; Petty|R. E."},
-        {u"Wegener, Duane T., and Richard E. Petty", u"Wegener|Duane T.; Petty|Richard E."},
-        {u"Duane T. Wegener and Richard E. Petty", u"Wegener|Duane T.; Petty|Richard E."},
-        {u"Wegener DT, Petty RE", u"Wegener|D. T.; Petty|R. E."},
-        {u"Wegener DT, Petty RE.", u"Wegener|D. T.; Petty|R. E."},
-        {u"Wegener D T, Petty R E", u"Wegener|D. T.; Petty|R. E."},
-        {u"Smith J., Jones K. B., & Brown L.", u"Smith|J.; Jones|K. B.; Brown|L."},
-        {u"Smith, Jones, and Brown", u"Smith; Jones; Brown"},
-        {u"Smith, John, and Brown", u"Smith|John; Brown"},
-        {u"e. e. cummings", u"cummings|e. e."},
-        {u"Aad, G., et al. (ATLAS Collaboration)", u"Aad|G.; ATLAS Collaboration et al."},
-        {u"Smith, J. (Ed.), & Jones, K. (Trans.)", u"Smith|J.; Jones|K."},
-        {u"Penfield W Jasper H", u"Penfield|W.; Jasper|H."},
-        {u"Wegener, Duane; Petty, Richard; García Márquez, Gabriel José",
-         u"Wegener|Duane; Petty|Richard; García Márquez|Gabriel José"},
-        {u"Fabian Kuhn, Nancy Lynch, and Calvin Newport", u"Kuhn|Fabian; Lynch|Nancy; Newport|Calvin"},
-        {u"Lebling, P. David, Marc S. Blank, and Timothy A. Anderson",
-         u"Lebling|P. David; Blank|Marc S.; Anderson|Timothy A."},
-        {u"Smith, John, Jones, Kim, & Doe, Ann", u"Smith|John; Jones|Kim; Doe|Ann"},
-        {u"Smith", u"Smith"},
-        {u"Smith & Jones", u"Smith; Jones"},
-        {u"Smith, Ed", u"Smith|Ed"},
-        {u"Demers, Hendrix, et al.", u"Demers|Hendrix et al."},
-        {u"Hendrix Demers et al.", u"Demers|Hendrix et al."},
-        {u"Thomas C. King et al", u"King|Thomas C. et al."},
-        {u"Smith J, Jones K, et al.", u"Smith|J.; Jones|K. et al."},
-        {u"Smith J, Jones K, et al; WHO Working Group", u"Smith|J.; Jones|K.; WHO Working Group et al."},
-        {u"Smith, John, and others", u"Smith|John et al."},
-        {u"Adams, A., Brown, B., Cole, C., Dunn, D., Eng, E., Fox, F., . . . Zimm, Z.",
-         u"Adams|A.; Brown|B.; Cole|C.; Dunn|D.; Eng|E.; Fox|F.; Zimm|Z. et al."},
-        {u"Adams, A., Brown, B., \u2026 Zimm, Z.", u"Adams|A.; Brown|B.; Zimm|Z. et al."},
-        {u"  Smith,\u00A0John\u200B ", u"Smith|John"},
-    };
+    const auto kCases = rows<Case>(
+        u"Wegener, D. T., & Petty, R. E. => Wegener|D. T.; Petty|R. E. || "
+        u"Wegener, D. T. and Petty, R. E. => Wegener|D. T.; Petty|R. E. || "
+        u"Wegener,D.T.,Petty,R.E. => Wegener|D. T.; Petty|R. E. || "
+        u"Wegener, Duane T., and Richard E. Petty => Wegener|Duane T.; Petty|Richard E. || "
+        u"Duane T. Wegener and Richard E. Petty => Wegener|Duane T.; Petty|Richard E. || "
+        u"Wegener DT, Petty RE => Wegener|D. T.; Petty|R. E. || "
+        u"Wegener DT, Petty RE. => Wegener|D. T.; Petty|R. E. || "
+        u"Wegener D T, Petty R E => Wegener|D. T.; Petty|R. E. || "
+        u"Smith J., Jones K. B., & Brown L. => Smith|J.; Jones|K. B.; Brown|L. || "
+        u"Smith, Jones, and Brown => Smith; Jones; Brown || Smith, John, and Brown => Smith|John; Brown || "
+        u"e. e. cummings => cummings|e. e. || "
+        u"Aad, G., et al. (ATLAS Collaboration) => Aad|G.; ATLAS Collaboration et al. || "
+        u"Smith, J. (Ed.), & Jones, K. (Trans.) => Smith|J.; Jones|K. || "
+        u"Penfield W Jasper H => Penfield|W.; Jasper|H. || "
+        u"Wegener, Duane; Petty, Richard; García Márquez, Gabriel José => Wegener|Duane; Petty|Richard; García "
+        u"Márquez|Gabriel José || "
+        u"Fabian Kuhn, Nancy Lynch, and Calvin Newport => Kuhn|Fabian; Lynch|Nancy; Newport|Calvin || "
+        u"Lebling, P. David, Marc S. Blank, and Timothy A. Anderson => Lebling|P. David; Blank|Marc S.; "
+        u"Anderson|Timothy A. || "
+        u"Smith, John, Jones, Kim, & Doe, Ann => Smith|John; Jones|Kim; Doe|Ann || Smith => Smith || "
+        u"Smith & Jones => Smith; Jones || Smith, Ed => Smith|Ed || "
+        u"Demers, Hendrix, et al. => Demers|Hendrix et al. || Hendrix Demers et al. => Demers|Hendrix et al. || "
+        u"Thomas C. King et al => King|Thomas C. et al. || Smith J, Jones K, et al. => Smith|J.; Jones|K. et al. || "
+        u"Smith J, Jones K, et al; WHO Working Group => Smith|J.; Jones|K.; WHO Working Group et al. || "
+        u"Smith, John, and others => Smith|John et al. || "
+        u"Adams, A., Brown, B., Cole, C., Dunn, D., Eng, E., Fox, F., . . . Zimm, Z. => Adams|A.; Brown|B.; Cole|C.; "
+        u"Dunn|D.; Eng|E.; Fox|F.; Zimm|Z. et al. || "
+        u"Adams, A., Brown, B., \u2026 Zimm, Z. => Adams|A.; Brown|B.; Zimm|Z. et al. || "
+        u"  Smith,\u00A0John\u200B  => Smith|John");
     for (const test::AuthorPreset& preset : test::authorPresets()) {
         const auto author = test::authorWith(preset.options);
         for (const Case& c : kCases) {

@@ -105,44 +105,5 @@ TEST(AuthorHostile, WithoutInitializeOrResetNothingBreaks) {
     EXPECT_EQ(author.toString(false, false), u"Smith, John, and Ann Doe");
 }
 
-/// The sink fails at each of its calls in turn: the element works again afterwards.
-TEST(AuthorHostile, FailingSink) {
-    for (int call = 1; call < 12; ++call) {
-        const auto sink = std::make_shared<RecordingSink>();
-        OutputTemplateAuthor author;
-        author.Initialize(sink);
-        author.Reset(test::amaAuthorOptions());
-        Text text = u"Smith JA, Jones K; World Health Organization";
-        author.Parse(text, {});
-        sink->failAt(call);
-        author.ToFormattedString(sink, false, false);
-        author.toString(false, false);
-        sink->failAt(0);
-        EXPECT_EQ(author.toString(false, false), u"Smith JA, Jones K; World Health Organization");
-    }
-}
-
-/// The host reads another list and sets another style in the middle of each call.
-TEST(AuthorHostile, SinkThatCallsBack) {
-    const auto sink = std::make_shared<RecordingSink>();
-    const auto author = std::make_shared<OutputTemplateAuthor>();
-    author->Initialize(sink);
-    author->Reset(test::mlaAuthorOptions());
-    test::read(*author, u"Smith, John, Ann Doe, and Kim Jones");
-    bool isLong = false;
-    sink->onCall([&] {
-        isLong = !isLong;
-        author->Reset(isLong ? test::apaAuthorOptions() : test::amaAuthorOptions());
-        test::read(*author, isLong ? u"A B, C D, E F, G H, I J, and K L" : u"Kuhn, Fabian");
-        author->toString(isLong, false);
-    });
-    author->ToFormattedString(sink, false, false);
-    author->toString(false, false);
-    sink->onCall({});
-    author->Reset(test::mlaAuthorOptions());
-    test::read(*author, u"Smith, John");
-    EXPECT_EQ(author->toString(false, false), u"Smith, John");
-}
-
 }  // namespace
 }  // namespace quorvel

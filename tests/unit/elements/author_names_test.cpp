@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/author_reading.h"
+#include "support/rows.h"
 #include "support/shown.h"
 
 namespace quorvel {
@@ -12,8 +13,7 @@ struct Case {
 };
 
 /// Each list is read alike whatever style is in force.
-template <std::size_t N>
-void expectReadings(const Case (&cases)[N]) {
+void expectReadings(const std::vector<Case>& cases) {
     for (const test::AuthorPreset& preset : test::authorPresets()) {
         const auto author = test::authorWith(preset.options);
         for (const Case& c : cases) {
@@ -23,60 +23,41 @@ void expectReadings(const Case (&cases)[N]) {
 }
 
 TEST(AuthorNames, ParticlesBelongToTheLastName) {
-    constexpr Case kCases[] = {
-        {u"M. A. van der Meer", u"van der Meer|M. A."},
-        {u"van der Meer, M. A.", u"van der Meer|M. A."},
-        {u"van der Meer MA", u"van der Meer|M. A."},
-        {u"van der Meer", u"van der Meer"},
-        {u"Daniel Aguirre de Carcer", u"de Carcer|Daniel Aguirre"},
-        {u"Marina De Vos", u"De Vos|Marina"},
-        {u"Ursula K. Le Guin", u"Le Guin|Ursula K."},
-        {u"Sophie in 't Veld", u"in 't Veld|Sophie"},
-        {u"Sophie in \u2019t Veld", u"in \u2019t Veld|Sophie"},
-        {u"R. de Ruyter van Steveninck", u"de Ruyter van Steveninck|R."},
-        {u"N. Neuenschwander-el Massioui", u"Neuenschwander-el Massioui|N."},
-        {u"Jill St. John", u"St. John|Jill"},
-        {u"Quoc Le", u"Le|Quoc"},
-        // "Maria de Lourdes" is a first name.
-        {u"Maria de Lourdes Silva", u"Silva|Maria de Lourdes"},
-        {u"María de la Luz Hernández", u"Hernández|María de la Luz"},
-        {u"Simone de Beauvoir", u"Beauvoir|Simone de"},
-        {u"Beauvoir, Simone de", u"Beauvoir|Simone de"},
-        // He goes by his second name, which is a particle elsewhere.
-        {u"W. Ben Towne", u"Towne|W. Ben"},
-        {u"Russo, R. de F., and A. de F. S. M. Russo", u"Russo|R. de F.; de F. S. M. Russo|A."},
-    };
+    // "Maria de Lourdes" is a first name.
+    // He goes by his second name, which is a particle elsewhere.
+    const auto kCases = rows<Case>(
+        u"M. A. van der Meer => van der Meer|M. A. || van der Meer, M. A. => van der Meer|M. A. || "
+        u"van der Meer MA => van der Meer|M. A. || van der Meer => van der Meer || "
+        u"Daniel Aguirre de Carcer => de Carcer|Daniel Aguirre || Marina De Vos => De Vos|Marina || "
+        u"Ursula K. Le Guin => Le Guin|Ursula K. || Sophie in 't Veld => in 't Veld|Sophie || "
+        u"Sophie in \u2019t Veld => in \u2019t Veld|Sophie || "
+        u"R. de Ruyter van Steveninck => de Ruyter van Steveninck|R. || "
+        u"N. Neuenschwander-el Massioui => Neuenschwander-el Massioui|N. || Jill St. John => St. John|Jill || "
+        u"Quoc Le => Le|Quoc || Maria de Lourdes Silva => Silva|Maria de Lourdes || "
+        u"María de la Luz Hernández => Hernández|María de la Luz || Simone de Beauvoir => Beauvoir|Simone de || "
+        u"Beauvoir, Simone de => Beauvoir|Simone de || W. Ben Towne => Towne|W. Ben || "
+        u"Russo, R. de F., and A. de F. S. M. Russo => Russo|R. de F.; de F. S. M. Russo|A.");
     expectReadings(kCases);
 }
 
 TEST(AuthorNames, TwoLastNamesStayTogether) {
-    constexpr Case kCases[] = {
-        {u"José Ortega y Gasset", u"Ortega y Gasset|José"},
-        {u"António Costa e Silva", u"Costa e Silva|António"},
-        {u"Ludwig Mies van der Rohe", u"Mies van der Rohe|Ludwig"},
-        {u"Pierre Teilhard de Chardin", u"Teilhard de Chardin|Pierre"},
-        {u"Laura E. Beane Freeman", u"Beane Freeman|Laura E."},
-        {u"Adolfo Sánchez Vázquez", u"Sánchez Vázquez|Adolfo"},
-        {u"Elias Chaibub Neto", u"Chaibub Neto|Elias"},
-        {u"García Márquez, Gabriel", u"García Márquez|Gabriel"},
-        {u"García Márquez, Gabriel José, and Mario Vargas Llosa", u"García Márquez|Gabriel José; Vargas Llosa|Mario"},
-    };
+    const auto kCases = rows<Case>(
+        u"José Ortega y Gasset => Ortega y Gasset|José || António Costa e Silva => Costa e Silva|António || "
+        u"Ludwig Mies van der Rohe => Mies van der Rohe|Ludwig || "
+        u"Pierre Teilhard de Chardin => Teilhard de Chardin|Pierre || "
+        u"Laura E. Beane Freeman => Beane Freeman|Laura E. || Adolfo Sánchez Vázquez => Sánchez Vázquez|Adolfo || "
+        u"Elias Chaibub Neto => Chaibub Neto|Elias || García Márquez, Gabriel => García Márquez|Gabriel || "
+        u"García Márquez, Gabriel José, and Mario Vargas Llosa => García Márquez|Gabriel José; Vargas Llosa|Mario");
     expectReadings(kCases);
 }
 
 TEST(AuthorNames, ArabicAndEastAsianNames) {
-    constexpr Case kCases[] = {
-        {u"Ibn Khaldun", u"Ibn Khaldun"},
-        {u"Muhammad ibn Musa al-Khwarizmi", u"ibn Musa al-Khwarizmi|Muhammad"},
-        {u"Tawfiq al-Hakim", u"al-Hakim|Tawfiq"},
-        {u"Hakim, Tawfiq al-", u"al-Hakim|Tawfiq"},
-        {u"Medici, Lorenzo de\u2019", u"de\u2019 Medici|Lorenzo"},
-        {u"Chao Wu-chi", u"Chao|Wu-chi"},
-        {u"Kurosawa Akira", u"Kurosawa|Akira"},
-        {u"Akira Kurosawa", u"Kurosawa|Akira"},
-        {u"Kurosawa", u"Kurosawa"},
-        {u"\u738B\u5C0F\u660E", u"\u738B\u5C0F\u660E"},
-    };
+    const auto kCases = rows<Case>(
+        u"Ibn Khaldun => Ibn Khaldun || Muhammad ibn Musa al-Khwarizmi => ibn Musa al-Khwarizmi|Muhammad || "
+        u"Tawfiq al-Hakim => al-Hakim|Tawfiq || Hakim, Tawfiq al- => al-Hakim|Tawfiq || "
+        u"Medici, Lorenzo de\u2019 => de\u2019 Medici|Lorenzo || Chao Wu-chi => Chao|Wu-chi || "
+        u"Kurosawa Akira => Kurosawa|Akira || Akira Kurosawa => Kurosawa|Akira || Kurosawa => Kurosawa || "
+        u"\u738B\u5C0F\u660E => \u738B\u5C0F\u660E");
     expectReadings(kCases);
 
     const auto author = test::authorWith(test::mlaAuthorOptions());
@@ -89,89 +70,75 @@ TEST(AuthorNames, ArabicAndEastAsianNames) {
 }
 
 TEST(AuthorNames, InitialsAreSpreadWithTheirStops) {
-    constexpr Case kCases[] = {
-        {u"Fromhold AT Jr", u"Fromhold|A. T.|Jr."},
-        {u"Kuik C-C, Meyer J-JCh", u"Kuik|C.-C.; Meyer|J.-J. Ch."},
-        {u"Fromhold, A.T.", u"Fromhold|A. T."},
-        {u"Cliff, Jacqueline M, Stefan H E Kaufmann, and A de Polignac",
-         u"Cliff|Jacqueline M.; Kaufmann|Stefan H. E.; de Polignac|A."},
-        {u"J.-P. Sartre", u"Sartre|J.-P."},
-        {u"É. Durkheim and Ł. Kaczmarek", u"Durkheim|É.; Kaczmarek|Ł."},
-        {u"Durkheim É, Kaczmarek Ł", u"Durkheim|É.; Kaczmarek|Ł."},
-        {u"John F Kennedy and Robert F Kennedy", u"Kennedy|John F.; Kennedy|Robert F."},
-        {u"Edward H Shortliffe and Bruce G. Buchanan", u"Shortliffe|Edward H.; Buchanan|Bruce G."},
-        // Sounds of two letters.
-        {u"Gritsenko YuI, Yakovlev AYa", u"Gritsenko|Yu. I.; Yakovlev|A. Ya."},
-        {u"CO Callender", u"Callender|C. O."},
-        // Initials that spell other words.
-        {u"O’Mara SM, Rolls ET, Jones ED, Smith DE", u"O’Mara|S. M.; Rolls|E. T.; Jones|E. D.; Smith|D. E."},
-        {u"Smith JR, Brown IV", u"Smith|J. R.; Brown|I. V."},
-        {u"SMITH, JOHN, AND VAN DER MEER, JAN", u"SMITH|JOHN; VAN DER MEER|JAN"},
-    };
+    // Sounds of two letters.
+    // Initials that spell other words.
+    const auto kCases = rows<Case>(
+        u"Fromhold AT Jr => Fromhold|A. T.|Jr. || Kuik C-C, Meyer J-JCh => Kuik|C.-C.; Meyer|J.-J. Ch. || "
+        u"Fromhold, A.T. => Fromhold|A. T. || "
+        u"Cliff, Jacqueline M, Stefan H E Kaufmann, and A de Polignac => Cliff|Jacqueline M.; Kaufmann|Stefan H. E.; "
+        u"de Polignac|A. || "
+        u"J.-P. Sartre => Sartre|J.-P. || É. Durkheim and Ł. Kaczmarek => Durkheim|É.; Kaczmarek|Ł. || "
+        u"Durkheim É, Kaczmarek Ł => Durkheim|É.; Kaczmarek|Ł. || "
+        u"John F Kennedy and Robert F Kennedy => Kennedy|John F.; Kennedy|Robert F. || "
+        u"Edward H Shortliffe and Bruce G. Buchanan => Shortliffe|Edward H.; Buchanan|Bruce G. || "
+        u"Gritsenko YuI, Yakovlev AYa => Gritsenko|Yu. I.; Yakovlev|A. Ya. || CO Callender => Callender|C. O. || "
+        u"O’Mara SM, Rolls ET, Jones ED, Smith DE => O’Mara|S. M.; Rolls|E. T.; Jones|E. D.; Smith|D. E. || "
+        u"Smith JR, Brown IV => Smith|J. R.; Brown|I. V. || "
+        u"SMITH, JOHN, AND VAN DER MEER, JAN => SMITH|JOHN; VAN DER MEER|JAN");
     expectReadings(kCases);
 }
 
 TEST(AuthorNames, PostfixesAfterACommaABlankOrInitials) {
-    constexpr Case kCases[] = {
-        {u"Fromhold, A. T., Jr.", u"Fromhold|A. T.|Jr."},
-        {u"A. T. Fromhold Jr.", u"Fromhold|A. T.|Jr."},
-        {u"A. T. Fromhold, Jr., and K. Smith", u"Fromhold|A. T.|Jr.; Smith|K."},
-        {u"Gates, Henry Louis Jr., and Cornel West", u"Gates|Henry Louis|Jr.; West|Cornel"},
-        {u"Hemphill JC III, Smith J", u"Hemphill|J. C.|III; Smith|J."},
-        {u"Rockefeller, John D., IV", u"Rockefeller|John D.|IV"},
-        {u"Rockefeller, John D., VI", u"Rockefeller|John D.|VI"},
-        {u"Conway, L. G., III, & Gornick, L. J.", u"Conway|L. G.|III; Gornick|L. J."},
-        {u"John D. Rockefeller III", u"Rockefeller|John D.|III"},
-        {u"Daumé, Hal III, and Daniel Marcu", u"Daumé|Hal|III; Marcu|Daniel"},
-        {u"Daumé III, Hal, and Daniel Marcu", u"Daumé|Hal|III; Marcu|Daniel"},
-        {u"Daumé H III, Marcu D", u"Daumé|H.|III; Marcu|D."},
-        {u"Paul III Tornetta", u"Tornetta|Paul|III"},
-        {u"von Hicks, Michael III", u"von Hicks|Michael|III"},
-        {u"Smith, John A., PhD", u"Smith|John A.|PhD"},
-        {u"Smith, MD", u"Smith|M. D."},
-        {u"Smith CC, Jones M, Brown D", u"Smith|C. C.; Jones|M.; Brown|D."},
-    };
+    const auto kCases = rows<Case>(
+        u"Fromhold, A. T., Jr. => Fromhold|A. T.|Jr. || A. T. Fromhold Jr. => Fromhold|A. T.|Jr. || "
+        u"A. T. Fromhold, Jr., and K. Smith => Fromhold|A. T.|Jr.; Smith|K. || "
+        u"Gates, Henry Louis Jr., and Cornel West => Gates|Henry Louis|Jr.; West|Cornel || "
+        u"Hemphill JC III, Smith J => Hemphill|J. C.|III; Smith|J. || "
+        u"Rockefeller, John D., IV => Rockefeller|John D.|IV || "
+        u"Rockefeller, John D., VI => Rockefeller|John D.|VI || "
+        u"Conway, L. G., III, & Gornick, L. J. => Conway|L. G.|III; Gornick|L. J. || "
+        u"John D. Rockefeller III => Rockefeller|John D.|III || "
+        u"Daumé, Hal III, and Daniel Marcu => Daumé|Hal|III; Marcu|Daniel || "
+        u"Daumé III, Hal, and Daniel Marcu => Daumé|Hal|III; Marcu|Daniel || "
+        u"Daumé H III, Marcu D => Daumé|H.|III; Marcu|D. || Paul III Tornetta => Tornetta|Paul|III || "
+        u"von Hicks, Michael III => von Hicks|Michael|III || Smith, John A., PhD => Smith|John A.|PhD || "
+        u"Smith, MD => Smith|M. D. || Smith CC, Jones M, Brown D => Smith|C. C.; Jones|M.; Brown|D.");
     expectReadings(kCases);
 }
 
 TEST(AuthorNames, InstitutionsStayWhole) {
-    constexpr Case kCases[] = {
-        {u"National Science and Technology Committee", u"National Science and Technology Committee"},
-        {u"Centers for Disease Control and Prevention", u"Centers for Disease Control and Prevention"},
-        {u"U.S. Department of Health, Education, and Welfare", u"U.S. Department of Health, Education, and Welfare"},
-        {u"Department for Environment, Food and Rural Affairs", u"Department for Environment, Food and Rural Affairs"},
-        {u"National Heart, Lung, and Blood Institute", u"National Heart, Lung, and Blood Institute"},
-        {u"Food and Agriculture Organization of the United Nations",
-         u"Food and Agriculture Organization of the United Nations"},
-        {u"The Center For Disease Control, CDC", u"The Center For Disease Control, CDC"},
-        {u"U.S. Department of Commerce, Bureau of the Census", u"U.S. Department of Commerce, Bureau of the Census"},
-        {u"University of California, Berkeley", u"University of California, Berkeley"},
-        {u"Adobe Systems, Inc.", u"Adobe Systems, Inc."},
-        {u"Bill & Melinda Gates Foundation", u"Bill & Melinda Gates Foundation"},
-        {u"John D. and Catherine T. MacArthur Foundation", u"John D. and Catherine T. MacArthur Foundation"},
-        {u"The New Yorker", u"The New Yorker"},
-        {u"UNESCO", u"UNESCO"},
-        {u"Doctors Without Borders", u"Doctors Without Borders"},
-        {u"United States. Environmental Protection Agency", u"United States. Environmental Protection Agency"},
-        {u"Great Britain. Home Office", u"Great Britain. Home Office"},
-        {u"Genco BA; Ebooks Corporation; eds.", u"Genco|B. A.; Ebooks Corporation"},
-        {u"Ernst & Young LLP", u"Ernst & Young LLP"},
-        // Two of them, and institutions beside persons.
-        {u"World Health Organization & World Bank", u"World Health Organization; World Bank"},
-        {u"World Bank and UNESCO", u"World Bank; UNESCO"},
-        {u"Smith, John, and World Health Organization", u"Smith|John; World Health Organization"},
-        {u"Smith, J., & World Bank", u"Smith|J.; World Bank"},
-        {u"Department of Energy and John Smith", u"Department of Energy; Smith|John"},
-        {u"Department of Energy, & Smith, J.", u"Department of Energy; Smith|J."},
-        {u"Smith JA, Jones K; Childhood Asthma Management", u"Smith|J. A.; Jones|K.; Childhood Asthma Management"},
-        // Persons whose names are institutions' words.
-        {u"Press WH, Church A", u"Press|W. H.; Church|A."},
-        {u"Press, W. H., & Bank, S.", u"Press|W. H.; Bank|S."},
-        {u"William H. Press", u"Press|William H."},
-        {u"Church, Alonzo", u"Church|Alonzo"},
-        {u"Emily Post", u"Post|Emily"},
-        {u"Donald Force", u"Force|Donald"},
-    };
+    // Two of them, and institutions beside persons.
+    // Persons whose names are institutions' words.
+    const auto kCases = rows<Case>(
+        u"National Science and Technology Committee => National Science and Technology Committee || "
+        u"Centers for Disease Control and Prevention => Centers for Disease Control and Prevention || "
+        u"U.S. Department of Health, Education, and Welfare => U.S. Department of Health, Education, and Welfare || "
+        u"Department for Environment, Food and Rural Affairs => Department for Environment, Food and Rural Affairs || "
+        u"National Heart, Lung, and Blood Institute => National Heart, Lung, and Blood Institute || "
+        u"Food and Agriculture Organization of the United Nations => Food and Agriculture Organization of the United "
+        u"Nations || "
+        u"The Center For Disease Control, CDC => The Center For Disease Control, CDC || "
+        u"U.S. Department of Commerce, Bureau of the Census => U.S. Department of Commerce, Bureau of the Census || "
+        u"University of California, Berkeley => University of California, Berkeley || "
+        u"Adobe Systems, Inc. => Adobe Systems, Inc. || "
+        u"Bill & Melinda Gates Foundation => Bill & Melinda Gates Foundation || "
+        u"John D. and Catherine T. MacArthur Foundation => John D. and Catherine T. MacArthur Foundation || "
+        u"The New Yorker => The New Yorker || UNESCO => UNESCO || "
+        u"Doctors Without Borders => Doctors Without Borders || "
+        u"United States. Environmental Protection Agency => United States. Environmental Protection Agency || "
+        u"Great Britain. Home Office => Great Britain. Home Office || "
+        u"Genco BA; Ebooks Corporation; eds. => Genco|B. A.; Ebooks Corporation || "
+        u"Ernst & Young LLP => Ernst & Young LLP || "
+        u"World Health Organization & World Bank => World Health Organization; World Bank || "
+        u"World Bank and UNESCO => World Bank; UNESCO || "
+        u"Smith, John, and World Health Organization => Smith|John; World Health Organization || "
+        u"Smith, J., & World Bank => Smith|J.; World Bank || "
+        u"Department of Energy and John Smith => Department of Energy; Smith|John || "
+        u"Department of Energy, & Smith, J. => Department of Energy; Smith|J. || "
+        u"Smith JA, Jones K; Childhood Asthma Management => Smith|J. A.; Jones|K.; Childhood Asthma Management || "
+        u"Press WH, Church A => Press|W. H.; Church|A. || Press, W. H., & Bank, S. => Press|W. H.; Bank|S. || "
+        u"William H. Press => Press|William H. || Church, Alonzo => Church|Alonzo || Emily Post => Post|Emily || "
+        u"Donald Force => Force|Donald");
     expectReadings(kCases);
 }
 

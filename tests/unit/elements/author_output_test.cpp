@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/author_reading.h"
+#include "support/rows.h"
 #include "support/shown.h"
 
 namespace quorvel {
@@ -64,8 +65,8 @@ TEST(AuthorOutput, AndWord) {
         TextView andSeparator;
         TextView written;
     };
-    constexpr Case kCases[] = {
-        {u"and", u"Ason, and Bson"}, {u"&", u"Ason, & Bson"}, {u"", u"Ason, Bson"}, {u" und ", u"Ason, und Bson"}};
+    const auto kCases =
+        rows<Case>(u"and => Ason, and Bson || & => Ason, & Bson ||  => Ason, Bson ||  und  => Ason, und Bson");
     for (const Case& c : kCases) {
         Options options = plainOptions();
         options.andSeparator = c.andSeparator;
@@ -218,14 +219,12 @@ TEST(AuthorOutput, SemicolonsBesideGroupAuthors) {
         TextView text;
         TextView written;
     };
-    constexpr Case kCases[] = {
-        {u"Smith JA, Jones K; World Health Organization", u"Smith JA, Jones K; World Health Organization"},
-        {u"World Health Organization, Smith JA, Jones K", u"World Health Organization; Smith JA, Jones K"},
-        {u"Smith JA, Jones K", u"Smith JA, Jones K"},
-        {u"World Health Organization", u"World Health Organization"},
-        {u"Adams A, Brown B, Cole C, Dunn D, Eng E, Fox F; Baltic Asthma Group",
-         u"Adams A, Brown B, Cole C, et al; Baltic Asthma Group"},
-    };
+    const auto kCases = rows<Case>(
+        u"Smith JA, Jones K; World Health Organization => Smith JA, Jones K; World Health Organization || "
+        u"World Health Organization, Smith JA, Jones K => World Health Organization; Smith JA, Jones K || "
+        u"Smith JA, Jones K => Smith JA, Jones K || World Health Organization => World Health Organization || "
+        u"Adams A, Brown B, Cole C, Dunn D, Eng E, Fox F; Baltic Asthma Group => Adams A, Brown B, Cole C, et al; "
+        u"Baltic Asthma Group");
     const auto author = test::authorWith(test::amaAuthorOptions());
     for (const Case& c : kCases) {
         test::read(*author, c.text);

@@ -4,6 +4,7 @@
 
 #include "support/author_reading.h"
 #include "support/recording_service.h"
+#include "support/rows.h"
 #include "support/shown.h"
 
 namespace quorvel {
@@ -14,15 +15,10 @@ TEST(Author, RowsOfTheFormAreReadAndGiven) {
         TextView row;
         TextView given;
     };
-    constexpr Case kCases[] = {
-        {u"Smith, John, Jr.", u"Smith, John, Jr."},
-        {u"Smith, , Jr.", u"Smith, , Jr."},
-        {u"Smith, John", u"Smith, John"},
-        {u"John Smith", u"Smith, John"},
-        {u"M. A. van der Meer", u"van der Meer, M. A."},
-        {u"Plato", u"Plato"},
-        {u"The Center For Disease Control, CDC", u"The Center For Disease Control, CDC"},
-    };
+    const auto kCases = rows<Case>(
+        u"Smith, John, Jr. => Smith, John, Jr. || Smith, , Jr. => Smith, , Jr. || Smith, John => Smith, John || "
+        u"John Smith => Smith, John || M. A. van der Meer => van der Meer, M. A. || Plato => Plato || "
+        u"The Center For Disease Control, CDC => The Center For Disease Control, CDC");
     const auto author = test::authorWith(test::mlaAuthorOptions());
     for (const Case& c : kCases) {
         author->authors({u"", Text(c.row), u"  "});

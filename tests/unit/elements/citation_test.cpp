@@ -2,16 +2,13 @@
 
 #include "support/allocations.h"
 #include "support/author_reading.h"
+#include "support/element.h"
 #include "support/recording_model.h"
 #include "support/recording_service.h"
-#include "support/recording_sink.h"
-#include "support/shown.h"
 #include "support/style_presets.h"
 
 namespace quorvel {
 namespace {
-
-using Fields = std::vector<std::pair<TextView, TextView>>;
 
 struct Style {
     TextView name;
@@ -38,16 +35,6 @@ Style ama() {
     return styleOf(u"AMA", "ama");
 }
 
-/// The phrases, those in italics between "_".
-Text marked(const RecordingSink& sink) {
-    Text text;
-    for (const RecordingSink::Phrase& phrase : sink.phrases()) {
-        const TextView mark = phrase.font == 1 && !phrase.text.empty() ? u"_" : u"";
-        text += concatenate({mark, phrase.text, mark});
-    }
-    return text;
-}
-
 class Citation : public ReportingTest {
 protected:
     Citation() {
@@ -65,13 +52,16 @@ protected:
                             nullptr);
         citation.Reset(style.options);
     }
-    void setFields(const Fields& fields) {
+    /// "author=Kuhn|year=1970"; the others are empty.
+    void setFields(TextView fields) {
         model->fields.clear();
         for (std::int16_t i = 1; i <= static_cast<std::int16_t>(std::size(kCitationKeys)); ++i) {
             model->fields[i] = Text();
         }
-        for (const auto& [key, value] : fields) {
-            model->fields[keys->item(key)] = Text(value);
+        for (const Text& field : split(fields, u"|")) {
+            if (const TextView key = before(field, u"="); !key.empty()) {
+                model->fields[keys->item(key)] = field.substr(key.size() + 1);
+            }
         }
     }
     Text output(std::int16_t firstNames = 0, bool hasOtherTitles = false) {
@@ -94,120 +84,53 @@ protected:
 
 TEST_F(Citation, IsWhatTheManualsAskFor) {
     struct Case {
-        Fields fields;
+        TextView fields;
         TextView mla, apa, turabian, ama;
     };
-    const Case kCases[] = {
-        {{{u"author", u"Kuhn, Thomas S."},
-          {u"title", u"The structure of scientific revolutions"},
-          {u"year", u"1970"},
-          {u"citedPage", u"52"}},
-         u"(Kuhn 52)",
-         u"(Kuhn, 1970, 52)",
-         u"(Kuhn, _Structure of Scientific Revolutions_, 52)",
-         u"(Kuhn, 1970, 52)"},
-        {{{u"author", u"Smith, John, and Mary Jones"},
-          {u"title", u"Images"},
-          {u"year", u"2005"},
-          {u"citedPage", u"12"}},
-         u"(Smith and Jones 12)",
-         u"(Smith & Jones, 2005, 12)",
-         u"(Smith and Jones, _Images_, 12)",
-         u"(Smith and Jones, 2005, 12)"},
-        {{{u"author", u"Kernis, M. H., Cornell, D. P., Sun, C. R., Berry, A., & Harlow, T."},
-          {u"title", u"There's more"},
-          {u"year", u"1993"}},
-         u"(Kernis et al.)",
-         u"(Kernis, Cornell, Sun, Berry, & Harlow, 1993)",
-         u"(Kernis et al., _There's More_)",
+    constexpr Case kCases[] = {
+        {u"author=Kuhn, Thomas S.|title=The structure of scientific revolutions|year=1970|citedPage=52", u"(Kuhn 52)",
+         u"(Kuhn, 1970, 52)", u"(Kuhn, _Structure of Scientific Revolutions_, 52)", u"(Kuhn, 1970, 52)"},
+        {u"author=Smith, John, and Mary Jones|title=Images|year=2005|citedPage=12", u"(Smith and Jones 12)",
+         u"(Smith & Jones, 2005, 12)", u"(Smith and Jones, _Images_, 12)", u"(Smith and Jones, 2005, 12)"},
+        {u"author=Kernis, M. H., Cornell, D. P., Sun, C. R., Berry, A., & Harlow, T.|title=There's more|year=1993",
+         u"(Kernis et al.)", u"(Kernis, Cornell, Sun, Berry, & Harlow, 1993)", u"(Kernis et al., _There's More_)",
          u"(Kernis et al., 1993)"},
         // No author: the title, in quotation marks when it is of a part; the comma goes inside them.
-        {{{u"title", u"New Child Vaccine Gets Funding Boost"}, {u"website", u"ninemsn"}, {u"year", u"n.d."}},
-         u"(“New Child Vaccine”)",
-         u"(“New Child Vaccine,” n.d.)",
-         u"(“New Child Vaccine”)",
-         u"(New Child Vaccine)"},
-        {{{u"title", u"Voice of the Shuttle"}, {u"year", u"2001"}, {u"citedPage", u"3"}},
-         u"(_Voice of the Shuttle_ 3)",
-         u"(_Voice of the Shuttle_, 2001, 3)",
-         u"(_Voice of the Shuttle_, 3)",
-         u"(_Voice of the Shuttle_, 2001, 3)"},
-        {{{u"title", u"It's Subpoena Time"}, {u"periodical", u"New York Times"}, {u"year", u"2007"}},
-         u"(“It's Subpoena Time”)",
-         u"(“It's Subpoena Time,” 2007)",
-         u"(_New York Times_, “It's Subpoena Time”)",
-         u"(_New York Times_. 2007)"},
-        {{{u"editor", u"Gilman, Sander, Helen King, and Roy Porter, eds."}, {u"title", u"Hysteria beyond Freud"}},
-         u"(Gilman, King, and Porter)",
-         u"(Gilman, King, & Porter, n.d.)",
-         u"(Gilman, King, and Porter, _Hysteria beyond Freud_)",
-         u"(Gilman et al.)"},
+        {u"title=New Child Vaccine Gets Funding Boost|website=ninemsn|year=n.d.", u"(“New Child Vaccine”)",
+         u"(“New Child Vaccine,” n.d.)", u"(“New Child Vaccine”)", u"(New Child Vaccine)"},
+        {u"title=Voice of the Shuttle|year=2001|citedPage=3", u"(_Voice of the Shuttle_ 3)",
+         u"(_Voice of the Shuttle_, 2001, 3)", u"(_Voice of the Shuttle_, 3)", u"(_Voice of the Shuttle_, 2001, 3)"},
+        {u"title=It's Subpoena Time|periodical=New York Times|year=2007", u"(“It's Subpoena Time”)",
+         u"(“It's Subpoena Time,” 2007)", u"(_New York Times_, “It's Subpoena Time”)", u"(_New York Times_. 2007)"},
+        {u"editor=Gilman, Sander, Helen King, and Roy Porter, eds.|title=Hysteria beyond Freud",
+         u"(Gilman, King, and Porter)", u"(Gilman, King, & Porter, n.d.)",
+         u"(Gilman, King, and Porter, _Hysteria beyond Freud_)", u"(Gilman et al.)"},
         // Volumes, years of all kinds.
-        {{{u"author", u"Wellek, René"},
-          {u"title", u"A History of Modern Criticism"},
-          {u"year", u"1955"},
-          {u"citedVolume", u"2"},
-          {u"citedPage", u"1-10"}},
-         u"(Wellek 2: 1-10)",
-         u"(Wellek, 1955, Vol. 2, 1-10)",
-         u"(Wellek, _History of Modern Criticism_, 2:1-10)",
+        {u"author=Wellek, René|title=A History of Modern Criticism|year=1955|citedVolume=2|citedPage=1-10",
+         u"(Wellek 2: 1-10)", u"(Wellek, 1955, Vol. 2, 1-10)", u"(Wellek, _History of Modern Criticism_, 2:1-10)",
          u"(Wellek, 1955, 2:1-10)"},
-        {{{u"author", u"Wellek, René"},
-          {u"title", u"A History"},
-          {u"year", u"[ca. 1955]"},
-          {u"citedVolume", u"Vol. 2"}},
-         u"(Wellek, vol. 2)",
-         u"(Wellek, ca. 1955, Vol. 2)",
-         u"(Wellek, _History_, vol. 2)",
-         u"(Wellek, ca. 1955, vol 2)"},
-        {{{u"author", u"Freud, Sigmund"}, {u"title", u"Dreams"}, {u"year", u"1953"}, {u"originalYear", u"1900"}},
-         u"(Freud)",
-         u"(Freud, 1900/1953)",
-         u"(Freud, _Dreams_)",
-         u"(Freud, 1953)"},
-        {{{u"author", u"Auerbach, Jane"}, {u"title", u"Wheel"}, {u"year", u"In press"}},
-         u"(Auerbach)",
-         u"(Auerbach, in press)",
-         u"(Auerbach, _Wheel_)",
-         u"(Auerbach, in press)"},
+        {u"author=Wellek, René|title=A History|year=[ca. 1955]|citedVolume=Vol. 2", u"(Wellek, vol. 2)",
+         u"(Wellek, ca. 1955, Vol. 2)", u"(Wellek, _History_, vol. 2)", u"(Wellek, ca. 1955, vol 2)"},
+        {u"author=Freud, Sigmund|title=Dreams|year=1953|originalYear=1900", u"(Freud)", u"(Freud, 1900/1953)",
+         u"(Freud, _Dreams_)", u"(Freud, 1953)"},
+        {u"author=Auerbach, Jane|title=Wheel|year=In press", u"(Auerbach)", u"(Auerbach, in press)",
+         u"(Auerbach, _Wheel_)", u"(Auerbach, in press)"},
         // A part of a work; what a journal centric style makes of an article.
-        {{{u"author", u"Keiser, G. E."},
-          {u"title", u"Middle English Prose"},
-          {u"subwork", u"St Jerome and the Brigittines"},
-          {u"year", u"1984"}},
-         u"(Keiser)",
-         u"(Keiser, 1984)",
-         u"(Keiser, “St Jerome”)",
-         u"(Keiser, 1984)"},
-        {{{u"author", u"Chiang, WW"},
-          {u"title", u"X"},
-          {u"periodical", u"JAMA"},
-          {u"year", u"2004"},
-          {u"citedVolume", u"291"},
-          {u"issue", u"20"},
-          {u"citedPage", u"2432"}},
-         u"(Chiang 291: 2432)",
-         u"(Chiang, 2004, Vol. 291, 2432)",
-         u"(Chiang, “X,” 291:2432)",
+        {u"author=Keiser, G. E.|title=Middle English Prose|subwork=St Jerome and the Brigittines|year=1984",
+         u"(Keiser)", u"(Keiser, 1984)", u"(Keiser, “St Jerome”)", u"(Keiser, 1984)"},
+        {u"author=Chiang, WW|title=X|periodical=JAMA|year=2004|citedVolume=291|issue=20|citedPage=2432",
+         u"(Chiang 291: 2432)", u"(Chiang, 2004, Vol. 291, 2432)", u"(Chiang, “X,” 291:2432)",
          u"(_JAMA_. 2004;291(20):2432)"},
         // Communications.
-        {{{u"author", u"Lutes, T. K."}, {u"degree", u"MD"}, {u"email", u"True"}, {u"date", u"April 18, 2001"}},
-         u"(Lutes)",
+        {u"author=Lutes, T. K.|degree=MD|email=True|date=April 18, 2001", u"(Lutes)",
          u"(T. K. Lutes, personal communication, April 18, 2001)",
          u"(T. K. Lutes, e-mail communication, April 18, 2001)",
          u"(TK Lutes, MD, e-mail communication, April 18, 2001)"},
-        {{{u"author", u"Lutes, T. K."}, {u"personalCommunication", u"True"}},
-         u"(Lutes)",
-         u"(T. K. Lutes, personal communication, n.d.)",
-         u"(T. K. Lutes, personal communication, n.d.)",
-         u"(TK Lutes, personal communication, n.d.)"},
-        {{}, u"", u"(n.d.)", u"", u""},
-        {{{u"author", u"Strunk, William, Jr., and E. B. White"},
-          {u"title", u"\u2018Style\u2019"},
-          {u"year", u"1955\u20131992"}},
-         u"(Strunk and White)",
-         u"(Strunk & White, 1955\u20131992)",
-         u"(Strunk and White, _\u2018Style\u2019_)",
+        {u"author=Lutes, T. K.|personalCommunication=True", u"(Lutes)", u"(T. K. Lutes, personal communication, n.d.)",
+         u"(T. K. Lutes, personal communication, n.d.)", u"(TK Lutes, personal communication, n.d.)"},
+        {u"", u"", u"(n.d.)", u"", u""},
+        {u"author=Strunk, William, Jr., and E. B. White|title=\u2018Style\u2019|year=1955\u20131992",
+         u"(Strunk and White)", u"(Strunk & White, 1955\u20131992)", u"(Strunk and White, _\u2018Style\u2019_)",
          u"(Strunk and White, 1955\u20131992)"},
     };
     for (const Case& c : kCases) {
@@ -223,10 +146,9 @@ TEST_F(Citation, IsWhatTheManualsAskFor) {
 }
 
 TEST_F(Citation, FirstNamesTitlesAndTheMinimalFormTellWorksApart) {
-    setFields({{u"author", u"Frye, Northrop, Jane Patterson, Li Wei"},
-               {u"title", u"The double vision: Language and meaning in religion"},
-               {u"year", u"1991"},
-               {u"citedPage", u"85"}});
+    setFields(
+        u"author=Frye, Northrop, Jane Patterson, Li Wei|title=The double vision: Language and meaning in "
+        u"religion|year=1991|citedPage=85");
     use(mla());
     EXPECT_EQ(output(1), u"(N. Frye, Patterson, and Wei 85)");
     EXPECT_EQ(output(2), u"(Northrop Frye, Patterson, and Wei 85)");
@@ -256,70 +178,56 @@ TEST_F(Citation, AWebSiteStandsAloneWhereTheHostWantsIt) {
     CitationOptions options = apa().options;
     options.useWebsiteWhenNoAuthorAndDate = true;
     citation.Reset(options);
-    setFields({{u"title", u"Home"}, {u"website", u"http://www.apa.org"}});
+    setFields(u"title=Home|website=http://www.apa.org");
     EXPECT_EQ(output(), u"(http://www.apa.org)");
-    setFields({{u"title", u"Home"}, {u"website", u"http://www.apa.org"}, {u"year", u"2001"}});
+    setFields(u"title=Home|website=http://www.apa.org|year=2001");
     EXPECT_EQ(output(), u"(“Home,” 2001)");
 }
 
 TEST_F(Citation, ReadsWhatItWrites) {
     struct Case {
         TextView citation;
-        Fields fields;
+        TextView fields;
         TextView previous = u"";
     };
-    const Case kCases[] = {
-        {u"(Smith & Jones, 2005, p. 12)",
-         {{u"author", u"Smith & Jones"}, {u"year", u"2005"}, {u"citedPage", u"p. 12"}}},
-        {u"(Smith, Jones, & Li, 2005a)", {{u"author", u"Smith, Jones, & Li"}, {u"year", u"2005a"}}},
-        {u"(Wasserstein et al., n.d., para. 4)",
-         {{u"author", u"Wasserstein et al."}, {u"year", u"n.d."}, {u"citedPage", u"para. 4"}}},
-        {u"(Freud, 1900/1953)", {{u"author", u"Freud"}, {u"originalYear", u"1900"}, {u"year", u"1953"}}},
-        {u"(Smith, 2005, 1984)", {{u"author", u"Smith"}, {u"year", u"2005"}, {u"citedPage", u"1984"}}},
-        {u"(“New Child Vaccine,” n.d.)", {{u"subwork", u"New Child Vaccine"}, {u"year", u"n.d."}}},
-        {u"(2005, p. 12)", {{u"year", u"2005"}, {u"citedPage", u"p. 12"}}},
-        {u"(Smith and Jones 12)", {{u"author", u"Smith and Jones"}, {u"citedPage", u"12"}}},
-        {u"(Smith and Li)", {{u"author", u"Smith and Li"}}},
-        {u"(Wellek 2: 1-10)", {{u"author", u"Wellek"}, {u"citedVolume", u"2"}, {u"citedPage", u"1-10"}}},
-        {u"(Wellek, vol. 2)", {{u"author", u"Wellek"}, {u"citedVolume", u"2"}}},
-        {u"(Chan par. 4)", {{u"author", u"Chan"}, {u"citedPage", u"par. 4"}}},
-        {u"(Frye, Double Vision 85)", {{u"author", u"Frye"}, {u"title", u"Double Vision"}, {u"citedPage", u"85"}}},
+    constexpr Case kCases[] = {
+        {u"(Smith & Jones, 2005, p. 12)", u"author=Smith & Jones|year=2005|citedPage=p. 12"},
+        {u"(Smith, Jones, & Li, 2005a)", u"author=Smith, Jones, & Li|year=2005a"},
+        {u"(Wasserstein et al., n.d., para. 4)", u"author=Wasserstein et al.|year=n.d.|citedPage=para. 4"},
+        {u"(Freud, 1900/1953)", u"author=Freud|originalYear=1900|year=1953"},
+        {u"(Smith, 2005, 1984)", u"author=Smith|year=2005|citedPage=1984"},
+        {u"(“New Child Vaccine,” n.d.)", u"subwork=New Child Vaccine|year=n.d."},
+        {u"(2005, p. 12)", u"year=2005|citedPage=p. 12"},
+        {u"(Smith and Jones 12)", u"author=Smith and Jones|citedPage=12"},
+        {u"(Smith and Li)", u"author=Smith and Li"},
+        {u"(Wellek 2: 1-10)", u"author=Wellek|citedVolume=2|citedPage=1-10"},
+        {u"(Wellek, vol. 2)", u"author=Wellek|citedVolume=2"},
+        {u"(Chan par. 4)", u"author=Chan|citedPage=par. 4"},
+        {u"(Frye, Double Vision 85)", u"author=Frye|title=Double Vision|citedPage=85"},
         {u"Kuhn, Structure of Scientific Revolutions, 52.",
-         {{u"author", u"Kuhn"}, {u"title", u"Structure of Scientific Revolutions"}, {u"citedPage", u"52"}}},
+         u"author=Kuhn|title=Structure of Scientific Revolutions|citedPage=52"},
         {u"Smith, Jones, and Brown, War and Peace, 2:12, 14–15.",
-         {{u"author", u"Smith, Jones, and Brown"},
-          {u"title", u"War and Peace"},
-          {u"citedVolume", u"2"},
-          {u"citedPage", u"12, 14–15"}}},
-        {u"King, Jr., “Letter,” 5.", {{u"author", u"King, Jr."}, {u"subwork", u"Letter"}, {u"citedPage", u"5"}}},
-        {u"Ibid., 57.",
-         {{u"author", u"Kuhn"}, {u"title", u"Structure"}, {u"citedPage", u"57"}},
-         u"Kuhn, Structure, 52."},
-        {u"Ibid.", {{u"author", u"Kuhn"}, {u"citedPage", u"52"}}, u"(Kuhn 52)"},
+         u"author=Smith, Jones, and Brown|title=War and Peace|citedVolume=2|citedPage=12, 14–15"},
+        {u"King, Jr., “Letter,” 5.", u"author=King, Jr.|subwork=Letter|citedPage=5"},
+        {u"Ibid., 57.", u"author=Kuhn|title=Structure|citedPage=57", u"Kuhn, Structure, 52."},
+        {u"Ibid.", u"author=Kuhn|citedPage=52", u"(Kuhn 52)"},
         {u"(T. K. Lutes, personal communication, April 18, 2001)",
-         {{u"author", u"T. K. Lutes"}, {u"personalCommunication", u"True"}, {u"date", u"April 18, 2001"}}},
-        {u"(JAMA. 2004;291(20):2432)",
-         {{u"periodical", u"JAMA"},
-          {u"year", u"2004"},
-          {u"citedVolume", u"291"},
-          {u"issue", u"20"},
-          {u"citedPage", u"2432"}}},
-        {u"", {}},
-        {u"()", {}},
-        {u"(Smith, :12)", {{u"author", u"Smith"}, {u"title", u":12"}}},
+         u"author=T. K. Lutes|personalCommunication=True|date=April 18, 2001"},
+        {u"(JAMA. 2004;291(20):2432)", u"periodical=JAMA|year=2004|citedVolume=291|issue=20|citedPage=2432"},
+        {u"", u""},
+        {u"()", u""},
+        {u"(Smith, :12)", u"author=Smith|title=:12"},
     };
     use(apa());
     for (const Case& c : kCases) {
         Text text(c.citation);
         citation.Parse(text, c.previous);
         EXPECT_EQ(text, u"");
-        setFields({});
-        const auto expected = std::make_shared<RecordingModel>(model->fields);
-        for (const auto& [key, value] : c.fields) {
-            expected->fields[keys->item(key)] = Text(value);
-        }
+        setFields(c.fields);
+        const std::map<std::int16_t, Text> expected = model->fields;
+        setFields(u"");
         citation.MergeFieldsWithModel(model, 0, nullptr, nullptr);
-        EXPECT_EQ(model->fields, expected->fields) << shown(c.citation);
+        EXPECT_EQ(model->fields, expected) << shown(c.citation);
     }
     EXPECT_EQ(service().errors(), std::vector<Text>());
 }
@@ -329,14 +237,14 @@ TEST_F(Citation, MergingKeepsWhatTheModelKnows) {
     Text text = u"(Smith & Jones, 2005, p. 12)";
     citation.Parse(text, {});
     EXPECT_EQ(citation.Year(), u"2005");
-    setFields({{u"author", u"Smith, John, and Mary Jones"}, {u"year", u"n.d."}, {u"citedPage", u"7"}});
+    setFields(u"author=Smith, John, and Mary Jones|year=n.d.|citedPage=7");
     const auto authors = test::authorWith(test::apaAuthorOptions());
     citation.MergeFieldsWithModel(model, 3, authors, nullptr);
     EXPECT_EQ(model->fields[keys->item(u"author")], u"Smith, John, and Mary Jones");
     EXPECT_EQ(model->fields[keys->item(u"year")], u"2005");
     EXPECT_EQ(model->fields[keys->item(u"citedPage")], u"p. 12");
     EXPECT_EQ(authors->numAuthors(), 0);
-    setFields({});
+    setFields(u"");
     citation.MergeFieldsWithModel(model, 3, authors, nullptr);
     EXPECT_EQ(test::personsOf(*authors), u"Smith; Jones");
     // What was read is written without the model.
@@ -348,8 +256,7 @@ TEST_F(Citation, MergingKeepsWhatTheModelKnows) {
 
 TEST_F(Citation, ALayoutOfTheHostsTakesThePlaceOfTheOwn) {
     use(turabian());
-    setFields(
-        {{u"author", u"Kuhn, Thomas"}, {u"title", u"The Structure of Scientific Revolutions"}, {u"citedPage", u"52"}});
+    setFields(u"author=Kuhn, Thomas|title=The Structure of Scientific Revolutions|citedPage=52");
     citation.ResetLikeModelTemplate(4, nullptr);
     for (std::int16_t i = 0; i <= 4; ++i) {
         std::vector<Text> separators(static_cast<std::size_t>(6 - i), u", ");
@@ -395,7 +302,7 @@ TEST_F(Citation, ALayoutOfTheHostsTakesThePlaceOfTheOwn) {
     EXPECT_EQ(filler.use_count(), 1);
 }
 
-TEST_F(Citation, SurvivesWhatIsMissingFailsOrActs) {
+TEST_F(Citation, SurvivesWhatIsMissingOrActs) {
     OutputTemplateCitation untouched;
     untouched.Reset(apa().options);
     untouched.ToFormattedString(sink, model, 0, false, true);
@@ -405,24 +312,9 @@ TEST_F(Citation, SurvivesWhatIsMissingFailsOrActs) {
     service().forget();
 
     use(apa());
-    setFields({{u"author", u"Kuhn, Thomas"}, {u"title", u"Structure"}, {u"year", u"1970"}, {u"citedPage", u"p. 5"}});
+    setFields(u"author=Kuhn, Thomas|title=Structure|year=1970|citedPage=p. 5");
     const Text whole = output();
-    // Any call of the host's sinks may fail, and any may do as it likes with the citation.
-    for (int call = 1; call < 8; ++call) {
-        sink->Reset();
-        sink->failAt(call);
-        citation.ToFormattedString(sink, model, 0, false, true);
-        sink->failAt(0);
-        EXPECT_LT(sink->plain().size(), whole.size()) << call;
-    }
-    EXPECT_FALSE(service().errors().empty());
-    sink->onCall([&] {
-        use(mla());
-        Text text = u"Smith 5";
-        citation.Parse(text, {});
-    });
-    output();
-    sink->onCall(nullptr);
+    // The model may do as it likes with the citation.
     model->onRead = [&] { use(mla()); };
     output();
     model->onRead = nullptr;

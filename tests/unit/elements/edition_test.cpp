@@ -1,11 +1,8 @@
 #include "elements/edition/edition.h"
 
-#include <gtest/gtest.h>
-
 #include "elements/style_codes.h"
+#include "support/element.h"
 #include "support/recording_service.h"
-#include "support/recording_sink.h"
-#include "support/shown.h"
 
 namespace quorvel {
 namespace {
@@ -35,22 +32,7 @@ std::shared_ptr<OutputTemplatePage> pageOf(std::int32_t style) {
 }
 
 Edition editionOf(std::int32_t style) {
-    Edition edition;
-    edition.Initialize(std::make_shared<RecordingSink>());
-    edition.Reset({style, pageOf(style)});
-    return edition;
-}
-
-/// What is left in the text.
-Text parsed(Edition& edition, TextView text, TextView author = {}) {
-    Text left(text);
-    edition.Parse(left, author);
-    return left;
-}
-
-Text formatted(Edition& edition, TextView text) {
-    parsed(edition, text);
-    return edition.toString(false, false);
+    return elementWith<Edition>(EditionOptions{style, pageOf(style)});
 }
 
 /// The record in one line; what is empty is not shown.
@@ -460,29 +442,6 @@ TEST_F(EditionReports, WritesPlainlyWithoutAnyReset) {
     EXPECT_EQ(edition.format(), 70000);
     EXPECT_EQ(edition.toString(false, false), u"");
     EXPECT_TRUE(service().errors().empty());
-}
-
-TEST_F(EditionReports, LosesOnlyWhatTheSinkRefused) {
-    for (const std::int32_t style : {kMla, kApa, kTurabian}) {
-        Edition edition = editionOf(style);
-        parsed(edition, u"Rpt. of Guide. Ed. A. Lee. Paris: Seuil, 1939. 12-34");
-        const auto sink = std::make_shared<RecordingSink>();
-        edition.ToFormattedString(sink, false, false);
-        const Text whole = sink->plain();
-        for (int call = 1; call <= sink->calls(); ++call) {
-            service().forget();
-            const auto failing = std::make_shared<RecordingSink>();
-            failing->failAt(call);
-            edition.ToFormattedString(failing, false, false);
-            EXPECT_FALSE(service().errors().empty());
-            EXPECT_LE(failing->plain().size(), whole.size());
-        }
-        service().forget();
-        edition.ToFormattedString(nullptr, false, false);
-        EXPECT_EQ(service().errors().size(), 1U);
-        edition.ToFormattedString(sink, false, false);
-        EXPECT_EQ(sink->plain(), whole + whole);
-    }
 }
 
 }  // namespace

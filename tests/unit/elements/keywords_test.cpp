@@ -124,20 +124,6 @@ TEST_F(KeywordsReports, WritesOnePhrase) {
     element.ToFormattedString(sink, true, false);
     EXPECT_EQ(sink->phrases(), (std::vector<RecordingSink::Phrase>{{u"apple,zebra", 0}}));
     EXPECT_TRUE(service().errors().empty());
-    sink->failAt(1);
-    element.ToFormattedString(sink, false, false);
-    element.ToFormattedString(nullptr, false, false);
-    EXPECT_EQ(service().errors().size(), 2U);
-}
-
-TEST_F(KeywordsReports, BearsAHostThatParsesInTheMiddleOfAParse) {
-    Keywords element = keywords();
-    service().onCall([&] { element.Parse(u"other,words", u"KEEP_ORDER"); });
-    element.Parse(u"zebra,apple", {});
-    service().onCall({});
-    EXPECT_TRUE(service().errors().empty());
-    element.Parse(u"zebra,apple", {});
-    EXPECT_EQ(element.toString(false, false), u"apple,zebra");
 }
 
 }  // namespace

@@ -1,10 +1,6 @@
 #include "elements/multi_vol/multi_vol.h"
 
-#include <gtest/gtest.h>
-
-#include "support/recording_service.h"
-#include "support/recording_sink.h"
-#include "support/shown.h"
+#include "support/element.h"
 #include "support/style_file.h"
 
 namespace quorvel {
@@ -20,16 +16,7 @@ MultiVolOptions optionsOf(std::string_view style) {
 }
 
 MultiVol elementOf(std::string_view style) {
-    MultiVol element;
-    element.Initialize(std::make_shared<RecordingSink>());
-    element.Reset(optionsOf(style));
-    return element;
-}
-
-void parse(MultiVol& element, TextView text, TextView caption) {
-    Text parsed(text);
-    element.Parse(parsed, caption);
-    EXPECT_EQ(parsed, u"");
+    return elementWith<MultiVol>(optionsOf(style));
 }
 
 /// All values in one text: volume, number, title, editor, count, years, type.
@@ -134,8 +121,8 @@ TEST(MultiVol, ReadsWhatAnyStyleWroteAndWritesItInAll) {
         SCOPED_TRACE(shown(c.text));
         MultiVol element = elementOf("apa");
         // Nothing of the text before remains.
-        parse(element, u"Vol. 9, bk. 8, Before, ed. B. Fore. 7 vols. 1906", kVolumes);
-        parse(element, c.text, caption);
+        parseWhole(element, u"Vol. 9, bk. 8, Before, ed. B. Fore. 7 vols. 1906", kVolumes);
+        parseWhole(element, c.text, caption);
         EXPECT_EQ(valuesOf(element), c.values);
         EXPECT_EQ(element.secondaryOutput(), caption);
         const TextView written[] = {c.mla, c.apa, c.turabian, c.ama};
@@ -145,7 +132,7 @@ TEST(MultiVol, ReadsWhatAnyStyleWroteAndWritesItInAll) {
             EXPECT_EQ(element.toString(false, false), written[i]);
             for (const bool isFootnote : {false, true}) {
                 MultiVol again = elementOf("mla");
-                parse(again, element.toString(isFootnote, false), caption);
+                parseWhole(again, element.toString(isFootnote, false), caption);
                 EXPECT_EQ(valuesOf(again), c.values) << isFootnote;
             }
         }
@@ -162,35 +149,35 @@ TEST(MultiVol, WritesWhatOnlySomeStylesTellApart) {
         element.Reset(optionsOf(style));
         return element.toString(isFootnote, false);
     };
-    parse(element, u"Vol. 5 of Works of W. D. Howells. Edwin H. Cady, gen. ed. 32 vols. 1968-83", kVolumes);
+    parseWhole(element, u"Vol. 5 of Works of W. D. Howells. Edwin H. Cady, gen. ed. 32 vols. 1968-83", kVolumes);
     EXPECT_EQ(valuesOf(element), u"5||Works of W. D. Howells|Edwin H. Cady|32|1968-83|");
     EXPECT_EQ(element.EditorType, MultiVol::kGeneralEditor);
     EXPECT_EQ(written("mla", false), u"Vol. 5 of Works of W. D. Howells. Edwin H. Cady, gen. ed. 32 vols. 1968-83");
     EXPECT_EQ(written("apa", false), u"Vol. 5. Works of W. D. Howells. Ed. Edwin H. Cady. Vols. 32. 1968\u201383");
     EXPECT_EQ(written("turabian", true), u"vol. 5 of Works of W. D. Howells, ed. Edwin H. Cady. 32 vols. 1968\u201383");
-    parse(element, u"3 vols. Gen. ed. David Bevington.", kVolumes);
+    parseWhole(element, u"3 vols. Gen. ed. David Bevington.", kVolumes);
     EXPECT_EQ(element.EditorType, MultiVol::kGeneralEditor);
     EXPECT_EQ(written("mla", false), u"David Bevington, gen. ed. 3 vols.");
-    parse(element, u"3 vols. to date.", kVolumes);
+    parseWhole(element, u"3 vols. to date.", kVolumes);
     EXPECT_EQ(element.Vols, u"3 to date");
     EXPECT_EQ(written("mla", false), u"3 vols. to date.");
     EXPECT_EQ(written("turabian", false), u"3 vols.");
     EXPECT_EQ(written("apa", false), u"Vols. 3");
-    parse(element, u"Vol. 2, bk. 2, Cartography in Asia", kVolumes);
+    parseWhole(element, u"Vol. 2, bk. 2, Cartography in Asia", kVolumes);
     EXPECT_EQ(written("turabian", true), u"vol. 2, bk. 2, Cartography in Asia");
     EXPECT_EQ(written("ama", false), u"Vol 2, bk. 2: Cartography in Asia");
-    parse(element, u"Vol. 1. Title. Ed. A. Lee", kVolumes);
+    parseWhole(element, u"Vol. 1. Title. Ed. A. Lee", kVolumes);
     EXPECT_EQ(written("mla", true), u"vol. 1 of Title. ed. A. Lee");
-    parse(element, u"Women in Culture, ed. A. Lee", kSeries);
+    parseWhole(element, u"Women in Culture, ed. A. Lee", kSeries);
     EXPECT_EQ(written("turabian", false), u"Women in Culture, edited by A. Lee");
     EXPECT_EQ(written("turabian", true), u"Women in Culture, ed. A. Lee");
 }
 
 TEST(MultiVol, WritesTheFontsOfTitles) {
     MultiVol element = elementOf("mla");
-    parse(element, u"Vol. 3 of Peoples", kVolumes);
+    parseWhole(element, u"Vol. 3 of Peoples", kVolumes);
     EXPECT_EQ(element.toString(false, false, true), u"{\\f0 }{\\f0 Vol. 3}{\\f0  of }{\\f1 Peoples}{\\f0 }");
-    parse(element, u"Peoples 3", kSeries);
+    parseWhole(element, u"Peoples 3", kSeries);
     EXPECT_EQ(element.toString(false, false, true), u"{\\f0 }{\\f0 Peoples}{\\f0  }{\\f0 3}{\\f0 }");
 }
 
@@ -203,14 +190,14 @@ TEST(MultiVol, OffersWhatTheOptionsTell) {
     EXPECT_FALSE(element.IsSeriesSupported() || element.IsSeriesTypeSupported());
     EXPECT_TRUE(element.IsMultiVolSupported());
     EXPECT_FALSE(element.SupportConcurrentVolsAndTextBoxes());
-    parse(element, u"Works 3, edited by A. Lee, no. 4", kSeries);
+    parseWhole(element, u"Works 3, edited by A. Lee, no. 4", kSeries);
     EXPECT_TRUE(element.useMultiVol());
     EXPECT_EQ(element.toString(false, false), u"Vol. 3 of Works");
     EXPECT_EQ(element.toMergedString(), u"Vol. 3, bk. 4 of Works. Ed. A. Lee");
     options.theSupportSeriesOptions = {true};
     options.theSupportMultiVolumeOptions = {};
     element.Reset(options);
-    parse(element, u"Vol. 3 of Works", kVolumes);
+    parseWhole(element, u"Vol. 3 of Works", kVolumes);
     EXPECT_FALSE(element.useMultiVol());
     EXPECT_EQ(element.toString(false, false), u"Works");
     EXPECT_EQ(element.getVolume({false, false, true}), u"3");
@@ -243,28 +230,6 @@ TEST(MultiVol, WritesWhatAFormSets) {
     Text text = u"Vol. 7";
     element.Parse(text, kVolumes, true);
     EXPECT_EQ(valuesOf(element), u"7||The Series Works||2 to date|1968\u201383|odd");
-}
-
-class MultiVolReports : public ReportingTest {};
-
-TEST_F(MultiVolReports, LosesOnlyWhatTheSinkRefused) {
-    MultiVol element = elementOf("mla");
-    parse(element, u"Vol. 5 of Works. A. Lee, gen. ed. 32 vols. 1968-83", kVolumes);
-    const auto sink = std::make_shared<RecordingSink>();
-    element.ToFormattedString(sink, false, false);
-    ASSERT_EQ(sink->plain(), u"Vol. 5 of Works. A. Lee, gen. ed. 32 vols. 1968-83");
-    const int calls = sink->calls();
-    for (int call = 1; call <= calls; ++call) {
-        service().forget();
-        const auto failing = std::make_shared<RecordingSink>();
-        failing->failAt(call);
-        element.ToFormattedString(failing, false, false);
-        EXPECT_EQ(service().errors().size(), 1U) << call;
-    }
-    service().forget();
-    EXPECT_EQ(element.toString(false, false), sink->plain());
-    element.ToFormattedString(nullptr, false, false);
-    EXPECT_FALSE(service().errors().empty());
 }
 
 }  // namespace

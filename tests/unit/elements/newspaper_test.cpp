@@ -1,10 +1,6 @@
 #include "elements/newspaper.h"
-
-#include <gtest/gtest.h>
-
-#include "support/recording_service.h"
-#include "support/recording_sink.h"
-#include "support/shown.h"
+#include "support/element.h"
+#include "support/rows.h"
 
 namespace quorvel {
 namespace {
@@ -14,20 +10,6 @@ using Newspaper = OutputTemplateNewspaper;
 const NewspaperOptions kMla = {false, u"[]", u"hint"};
 const NewspaperOptions kApa = {true, u"", u""};
 const NewspaperOptions kTurabian = {false, u"()", u""};
-
-Newspaper newspaperWith(const NewspaperOptions& options) {
-    Newspaper newspaper;
-    newspaper.Initialize(std::make_shared<RecordingSink>());
-    newspaper.Reset(options);
-    return newspaper;
-}
-
-Text formatted(Newspaper& newspaper, TextView text) {
-    Text parsed(text);
-    newspaper.Parse(parsed, u"ignored");
-    EXPECT_EQ(parsed, newspaper.Title);
-    return newspaper.toString(false, false);
-}
 
 // Texts as they stand in finished references. What each style writes of them is read again with the same values by
 // all, but for the city, which APA and AMA leave out, and the article, which only APA writes.
@@ -54,13 +36,11 @@ TEST(Newspaper, ReadsAndWritesWhatEveryStyleHas) {
         {u"The Guardian", u"The Guardian", u"", u"The Guardian", u"The Guardian", u"The Guardian"},
     };
     // The state inside a title, a known title, an edition and brackets that are no pair are no city.
-    constexpr TextView kWithoutCity[] = {u"Chicago Tribune",   u"Hackensack (NJ) Record",
-                                         u"(Washington) Post", u"Christian [Science Monitor]",
-                                         u"Herald [late ed.]", u"New York Times (Late Edition)",
-                                         u"Times [London",     u"Times [London)",
-                                         u"Times ((London))",  u"[Toronto]",
-                                         u"Times [ ]",         u""};
-    Newspaper mla = newspaperWith(kMla);
+    const auto kWithoutCity = rows(
+        u"Chicago Tribune || Hackensack (NJ) Record || (Washington) Post || Christian [Science Monitor] || "
+        u"Herald [late ed.] || New York Times (Late Edition) || Times [London || Times [London) || Times ((London)) || "
+        u"[Toronto] || Times [ ] || ");
+    Newspaper mla = elementWith<Newspaper>(kMla);
     for (const TextView text : kWithoutCity) {
         mla.City = u"before";
         EXPECT_EQ(formatted(mla, text), text);
@@ -68,7 +48,7 @@ TEST(Newspaper, ReadsAndWritesWhatEveryStyleHas) {
     }
     for (const Case& c : kCases) {
         SCOPED_TRACE(shown(c.text));
-        Newspaper newspaper = newspaperWith(kMla);
+        Newspaper newspaper = elementWith<Newspaper>(kMla);
         newspaper.City = u"before";
         EXPECT_EQ(formatted(newspaper, c.text), c.mla);
         EXPECT_EQ(newspaper.Title, c.title);
@@ -92,7 +72,7 @@ TEST(Newspaper, ReadsAndWritesWhatEveryStyleHas) {
 
 TEST(Newspaper, WritesTheTitleInItalicsAndTheCityInPairsOfBracketsOnly) {
     using Phrase = RecordingSink::Phrase;
-    Newspaper newspaper = newspaperWith(kMla);
+    Newspaper newspaper = elementWith<Newspaper>(kMla);
     EXPECT_EQ(newspaper.cityTooltip(), u"hint");
     newspaper.Title = u"Times";
     newspaper.City = u"London";
@@ -109,56 +89,20 @@ TEST(Newspaper, WritesTheTitleInItalicsAndTheCityInPairsOfBracketsOnly) {
 }
 
 TEST(Newspaper, KnowsNewspapers) {
-    constexpr TextView kNewspapers[] = {u"Montreal Gazette",
-                                        u"BOSTON HERALD",
-                                        u"Chicago Sun-Times",
-                                        u"Milwaukee Journal-Sentinel",
-                                        u"Times [London]",
-                                        u"The Washington Post",
-                                        u"Wall Street Journal",
-                                        u"Christian Science Monitor",
-                                        u"National Public Radio",
-                                        u"U.S. News and World Report",
-                                        u"The Observer",
-                                        u"cnn.com",
-                                        u"Chronicle of Higher Education"};
-    constexpr TextView kOthers[] = {u"",
-                                    u"Nature",
-                                    u"Sometimes a Great Notion",
-                                    u"Journal of the Times Literary Society",
-                                    u"Wikipedia: The Times",
-                                    u"Saint Paul (Alberta) Journal",
-                                    u"Psychology Today",
-                                    u"Guidelines"};
-    const Newspaper newspaper = newspaperWith(kMla);
+    const auto kNewspapers = rows(
+        u"Montreal Gazette || BOSTON HERALD || Chicago Sun-Times || Milwaukee Journal-Sentinel || Times [London] || "
+        u"The Washington Post || Wall Street Journal || Christian Science Monitor || National Public Radio || "
+        u"U.S. News and World Report || The Observer || cnn.com || Chronicle of Higher Education");
+    const auto kOthers = rows(
+        u" || Nature || Sometimes a Great Notion || Journal of the Times Literary Society || "
+        u"Wikipedia: The Times || Saint Paul (Alberta) Journal || Psychology Today || Guidelines");
+    const Newspaper newspaper = elementWith<Newspaper>(kMla);
     for (const TextView title : kNewspapers) {
         EXPECT_TRUE(newspaper.isNewspaper(title)) << shown(title);
     }
     for (const TextView title : kOthers) {
         EXPECT_FALSE(newspaper.isNewspaper(title)) << shown(title);
     }
-}
-
-class NewspaperReports : public ReportingTest {};
-
-TEST_F(NewspaperReports, LosesOnlyWhatTheSinkRefused) {
-    Newspaper newspaper = newspaperWith(kMla);
-    formatted(newspaper, u"Globe and Mail [Toronto]");
-    const auto sink = std::make_shared<RecordingSink>();
-    newspaper.ToFormattedString(sink, false, false);
-    const int calls = sink->calls();
-    for (int call = 1; call <= calls; ++call) {
-        service().forget();
-        const auto failing = std::make_shared<RecordingSink>();
-        failing->failAt(call);
-        newspaper.ToFormattedString(failing, false, false);
-        EXPECT_EQ(service().errors().size(), 1U);
-        EXPECT_GE(failing->phrases().size(), sink->phrases().size() - 2);
-    }
-    service().forget();
-    newspaper.ToFormattedString(nullptr, false, false);
-    EXPECT_FALSE(service().errors().empty());
-    EXPECT_EQ(newspaper.toString(false, false), u"Globe and Mail [Toronto]");
 }
 
 }  // namespace

@@ -1,10 +1,6 @@
 #include "elements/online.h"
-
-#include <gtest/gtest.h>
-
-#include "support/recording_service.h"
-#include "support/recording_sink.h"
-#include "support/shown.h"
+#include "support/element.h"
+#include "support/rows.h"
 
 namespace quorvel {
 namespace {
@@ -14,20 +10,6 @@ using Online = OutputTemplateOnline;
 const OnlineOptions kApa = {true, true, true, u"doi:"};
 const OnlineOptions kOthers = {false, false, false, u"doi:"};
 const OnlineOptions kResolver = {true, false, false, u"https://doi.org/"};
-
-Online onlineWith(const OnlineOptions& options) {
-    Online online;
-    online.Initialize(std::make_shared<RecordingSink>());
-    online.Reset(options);
-    return online;
-}
-
-/// What `Parse` leaves.
-Text parsed(Online& online, TextView text) {
-    Text left(text);
-    online.Parse(left, u"ignored");
-    return left;
-}
 
 /// 'u' address, 'e' ERIC number, 'd' database, '-' DOI or plain.
 char16_t kindOf(const Online& online) {
@@ -103,7 +85,7 @@ TEST(Online, ReadsAndWritesWhatEveryStyleHas) {
     };
     for (const Case& c : kCases) {
         SCOPED_TRACE(shown(c.text));
-        Online online = onlineWith(kApa);
+        Online online = elementWith<Online>(kApa);
         online.isDatabase = true;
         EXPECT_EQ(parsed(online, c.text), c.left);
         for (const TextView text : {c.text, c.apa, c.others}) {
@@ -127,33 +109,15 @@ TEST(Online, ReadsAndWritesWhatEveryStyleHas) {
 }
 
 TEST(Online, TellsAnAddressWithoutSchemeFromOtherTexts) {
-    constexpr TextView kAddresses[] = {
-        u"www.x",       u"WWW.example.invalid/a", u"ftp.example", u"example.org",    u"Example.ORG/a/b?c=1%20d",
-        u"host:80.com", u"a/index.html",          u"bbc.co.uk",   u"example.museum/"};
+    const auto kAddresses = rows(
+        u"www.x || WWW.example.invalid/a || ftp.example || example.org || Example.ORG/a/b?c=1%20d || host:80.com || "
+        u"a/index.html || bbc.co.uk || example.museum/");
     // They come out as they went in.
-    constexpr TextView kOthers[] = {u"",
-                                    u"www. example.org",
-                                    u"org",
-                                    u"html",
-                                    u"kant@example.org",
-                                    u"a?index.html",
-                                    u"Vol. 3",
-                                    u"Retrieved from",
-                                    u"10.5 times",
-                                    u"St. Louis",
-                                    u"database",
-                                    u"Retrieved from the attic",
-                                    u"Abstract",
-                                    u"Abstract:",
-                                    u"http://",
-                                    u"ED12",
-                                    u"Edwards",
-                                    u"Abstract Art",
-                                    u"Eric Edam",
-                                    u"Retrieved by hand from a well",
-                                    u"doi:",
-                                    u"<>."};
-    Online online = onlineWith(kApa);
+    const auto kOthers = rows(
+        u" || www. example.org || org || html || kant@example.org || a?index.html || Vol. 3 || Retrieved from || "
+        u"10.5 times || St. Louis || database || Retrieved from the attic || Abstract || Abstract: || http:// || "
+        u"ED12 || Edwards || Abstract Art || Eric Edam || Retrieved by hand from a well || doi: || <>.");
+    Online online = elementWith<Online>(kApa);
     for (const TextView text : kAddresses) {
         EXPECT_EQ(parsed(online, text), u"");
         EXPECT_TRUE(online.isURL()) << shown(text);
@@ -167,7 +131,7 @@ TEST(Online, TellsAnAddressWithoutSchemeFromOtherTexts) {
 }
 
 TEST(Online, MarksAbstractsAndTakesTheHostsWord) {
-    Online online = onlineWith(kApa);
+    Online online = elementWith<Online>(kApa);
     parsed(online, u"Abstract retrieved from http://www.example.org/a");
     // Without a blank, deliberately.
     EXPECT_EQ(online.toString(true, false, false), u"Abstract:http://www.example.org/a");
@@ -178,30 +142,6 @@ TEST(Online, MarksAbstractsAndTakesTheHostsWord) {
     EXPECT_TRUE(online.SupportsWebsiteAsDatabase() && online.SupportsWebsiteAsEric());
     online.Reset(kResolver);
     EXPECT_TRUE(online.SupportsWebsiteAsDatabase() && !online.SupportsWebsiteAsEric());
-}
-
-class OnlineReports : public ReportingTest {};
-
-TEST_F(OnlineReports, ASinkThatFailsIsReported) {
-    Online online = onlineWith(kApa);
-    parsed(online, u"JSTOR");
-    const auto sink = std::make_shared<RecordingSink>();
-    sink->failAt(1);
-    online.ToFormattedString(sink, false, false);
-    EXPECT_EQ(service().errors().size(), 1U);
-    online.ToFormattedString(sink, false, false);
-    EXPECT_EQ(sink->plain(), u"Retrieved from JSTOR database");
-    const auto own = std::make_shared<RecordingSink>();
-    for (int call = 1; call <= 4; ++call) {
-        service().forget();
-        own->failAt(call);
-        online.Initialize(own);
-        EXPECT_EQ(online.toString(false, false, true) == u"{\\f0 Retrieved from JSTOR database}", call == 1);
-        EXPECT_EQ(service().errors().size(), 1U) << call;
-    }
-    online.Initialize(nullptr);
-    online.ToFormattedString(nullptr, false, false);
-    EXPECT_EQ(online.toString(false, false, false), u"Retrieved from JSTOR database");
 }
 
 }  // namespace

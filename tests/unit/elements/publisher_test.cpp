@@ -1,10 +1,8 @@
 #include "elements/publisher.h"
 
-#include <gtest/gtest.h>
-
+#include "support/element.h"
 #include "support/recording_service.h"
-#include "support/recording_sink.h"
-#include "support/shown.h"
+#include "support/rows.h"
 
 namespace quorvel {
 namespace {
@@ -22,16 +20,9 @@ void reset(Publisher& publisher, const Options& options) {
 }
 
 Publisher publisherWith(const Options& options) {
-    Publisher publisher;
-    publisher.Initialize(std::make_shared<RecordingSink>());
+    auto publisher = elementWith<Publisher>(PublisherOptions());
     reset(publisher, options);
     return publisher;
-}
-
-Text formatted(Publisher& publisher, TextView text) {
-    Text parsed(text);
-    publisher.Parse(parsed, {});
-    return publisher.toString(false, false);
 }
 
 TEST(Publisher, ReadsThePartsOfAName) {
@@ -178,21 +169,14 @@ TEST(Publisher, RemovesAbbreviationsAsTheyStand) {
         TextView written;
     };
     // The blanks and commas around what was removed stay, deliberately.
-    constexpr Case kCases[] = {
-        {u"The Free Press", u" Free Press"},
-        {u"Theatre Arts Books", u"atre Arts Books"},
-        {u"the Free Press", u"the Free Press"},
-        {u"Random House, Inc.", u"Random House, "},
-        {u"Sage Publications Ltd.", u"Sage Publications "},
-        {u"Gallimard S.A.", u"Gallimard "},
-        {u"Little, Brown & Co.", u"Little, Brown "},
-        {u"Cengage Publishing Co.", u"Cengage "},
-        {u"Ford Motor Co.", u"Ford Motor "},
-        {u"Example Co.Inc.", u"Example "},
-        {u"Example Inc.Co.", u"Example Inc."},
-        {u"Example Inc", u"Example Inc"},
-        {u"Dell Inc.-Random House, Inc.; London: The Ace Co.", u"Dell -Random House, ; London:  Ace "},
-    };
+    const auto kCases = rows<Case>(
+        u"The Free Press =>  Free Press || Theatre Arts Books => atre Arts Books || "
+        u"the Free Press => the Free Press || Random House, Inc. => Random House,  || "
+        u"Sage Publications Ltd. => Sage Publications  || Gallimard S.A. => Gallimard  || "
+        u"Little, Brown & Co. => Little, Brown  || Cengage Publishing Co. => Cengage  || "
+        u"Ford Motor Co. => Ford Motor  || Example Co.Inc. => Example  || Example Inc.Co. => Example Inc. || "
+        u"Example Inc => Example Inc || "
+        u"Dell Inc.-Random House, Inc.; London: The Ace Co. => Dell -Random House, ; London:  Ace ");
     Publisher publisher = publisherWith({false, false, true});
     for (const Case& c : kCases) {
         EXPECT_EQ(formatted(publisher, c.text), c.written) << shown(c.text);
@@ -234,49 +218,6 @@ TEST_F(PublisherReports, FormatsWithoutAnyReset) {
     publisher.PublisherType = -1;
     EXPECT_EQ(publisher.toString(false, false), u"Norton");
     EXPECT_TRUE(service().errors().empty());
-}
-
-TEST_F(PublisherReports, LosesOnlyWhatTheSinkRefused) {
-    Publisher publisher = publisherWith({});
-    formatted(publisher, u"Anchor-Doubleday; London: Faber");
-    const auto sink = std::make_shared<RecordingSink>();
-    publisher.ToFormattedString(sink, false, false);
-    ASSERT_EQ(sink->plain(), u"Anchor-Doubleday; London: Faber");
-    const int calls = sink->calls();
-    for (int call = 1; call <= calls; ++call) {
-        service().forget();
-        const auto failing = std::make_shared<RecordingSink>();
-        failing->failAt(call);
-        publisher.ToFormattedString(failing, false, false);
-        EXPECT_EQ(service().errors().size(), 1U);
-        // The opening text takes the first name with it.
-        EXPECT_EQ(failing->phrases().size(), static_cast<std::size_t>(calls - (call == 1 ? 2 : 1)));
-    }
-    service().forget();
-    publisher.ToFormattedString(nullptr, false, false);
-    EXPECT_FALSE(service().errors().empty());
-}
-
-TEST_F(PublisherReports, BearsAHostThatCallsBack) {
-    const auto sink = std::make_shared<RecordingSink>();
-    Publisher publisher;
-    publisher.Initialize(sink);
-    const auto change = [&] {
-        Text other = u"A-B; C: D";
-        publisher.Parse(other, {});
-        publisher.Reset({true, true, true, true, true});
-        publisher.ToFormattedString(std::make_shared<RecordingSink>(), false, false);
-    };
-    sink->onCall(change);
-    service().onCall(change);
-    for (int i = 0; i < 3; ++i) {
-        formatted(publisher, u"Anchor-Doubleday; London: Faber");
-        publisher.ToFormattedString(sink, false, false);
-        publisher.Clone(sink);
-    }
-    sink->onCall({});
-    service().onCall({});
-    EXPECT_EQ(formatted(publisher, u"Anchor-Doubleday; London: Faber"), u"Anchor-Doubleday; London: Faber");
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "platform/date_cases.h"
 #include "platform/hostile_environment.h"
 #include "platform/portable_dates.h"
+#include "support/shown.h"
 #ifdef _WIN32
 #include "platform/windows_dates.h"
 #endif
@@ -39,7 +40,7 @@ std::string dayText(const std::chrono::year_month_day& day) {
 /// A date as the table writes it.
 Text describe(std::optional<DateValue> date) {
     if (!date) {
-        return Text(tests::kNone);
+        return u"no date";
     }
     const double day = std::trunc(*date);
     std::string text = dayText(kDayZero + std::chrono::days(static_cast<int>(day)));
@@ -63,8 +64,13 @@ DateValue valueOf(const FormatCase& c) {
 }
 
 void expectTables(const Dates& dates) {
-    for (const DateCase& c : tests::kDateCases) {
-        EXPECT_EQ(describe(dates.parse(c.text)), withCurrentYear(c.date)) << ::testing::PrintToString(Text(c.text));
+    for (const auto& cases : {tests::kDateCases, tests::kTimeCases}) {
+        for (const DateCase& c : cases) {
+            EXPECT_EQ(describe(dates.parse(c.text)), withCurrentYear(c.date)) << shown(c.text);
+        }
+    }
+    for (const TextView text : tests::kNoDates) {
+        EXPECT_EQ(describe(dates.parse(text)), u"no date") << shown(text);
     }
     for (const FormatCase& c : tests::kFormatCases) {
         EXPECT_EQ(dates.format(valueOf(c), c.pattern), c.text) << ::testing::PrintToString(Text(c.pattern));

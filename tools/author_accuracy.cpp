@@ -10,15 +10,12 @@
 //   --half N   only every second case, 0 or 1: to try a rule on lists that it was not made from
 //   --other-forms  writes each list in every style, reads that again and shows where the persons differ
 
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
 #include <ctime>
-#include <fstream>
 #include <map>
 #include <memory>
 #include <string>
 
+#include "accuracy.h"
 #include "support/author_cases.h"
 #include "support/style_presets.h"
 
@@ -72,19 +69,11 @@ std::string shown(const std::vector<AuthorRecord>& persons) {
     return text;
 }
 
-struct Count {
-    int exact = 0;
-    int all = 0;
-
-    void add(bool isExact) {
-        exact += isExact ? 1 : 0;
-        ++all;
-    }
-};
+using accuracy::Count;
 
 void print(const char* name, const Count& count) {
     if (count.all > 0) {
-        std::printf("  %-12s %5d of %5d  %6.2f %%\n", name, count.exact, count.all, 100.0 * count.exact / count.all);
+        accuracy::print("  ", 12, name, count);
     }
 }
 
@@ -95,7 +84,7 @@ struct Row {
     Count all;
 };
 
-void accuracy(const std::vector<Case>& cases, bool showMisses) {
+void countExact(const std::vector<Case>& cases, bool showMisses) {
     std::vector<std::shared_ptr<OutputTemplateAuthor>> elements;
     for (const test::AuthorPreset& preset : test::authorPresets()) {
         elements.push_back(elementOf(preset.options));
@@ -218,47 +207,26 @@ void timing(const std::vector<Case>& cases) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    bool showMisses = false;
-    bool showsTime = false;
-    bool showsOtherForms = false;
-    int half = -1;
-    const char* path = nullptr;
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--misses") == 0) {
-            showMisses = true;
-        } else if (std::strcmp(argv[i], "--time") == 0) {
-            showsTime = true;
-        } else if (std::strcmp(argv[i], "--other-forms") == 0) {
-            showsOtherForms = true;
-        } else if (std::strcmp(argv[i], "--half") == 0 && i + 1 < argc) {
-            half = std::atoi(argv[++i]);
-        } else {
-            path = argv[i];
-        }
-    }
-    std::ifstream file;
-    if (path != nullptr) {
-        file.open(path);
-    }
-    if (!file.is_open()) {
-        std::fprintf(stderr, "usage: author_accuracy FILE.tsv [--misses] [--time] [--half 0|1] [--other-forms]\n");
-        return 2;
-    }
+namespace quorvel::accuracy {
+
+const std::string_view kUsage = "author_accuracy FILE.tsv [--misses] [--time] [--half 0|1] [--other-forms]";
+
+void run(std::istream& file, const Arguments& arguments) {
     std::vector<Case> cases = readCases(file);
-    if (half >= 0) {
+    if (arguments.half >= 0) {
         std::map<std::string, int> numbers;
         std::erase_if(cases, [&](const Case& list) {
             const int number = numbers.try_emplace(list.id, static_cast<int>(numbers.size())).first->second;
-            return number % 2 != half;
+            return number % 2 != arguments.half;
         });
     }
-    accuracy(cases, showMisses);
-    if (showsOtherForms) {
+    countExact(cases, arguments.has("--misses"));
+    if (arguments.has("--other-forms")) {
         otherForms(cases);
     }
-    if (showsTime) {
+    if (arguments.has("--time")) {
         timing(cases);
     }
-    return 0;
 }
+
+}  // namespace quorvel::accuracy

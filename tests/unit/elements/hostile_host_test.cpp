@@ -240,25 +240,33 @@ void use(const Element& element, const OutputSinkRef& sink, TextView text) {
     element.read();
 }
 
-using Reentrancy = ReportingTest;
+using HostileHost = ReportingTest;
 
-// The host begins anew with the element in the middle of each of the calls that it gets, and at the end of each of
-// its objects, in turn. With the
-// parameters there are many more calls; then some of them are enough.
-TEST_F(Reentrancy, AnElementMayBeginAnewInTheMiddleOfAnything) {
+// The host begins anew with the element, or has it read and write another text, in the middle of each of the calls
+// that it gets, and at the end of each of its objects, in turn. With the parameters there are many more calls; then
+// some of them are enough.
+TEST_F(HostileHost, MayUseTheElementInTheMiddleOfAnything) {
     for (const Case& c : kCases) {
         SCOPED_TRACE(c.name);
         Text expected;
-        for (const int step : {1, 11}) {
+        for (const auto& [beginsAnew, step] : {std::pair(true, 1), std::pair(true, 11), std::pair(false, 1)}) {
             int calls = 0;
             // What makes many calls is interrupted at some of them.
             for (int n = 0; n <= calls; n += step + calls / 150) {
                 const Element element = c.make();
                 const auto sink = std::make_shared<RecordingSink>();
-                const auto called = [&] {
-                    if (++calls == n) {
+                const auto called = [&, anew = beginsAnew] {
+                    if (++calls != n) {
+                        return;
+                    }
+                    if (anew) {
                         use(element, std::make_shared<RecordingSink>(), c.other);
                         element.initialize(nullptr);
+                    } else {
+                        element.parse(c.other);
+                        element.reset();
+                        element.write(std::make_shared<RecordingSink>());
+                        element.read();
                     }
                 };
                 sink->onCall(called);
@@ -282,6 +290,49 @@ TEST_F(Reentrancy, AnElementMayBeginAnewInTheMiddleOfAnything) {
             EXPECT_GT(calls, 10);
         }
         EXPECT_NE(expected, u"");
+    }
+}
+
+// Whichever call fails, of the sink that is written to or of the element's own: it is reported, only what was refused
+// is lost (with an opening text the slots that it opens), and the element works on.
+TEST_F(HostileHost, MayFailAtAnyCall) {
+    for (const Case& c : kCases) {
+        SCOPED_TRACE(c.name);
+        const Element element = c.make();
+        const auto own = std::make_shared<RecordingSink>();
+        use(element, own, c.text);
+        const auto whole = std::make_shared<RecordingSink>();
+        element.write(whole);
+        EXPECT_EQ(service().errors(), std::vector<Text>());
+        if (std::string_view(c.name) == "model") {
+            continue;  // Its implementor is the test's own, and fails with the sink.
+        }
+        for (int call = 1; call <= whole->calls(); ++call) {
+            service().forget();
+            const auto failing = std::make_shared<RecordingSink>();
+            failing->failAt(call);
+            element.write(failing);
+            EXPECT_FALSE(service().errors().empty()) << call;
+            EXPECT_LE(failing->plain().size(), whole->plain().size()) << call;
+            EXPECT_GE(failing->phrases().size() + 4, whole->phrases().size()) << call;
+        }
+        for (const auto& write : {element.read, std::function<void()>([&] { element.write(own); })}) {
+            for (int call = 1, before = 0; own->calls() >= before; ++call) {
+                service().forget();
+                before = own->calls() + call;
+                own->failAt(call);
+                write();
+                EXPECT_EQ(own->calls() >= before, !service().errors().empty()) << call;
+            }
+            own->failAt(0);
+        }
+        service().forget();
+        element.write(nullptr);
+        EXPECT_FALSE(service().errors().empty());
+        const auto after = std::make_shared<RecordingSink>();
+        element.write(after);
+        EXPECT_EQ(after->phrases(), whole->phrases());
+        service().forget();
     }
 }
 
