@@ -205,7 +205,7 @@ void OutputTemplatePublisher::Parse(Text& text, TextView previousStr) {
         parseAndRemoveImprint(text);
         publisher(text);
         // Another style may want the names in full.
-        const auto inFull = [&](Text name) {
+        const auto inFull = [&](const Text& name) {
             return wasShortened || endsInPress(name) ? targetedExpansion(name) : name;
         };
         publisher(inFull(publisher()));

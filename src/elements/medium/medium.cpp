@@ -303,7 +303,7 @@ Text OutputTemplateMedium::digitalText() const {
 
 /// A year as the year element writes it, any other date as it stands.
 Text OutputTemplateMedium::dateText() const {
-    const Text date = mValues.at(kDate);
+    Text date = mValues.at(kDate);
     if (date.empty() || isDigits(date)) {
         return date;
     }

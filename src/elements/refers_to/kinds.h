@@ -25,6 +25,7 @@ enum class Form {
     kEdition,
 };
 
+// In the order of its tables. NOLINTNEXTLINE(clang-analyzer-optin.performance.Padding)
 struct Kind {
     /// As forms show it.
     TextView caption;

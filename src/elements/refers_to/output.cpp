@@ -354,7 +354,7 @@ void OutputTemplateRefersTo::fillSerialArticle(std::vector<Text>& items) {
 
 /// What a kind that has no slots writes.
 Text OutputTemplateRefersTo::textAlone() {
-    const Text text = valueAt(0);
+    Text text = valueAt(0);
     switch (kind().form) {
         case Form::kAbstract:
             return Text(stylecodes::usesBrackets(mFormat) ? kAbstractInBrackets : kAbstractInSentence);

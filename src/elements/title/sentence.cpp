@@ -12,7 +12,6 @@ namespace {
 
 using namespace titlewords;
 using words::Known;
-using words::Lexicon;
 using namespace titleshapes;
 
 /// Sets the letters of a piece as a sentence has them.

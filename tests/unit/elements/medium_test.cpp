@@ -119,7 +119,7 @@ TEST(Medium, TitlesAreItalic) {
         {u"PDF file", u""},
     };
     for (const auto& [text, title] : cases) {
-        parse(element, text);
+        parseWhole(element, text);
         const auto sink = std::make_shared<RecordingSink>();
         element.ToFormattedString(sink, false, false);
         Text italic;
