@@ -210,9 +210,10 @@ bool OutputTemplateMedium::fillSlots(bool isFootnote, std::vector<Text>& items,
                                      std::vector<OutputSinkRef>& formattedItems, bool /*shortenedVersion*/) {
     const bool isMicroform = usesSecond();
     const TextView medium = caption();
-    // The title of a file is its format, which stands in the name of the medium.
-    const bool hasTitle = isMicroform || (medium != kBook && medium != kDigitalFile && medium != kEbook);
-    const Text title = hasTitle ? mValues.at(kTitle) : Text();
+    // The title of a file is its format, and pages of a microform are no title: they stand beside the medium.
+    const bool isBeside =
+        isMicroform ? arePages(mValues.at(kTitle)) : medium == kBook || medium == kDigitalFile || medium == kEbook;
+    const Text title = isBeside ? Text() : mValues.at(kTitle);
     const OutputSinkRef fragment = formattedItems.at(isMicroform ? std::size_t{kSourceSlot} : std::size_t{kTitleSlot});
     if (isMicroform) {
         fillMicroform(isFootnote, items);
