@@ -41,8 +41,7 @@ AuthorOptions optionsOf(FuzzInput& input) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const AuthorOptions options = optionsOf(input);
     const std::uint8_t forms = input.options();
     const std::vector<Text> texts = split(input.rest(), u"\n");
@@ -78,5 +77,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     author.toMergedString();
     author.authors(author.authors());
     require(author.isSameAuthor(text, text));
-    return 0;
 }

@@ -16,8 +16,7 @@ std::ptrdiff_t digitsIn(TextView text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const Text text = input.rest();
 
@@ -31,9 +30,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     OutputTemplateCitation citation;
     citation.Initialize(sink, (options & 1) != 0, std::make_shared<NumberedKeys>(names), nullptr, nullptr, nullptr);
     const bool isAuthorDate = (options & 2) != 0;
-    citation.Reset(u", ", true, u"vol. ", (options & 4) != 0, (options & 8) != 0, true, true, (options & 16) != 0, true,
-                   true, (options & 32) != 0, (options & 64) != 0, isAuthorDate ? u", " : u" ",
-                   isAuthorDate ? u", " : u"", u": ");
+    citation.Reset({u", ", true, u"vol. ", (options & 4) != 0, (options & 8) != 0, true, true, (options & 16) != 0,
+                    true, true, (options & 32) != 0, (options & 64) != 0, isAuthorDate ? u", " : u" ",
+                    isAuthorDate ? u", " : u"", u": "});
     Text remainder = text;
     citation.Parse(remainder, {});
     require(remainder.empty());
@@ -48,5 +47,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // "Ibid." without a citation before it has nothing but its page.
     require(contains(toLower(text), u"ibid") || digitsIn(read) == digitsIn(text));
     require(citation.toString(model, 0, false).size() <= 4 * text.size() + 64);
-    return 0;
 }

@@ -11,8 +11,7 @@ constexpr TextView kFormats[] = {u"mmmm d, yyyy", u"yyyy, mmmm d", u"d mmmm yyyy
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const std::vector<Text> texts = split(input.rest(), u"\n");
     const Text text = texts[0];
@@ -21,7 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto sink = std::make_shared<RecordingSink>();
     OutputTemplateDateTime dateTime;
     dateTime.Initialize(sink);
-    dateTime.Reset(kFormats[options % 8], (options & 8) != 0, (options & 16) != 0);
+    dateTime.Reset({Text(kFormats[options % 8]), (options & 8) != 0, (options & 16) != 0});
 
     Text remainder = text;
     dateTime.Parse(remainder, secondaryText);
@@ -33,5 +32,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // What was written reads the same.
     const Text written = dateTime.formatStr(text);
     require(dateTime.formatStr(written) == written);
-    return 0;
 }

@@ -49,4 +49,14 @@ inline void require(bool holds) {
     }
 }
 
+/// What a target does with an input.
+void tryInput(FuzzInput& input);
+
 }  // namespace quorvel
+
+// Each target is a program of one file.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    quorvel::FuzzInput input(data, size);
+    quorvel::tryInput(input);
+    return 0;
+}

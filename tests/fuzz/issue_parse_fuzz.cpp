@@ -14,8 +14,7 @@ std::ptrdiff_t digitsOf(const Text& text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const Text text = input.rest();
 
@@ -37,5 +36,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(digits == digitsOf(cleanUp(text)));
     const Text number = issue.value(OutputTemplateIssue::kIssueNumber);
     require(issue.IssueType() != u"Issue type" || (left.empty() && contains(cleanUp(text), number)));
-    return 0;
 }

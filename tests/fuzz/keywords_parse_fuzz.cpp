@@ -5,8 +5,7 @@
 
 using namespace quorvel;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const bool keepOrder = (input.options() & 1) != 0;
     const Text text = input.rest();
 
@@ -16,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Text written = keywords.toString(false, false);
     require(keywords.hasWords() == !written.empty());
     if (written.empty()) {
-        return 0;
+        return;
     }
     const std::vector<Text> words = split(written, u",");
     for (const Text& word : words) {
@@ -28,5 +27,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     // What was written reads the same.
     keywords.Parse(written, keepOrder ? u"KEEP_ORDER" : u"");
     require(keywords.toString(false, false) == written);
-    return 0;
 }

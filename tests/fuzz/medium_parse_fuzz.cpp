@@ -7,8 +7,7 @@
 
 using namespace quorvel;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const Text text = input.rest();
 
@@ -34,12 +33,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const auto marks = [](const Text& from) { return std::count(from.begin(), from.end(), kMark); };
     if (element.PublicationMediumType == 0) {
         require(marks(written) == marks(text));
-        return 0;
+        return;
     }
     std::ptrdiff_t kept = 0;
     for (std::int16_t index = 0; index < static_cast<std::int16_t>(OutputTemplateMedium::kValues); ++index) {
         kept += marks(element.value(index));
     }
     require(kept == marks(text));
-    return 0;
 }

@@ -7,8 +7,7 @@
 
 using namespace quorvel;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const Text text = input.rest();
 
@@ -37,5 +36,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                                      element.Year, element.SeriesType});
     require(marks(values) == marks(text));
     require(marks(element.toString(false, false)) == marks(text));
-    return 0;
 }

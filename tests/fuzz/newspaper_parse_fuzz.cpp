@@ -4,8 +4,7 @@
 
 using namespace quorvel;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const Text text = input.rest();
 
@@ -30,5 +29,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         newspaper.Parse(again, {});
         require(newspaper.City == city && newspaper.toString(false, false) == written);
     }
-    return 0;
 }

@@ -4,8 +4,7 @@
 
 using namespace quorvel;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const std::uint8_t moreOptions = input.options();
     const Text text = input.rest();
@@ -55,5 +54,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Text again = written;
     page.Parse(again, {});
     require(!isNumbers || page.toString(false, false) == written);
-    return 0;
 }

@@ -3,8 +3,7 @@
 
 using namespace quorvel;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const Text text = input.rest();
 
@@ -29,5 +28,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         !remainder.empty() && remainder.find_first_not_of(u"ABCDEFORXYZabcdeforxyz, ") == Text::npos &&
         remainder.find_first_of(u", ") != 0 && remainder.find_last_of(u", ") != remainder.size() - 1;
     require(!isProperPlace || place.formatStr(written, {}) == written);
-    return 0;
 }

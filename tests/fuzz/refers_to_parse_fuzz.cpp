@@ -12,7 +12,7 @@ std::size_t digitsOf(TextView text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void quorvel::tryInput(FuzzInput& input) {
     // What a host may tell beside the text.
     constexpr TextView kTold[] = {
         u"",
@@ -32,7 +32,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         u"Discusser",
         u"Newspaper",
     };
-    FuzzInput input(data, size);
     const std::uint8_t options = input.options();
     const std::uint8_t style = input.options();
     const Text text = input.rest();
@@ -59,5 +58,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         kept += refersTo.value(i);
     }
     require(digitsOf(kept) >= digitsOf(cleanUp(text)));
-    return 0;
 }

@@ -5,14 +5,13 @@
 
 using namespace quorvel;
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+void quorvel::tryInput(FuzzInput& input) {
     static const auto author = [] {
         auto element = std::make_shared<OutputTemplateAuthor>();
         element->Initialize(std::make_shared<RecordingSink>());
         element->Reset(test::mlaAuthorOptions());
         return element;
     }();
-    FuzzInput input(data, size);
     const std::uint8_t options = input.options();
     const Text text = input.rest();
 
@@ -38,5 +37,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const titlecase::Range range : title.changedWords(text)) {
         require(range.begin < range.end && range.end <= text.size());
     }
-    return 0;
 }

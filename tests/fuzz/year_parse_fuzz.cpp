@@ -15,8 +15,7 @@ bool isNumberOrRange(TextView text) {
 
 }  // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    FuzzInput input(data, size);
+void quorvel::tryInput(FuzzInput& input) {
     const std::uint8_t options = input.options();
     const Text text = input.rest();
 
@@ -46,5 +45,4 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         type == OutputTemplateYear::kNoDate || type == OutputTemplateYear::kNotYetPublished ||
         (isNumberOrRange(number) && (type != OutputTemplateYear::kCirca || (hasCirca && number.size() < read.size())));
     require(!isStable || year.formatStr(written) == written);
-    return 0;
 }
