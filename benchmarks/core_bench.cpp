@@ -9,11 +9,12 @@
 namespace quorvel::bench {
 namespace {
 
+constexpr StandardModule kModule{u"Bench"};
+
 void procedureWithoutService(benchmark::State& state) {
     std::int32_t code = 0;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(
-            procedure(StandardModule(u"Bench"), u"procedure", {{u"code", code}}, [&] { return ++code; }));
+        benchmark::DoNotOptimize(procedure(kModule, u"procedure", {{u"code", code}}, [&] { return ++code; }));
     }
 }
 BENCHMARK(procedureWithoutService);
