@@ -245,11 +245,13 @@ void OutputTemplateEdition::ParseAndRemovePublisher(Text& text) {
         const TextView behind = trim(TextView(whole).substr(at), u" ,");
         const TextView year = before(behind, kListSign);
         takeYear(year);
-        if (const TextView rest = behind.substr(year.size()); hasPageBehindComma(rest)) {
+        const TextView rest = behind.substr(year.size());
+        if (hasPageBehindComma(rest)) {
             // "Time, March 3, 1999, p. 12"
             text = concatenate({TextView(whole).substr(0, at), rest});
             return;
-        } else if (!contains(rest, u": ") && hasVolumeBehindComma(rest)) {
+        }
+        if (!contains(rest, u": ") && hasVolumeBehindComma(rest)) {
             // "American Psychologist, 1995, 50, 741-749": volume and pages follow the title.
             const TextView volume = before(rest.substr(kListSign.size()), kListSign);
             const TextView pages = rest.substr(kListSign.size() + volume.size());
