@@ -52,12 +52,13 @@ bool Module::isKeptLoaded() {
 }
 
 bool Module::prepareThread() noexcept {
-    // Volatile, so that the compiler does not take success for granted.
-    void* volatile room = std::malloc(kRoomForAThread);
+    // By hand, since what a failure throws is what there must be room for; volatile, so that the compiler does not take
+    // success for granted.
+    void* volatile room = std::malloc(kRoomForAThread);  // NOLINT(cppcoreguidelines-no-malloc)
     if (room == nullptr) {
         return false;
     }
-    std::free(room);
+    std::free(room);  // NOLINT(cppcoreguidelines-no-malloc)
     try {
         // The compiler would leave out a call whose result nobody takes.
         [[maybe_unused]] const volatile int none = std::uncaught_exceptions();
