@@ -230,6 +230,24 @@ bool OutputTemplateAuthor::hasDiscussant() const {
     return procedure(*this, u"hasDiscussant[Get]", kNoParameters, [&] { return persons().discussant.has_value(); });
 }
 
+Text OutputTemplateAuthor::Discussant() const {
+    return procedure(*this, u"Discussant[Get]", kNoParameters,
+                     [&] { return persons().discussant ? rowOf(*persons().discussant) : Text(); });
+}
+
+void OutputTemplateAuthor::Discussant(TextView value) {
+    procedure(*this, u"Discussant[Let]", {{u"value", value}}, [&] {
+        const std::optional<AuthorRecord>& before = persons().discussant;
+        // A text of several persons stands in one record, and is not taken apart when it comes back.
+        if (before && rowOf(*before) == value) {
+            return;
+        }
+        AuthorPersons read;
+        readRows(reader(), {Text(value)}, read);
+        own().discussant = read.isEmpty() ? std::nullopt : std::optional(read.at(0));
+    });
+}
+
 bool OutputTemplateAuthor::Anthologies(std::int16_t index) const {
     return procedure(*this, u"Anthologies[Get]", {{u"index", index}},
                      [&]() -> bool { return persons().roles.at(static_cast<std::size_t>(index)); });

@@ -86,6 +86,10 @@ public:
     void HasEtAl(bool value) { own().hasEtAl = value; }
     /// Whether the text had a discussant ("Smith, J. In discussion of: ...").
     bool hasDiscussant() const;
+    /// Who discusses the work of the persons, as "Last, First, Postfix"; empty when there is nobody.
+    Text Discussant() const;
+    /// A text without comma is read like a name in a list; an empty one removes the discussant.
+    void Discussant(TextView value);
     /// One of the flags of Role; an index outside is reported and False.
     bool Anthologies(std::int16_t index) const;
     void Anthologies(std::int16_t index, bool value);

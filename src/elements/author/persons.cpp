@@ -20,18 +20,6 @@ constexpr Replacement kKeywordReplacements[] = {
     {u" & ", u" "}, {u" and ", u" "}, {u"(", u""}, {u")", u""}, {u"/", u" "}, {u" ", u","},
 };
 
-/// "Last, First, Postfix"; empty parts at the end are left out.
-Text rowOf(const AuthorRecord& person) {
-    Text row = person.lastName;
-    if (!person.firstNames.empty() || !person.postfix.empty()) {
-        row.append(u", ").append(person.firstNames);
-    }
-    if (!person.postfix.empty()) {
-        row.append(u", ").append(person.postfix);
-    }
-    return row;
-}
-
 /// The first letters of the words of first names, which two forms of a name have in common.
 Text initialsOf(TextView firstNames) {
     Text initials;
@@ -105,6 +93,17 @@ void AuthorPersons::clear() {
     roles.fill(false);
     discussant.reset();
     residue.clear();
+}
+
+Text rowOf(const AuthorRecord& person) {
+    Text row = person.lastName;
+    if (!person.firstNames.empty() || !person.postfix.empty()) {
+        row.append(u", ").append(person.firstNames);
+    }
+    if (!person.postfix.empty()) {
+        row.append(u", ").append(person.postfix);
+    }
+    return row;
 }
 
 std::vector<Text> rowsOf(const AuthorPersons& persons) {

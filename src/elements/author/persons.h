@@ -72,7 +72,9 @@ private:
     std::int16_t mSize = 0;
 };
 
-/// Each person as "Last, First, Postfix", trailing empty parts left out.
+/// A person as "Last, First, Postfix", trailing empty parts left out.
+Text rowOf(const AuthorRecord& person);
+/// Each person so.
 std::vector<Text> rowsOf(const AuthorPersons& persons);
 /// The words of each person as keywords, separated by commas; one text a person.
 std::vector<Text> keywordsOf(const AuthorPersons& persons);

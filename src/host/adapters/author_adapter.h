@@ -156,6 +156,12 @@ public:
     STDMETHODIMP put_HasEtAl(VARIANT_BOOL HasEtAl) override {
         return call([&] { mElement->HasEtAl(asBool(HasEtAl)); });
     }
+    STDMETHODIMP get_Discussant(BSTR* result) override {
+        return call(result, [&] { return mElement->Discussant(); });
+    }
+    STDMETHODIMP put_Discussant(BSTR Discussant) override {
+        return call([&] { mElement->Discussant(view(Discussant)); });
+    }
 
 private:
     /// One role for an index, all three without.

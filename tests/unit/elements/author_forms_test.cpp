@@ -184,6 +184,24 @@ TEST(AuthorForms, Discussant) {
     EXPECT_EQ(author->toString(false, false), u"Smith, John. In discussion of: Jones, Kim, and Ann Doe");
     author->Reset(test::apaAuthorOptions());
     EXPECT_EQ(author->toString(false, false), u"Smith, J. In discussion of: Jones, K., & Doe, A.");
+    EXPECT_EQ(author->Discussant(), u"Smith, John");
+    const Text kinds[][3] = {
+        {u"King, Martin Luther, Jr.", u"King, Martin Luther, Jr.",
+         u"King, M. L., Jr. In discussion of: Jones, K., & Doe, A."},
+        {u"Ann Lee", u"Lee, Ann", u"Lee, A. In discussion of: Jones, K., & Doe, A."},
+        {u" ", u"", u"Jones, K., & Doe, A."},
+    };
+    for (const auto& [given, kept, output] : kinds) {
+        author->Discussant(given);
+        EXPECT_EQ(author->Discussant(), kept);
+        EXPECT_EQ(author->hasDiscussant(), !kept.empty());
+        EXPECT_EQ(author->toString(false, false), output);
+    }
+    // Several persons stay the one text that they are.
+    test::read(*author, u"Smith, John, and Ann Lee. In discussion of: Jones, Kim");
+    const Text before = author->toString(false, false);
+    author->Discussant(author->Discussant());
+    EXPECT_EQ(author->toString(false, false), before);
     test::read(*author, u"Jones, Kim");
     EXPECT_FALSE(author->hasDiscussant());
 }
