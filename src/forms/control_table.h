@@ -172,6 +172,14 @@ struct ControlAlias {
     std::int16_t first = kNoIndex;
 };
 
+/// A member of a form's own by which hosts know it, besides the protocol and the controls: see `Form::getMember`.
+struct FormMember {
+    TextView name;
+    bool isRead = true;
+    bool isWritten = true;
+    std::size_t indexes = 0;
+};
+
 /// A form as it is declared.
 struct FormDesign {
     /// The name of its class: "YearForm".
@@ -180,6 +188,7 @@ struct FormDesign {
     TextView title;
     std::span<const ControlRow> controls;
     std::span<const ControlAlias> aliases;
+    std::span<const FormMember> members = {};
     /// In dialog units.
     std::int16_t width = 0;
     /// The box in which a user would type first.

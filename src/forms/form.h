@@ -89,6 +89,15 @@ public:
     FormView& view() const;
     bool hasView() const { return mView != nullptr; }
 
+    // --- What hosts do, beyond the members above.
+
+    /// The members of `FormDesign::members`, by their names there. Each fails with a RuntimeError, 438 for a member that
+    /// the form has not.
+    virtual Value getMember(TextView name, LateObject::Arguments indexes);
+    virtual void putMember(TextView name, LateObject::Arguments indexesAndValue);
+    /// The host wrote to controls: what follows from their places is done.
+    void hostChanged();
+
     // --- What the user does, as the view tells it.
 
     void userTyped(Control& control, TextView text);

@@ -50,12 +50,26 @@ DISPID LateBoundObject::idOf(const wchar_t* member) const {
     return id;
 }
 
+bool LateBoundObject::has(const wchar_t* member) const {
+    DISPID id = DISPID_UNKNOWN;
+    return mObject && SUCCEEDED(tryLookUp(member, id));
+}
+
 DISPID LateBoundObject::lookUp(const wchar_t* member) const {
     if (!mObject) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
     }
-    const ComPtr<IDispatch> keepAlive = mObject;
     DISPID id = DISPID_UNKNOWN;
+    const HRESULT outcome = tryLookUp(member, id);
+    if (FAILED(outcome)) {
+        EXCEPINFO none = {};
+        throw automationError(outcome, none, mObject.get());
+    }
+    return id;
+}
+
+HRESULT LateBoundObject::tryLookUp(const wchar_t* member, DISPID& id) const {
+    const ComPtr<IDispatch> keepAlive = mObject;
     HRESULT outcome = E_NOTIMPL;
     if (mObjectEx) {
         const BSTR text = newBstr(reinterpret_cast<const char16_t*>(member));
@@ -66,11 +80,7 @@ DISPID LateBoundObject::lookUp(const wchar_t* member) const {
         auto* spelling = const_cast<LPOLESTR>(member);
         outcome = mObject->GetIDsOfNames(IID_NULL, &spelling, 1, kNeutral, &id);
     }
-    if (FAILED(outcome)) {
-        EXCEPINFO none = {};
-        throw automationError(outcome, none, mObject.get());
-    }
-    return id;
+    return outcome;
 }
 
 Variant LateBoundObject::invoke(const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const {
@@ -78,6 +88,9 @@ Variant LateBoundObject::invoke(const wchar_t* member, WORD flags, const Variant
 }
 
 Variant LateBoundObject::invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const {
+    if (count > kMostArguments) {
+        throw RuntimeError(ErrorNumber::WrongNumberOfArguments);
+    }
     const ComPtr<IDispatch> keepAlive = mObject;
     std::array<VARIANTARG, kMostArguments> reversed{};
     // Copied without taking over: the callee may change an argument only through a reference.

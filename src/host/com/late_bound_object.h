@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -41,6 +42,16 @@ public:
         invoke(member, DISPATCH_PROPERTYPUT, values.data(), values.size());
     }
 
+    /// The same with arguments that stand in a list.
+    Variant callWith(const wchar_t* member, std::span<const Variant> arguments) const {
+        return invoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments.data(), arguments.size());
+    }
+    void putWith(const wchar_t* member, std::span<const Variant> indexesAndValue) const {
+        invoke(member, DISPATCH_PROPERTYPUT, indexesAndValue.data(), indexesAndValue.size());
+    }
+    /// Whether the object has a member, without calling it.
+    bool has(const wchar_t* member) const;
+
     /// An element of a script's array.
     Variant element(std::int32_t index) const;
     void putElement(std::int32_t index, Variant value) const;
@@ -49,6 +60,7 @@ private:
     /// The id of a member whose name is a literal; it is looked up once.
     DISPID idOf(const wchar_t* member) const;
     DISPID lookUp(const wchar_t* member) const;
+    HRESULT tryLookUp(const wchar_t* member, DISPID& id) const;
     /// `arguments` in the order of the declaration.
     Variant invoke(const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const;
     Variant invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const;
