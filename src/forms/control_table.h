@@ -180,12 +180,19 @@ struct FormDesign {
     TextView title;
     std::span<const ControlRow> controls;
     std::span<const ControlAlias> aliases;
-    /// In dialog units.
-    std::int16_t width = 0;
     /// The box in which a user would type first.
     ControlName firstBox = TextView();
+    /// The place of `isRTF` among the parameters of the element's `toString`; -1 where it has none.
+    std::int16_t rtfParameter = -1;
+    /// Whether the preview is the model's: it is an element of its own, which reads what this one writes.
+    bool isPreviewedByModel = false;
     /// Whether the preview of the output stands above the buttons.
     bool hasPreview = true;
 };
+
+/// All forms are as wide, in dialog units; what they hold leaves the margins free.
+inline constexpr std::int16_t kFormWidth = 240;
+inline constexpr std::int16_t kMargin = 7;
+inline constexpr std::int16_t kContentWidth = kFormWidth - 2 * kMargin;
 
 }  // namespace quorvel::forms
