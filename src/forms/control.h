@@ -108,9 +108,10 @@ public:
 
     const Rectangle& place() const { return mPlace; }
     void setPlace(const Rectangle& place);
-    /// Stands here from now on, whatever its line; what is below it follows. Nothing gives the line its place back.
-    void setFixedTop(std::optional<Twips> top);
-    std::optional<Twips> fixedTop() const { return mFixedTop; }
+    /// Stands as far below the top of another control from now on, whatever its line; what is below it follows. Null
+    /// gives it the place of its line back.
+    void setTopBelow(const Control* other, Twips distance);
+    std::optional<Twips> fixedTop() const;
 
     // For the form and the layout.
 
@@ -139,7 +140,8 @@ private:
     std::vector<Text> mItems;
     std::int32_t mListIndex = -1;
     Rectangle mPlace;
-    std::optional<Twips> mFixedTop;
+    const Control* mAbove = nullptr;
+    Twips mBelowIt = 0;
     std::uint32_t mForeColor;
     bool mIsEnabled = true;
     bool mIsVisible;

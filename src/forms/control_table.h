@@ -4,10 +4,13 @@
 #include <span>
 
 #include "core/text.h"
+#include "forms/late_object.h"
 
 /// How a form is declared: rows of constant tables, of which the engine makes windows. Rows stand in the order of
 /// reading, which is the order of the Tab key and of what lies above what.
 namespace quorvel::forms {
+
+class Form;
 
 enum class ControlKind : std::uint8_t {
     Label,
@@ -172,11 +175,13 @@ struct ControlAlias {
     std::int16_t first = kNoIndex;
 };
 
-/// A member of a form's own by which hosts know it, besides the protocol and the controls: see `Form::getMember`.
+/// A property that hosts find at a form besides the protocol and the controls. What it throws is reported.
 struct FormMember {
     TextView name;
-    bool isRead = true;
-    bool isWritten = true;
+    /// Null when it cannot be read.
+    Value (*get)(Form& form, LateObject::Arguments indexes) = nullptr;
+    /// Null when it cannot be written. The new value stands behind the indexes.
+    void (*put)(Form& form, LateObject::Arguments indexesAndValue) = nullptr;
     std::size_t indexes = 0;
 };
 
@@ -189,12 +194,19 @@ struct FormDesign {
     std::span<const ControlRow> controls;
     std::span<const ControlAlias> aliases;
     std::span<const FormMember> members = {};
-    /// In dialog units.
-    std::int16_t width = 0;
     /// The box in which a user would type first.
     ControlName firstBox = TextView();
+    /// The place of `isRTF` among the parameters of the element's `toString`; -1 where it has none.
+    std::int16_t rtfParameter = -1;
+    /// Whether the preview is the model's: it is an element of its own, which reads what this one writes.
+    bool isPreviewedByModel = false;
     /// Whether the preview of the output stands above the buttons.
     bool hasPreview = true;
 };
+
+/// All forms are as wide, in dialog units; what they hold leaves the margins free.
+inline constexpr std::int16_t kFormWidth = 240;
+inline constexpr std::int16_t kMargin = 7;
+inline constexpr std::int16_t kContentWidth = kFormWidth - 2 * kMargin;
 
 }  // namespace quorvel::forms

@@ -19,7 +19,10 @@ public:
     const LateObjectRef& object() const { return mObject; }
 
     Value get(const char16_t* member) const;
-    Value call(const char16_t* member, std::initializer_list<Value> arguments) const;
+    Value call(const char16_t* member, LateObject::Arguments arguments) const;
+    Value call(const char16_t* member, std::initializer_list<Value> arguments) const {
+        return call(member, LateObject::Arguments(arguments.begin(), arguments.size()));
+    }
     void put(const char16_t* member, std::initializer_list<Value> indexesAndValue) const;
     template <class T>
     void put(const char16_t* member, const T& value) const {

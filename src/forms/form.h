@@ -28,14 +28,14 @@ public:
     // --- The protocol, in the order in which the calls arrive.
 
     /// Gives the form its windows, once.
-    void attach(std::unique_ptr<FormView> view);
+    void attach(std::shared_ptr<FormView> view);
     /// Keeps the callback and dresses the form. @param icon a picture, or nothing
     void Initialize(const LateObjectRef& callback, TextView productName, const LateObjectRef& icon);
     /// Shows what the element makes of the host's text.
     void ParentWidgetChanged(const LateObjectRef& DefaultOutputTemplate, const LateObjectRef& modelOutputTemplate,
                              TextView parentText, TextView secondaryText);
-    /// Brings everything that depends on the first box into line with it.
-    virtual void PrimePump();
+    /// Brings everything that depends on the first box into line with it, in a form with rows of boxes.
+    virtual void PrimePump() {}
     /// Refreshes the preview, unless the form is filling its controls.
     void UpdateOutput();
     /// What the controls say, as the element writes it.
@@ -87,16 +87,9 @@ public:
     Control* focused() const { return mFocused; }
     /// The windows; error 91 when the form is closed.
     FormView& view() const;
-    bool hasView() const { return mView != nullptr; }
-
-    // --- What hosts do, beyond the members above.
-
-    /// The members of `FormDesign::members`, by their names there. Each fails with a RuntimeError, 438 for a member that
-    /// the form has not.
-    virtual Value getMember(TextView name, LateObject::Arguments indexes);
-    virtual void putMember(TextView name, LateObject::Arguments indexesAndValue);
-    /// The host wrote to controls: what follows from their places is done.
+    /// The host wrote to controls: they are laid out if they have to be.
     void hostChanged();
+    bool hasView() const { return mView != nullptr; }
 
     // --- What the user does, as the view tells it.
 
@@ -116,9 +109,6 @@ public:
     void userPressedEscape();
     void userActivated();
 
-    /// Procedures of the form protocol, for buttons, options and boxes whoever moves them.
-    void CommandButton_Click(Control& button);
-
 protected:
     explicit Form(const FormDesign& design);
 
@@ -130,11 +120,9 @@ protected:
     virtual void fill(TextView parentText, TextView secondaryText) = 0;
     /// Copies the controls into the element.
     virtual void collect(bool isModelPreview) = 0;
-    /// What the element makes of it: `toString(isFootnote)`, and with the RTF flag where the element has one.
-    virtual Text write(bool isFootnote, bool isRTF);
-    /// The two texts for the host.
+    /// The two texts for the host: what the form says as a reference-list entry, and none.
     virtual std::pair<Text, Text> result();
-    /// What the preview shows: `toString` of the form.
+    /// What the preview shows: what the form says, or what the preview's own element makes of that.
     virtual Text preview();
     /// A box has another text.
     virtual void boxChanged(Control& /*box*/) {}
@@ -143,13 +131,19 @@ protected:
     virtual void boxLeft(Control& /*box*/) {}
     /// An option or a check box was clicked.
     virtual void choiceClicked(Control& /*control*/) {}
-    /// A button other than OK and Cancel.
-    virtual void buttonClicked(Control& /*button*/) {}
+    /// OK and Cancel; a form with other buttons has procedures of its own.
+    virtual void buttonClicked(Control& button) { CommandButton_Click(button); }
     virtual void spun(Control& /*upDown*/, Control& /*buddy*/, bool /*isUp*/) {}
     virtual void textSelected(Control& /*box*/) {}
     virtual void activated() {}
     /// What Enter does in a control where it is neither OK nor a new line; false for OK.
     virtual bool enterPressed(Control* /*focus*/) { return false; }
+
+    void CommandButton_Click(Control& button);
+    /// What OK does: the texts go to the host, and the form closes unless the host showed it another text then.
+    void accept();
+    /// What leaving the box in which the focus is would do.
+    void leaveFocused();
 
     EditedObject& element() { return mDefaultOutputTemplate; }
     EditedObject& model() { return mModelOutputTemplate; }
@@ -164,7 +158,6 @@ protected:
     void dumpProtocol(VBWPROTECTOR& report) const;
 
 private:
-    class Handling;
     class Filling;
 
     void aspectChanged(Control& control, Aspect aspect) override;
@@ -182,11 +175,15 @@ private:
     void Form_QueryUnload();
     void Form_Unload();
     void layOut();
+    /// Runs what comes in from outside: the form lives until it is done, what fails is reported, and behind the
+    /// outermost one the controls are laid out if they have to be.
+    template <class Body>
+    void handle(TextView name, Body&& body) noexcept;
 
     const FormDesign& mDesign;
     // Their addresses stay, since views and hosts hold them.
     std::deque<Control> mControls;
-    std::unique_ptr<FormView> mView;
+    std::shared_ptr<FormView> mView;
     Text mProductName;
     Text mCaption;
     Rectangle mClient;
@@ -196,6 +193,7 @@ private:
     /// Counts the texts that the host showed, so that an OK under way knows whether there came another.
     int mShowings = 0;
     bool mIsLayoutStale = true;
+    bool mIsLayingOut = false;
     bool mIsEnabled = true;
     bool mIsClosed = false;
 

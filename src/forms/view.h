@@ -34,8 +34,10 @@ public:
     FormView() = default;
     FormView(const FormView&) = delete;
     FormView& operator=(const FormView&) = delete;
-    /// Closes the window without a word to the form.
     virtual ~FormView() = default;
+
+    /// Closes the window for good, without a word to the form; it may be in the middle of telling the form something.
+    virtual void close() = 0;
 
     /// Of the system's message font.
     virtual DialogUnits dialogUnits() const = 0;

@@ -13,7 +13,7 @@ ComPtr<IDispatch> makeForm(std::int16_t whichType) {
     if (!form) {
         return {};
     }
-    form->attach(std::make_unique<NoView>());
+    form->attach(std::make_shared<NoView>());
     return ComPtr<IDispatch>(new FormObject(form));
 }
 

@@ -141,7 +141,10 @@ constexpr Member kMemberRows[] = {
 constexpr std::span<const Member> kMembers = kMemberRows;
 static_assert(kMembers.size() < kFirstFurther);
 
-std::vector<forms::Value> valuesOf(const Arguments& arguments) {
+std::vector<forms::Value> valuesOf(const Arguments& arguments, std::size_t least) {
+    if (arguments.size() < least) {
+        throw RuntimeError(ErrorNumber::ArgumentNotOptional);
+    }
     std::vector<forms::Value> values;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         values.push_back(valueOf(arguments[i]));
@@ -195,7 +198,7 @@ std::optional<NamedMember> FormObject::memberOf(DISPID id) {
         return memberIn(*row);
     }
     if (const auto* const further = furtherMember(id)) {
-        return NamedMember{further->name, false, further->isRead, further->isWritten, 0, further->indexes};
+        return NamedMember{further->name, false, further->get != nullptr, further->put != nullptr, 0, further->indexes};
     }
     if (const Text* const name = controlName(id)) {
         return NamedMember{*name, false, true, true, 0, 1};
@@ -208,7 +211,7 @@ Variant FormObject::read(DISPID id, const NamedArguments& arguments) {
         return row->read(*this, arguments);
     }
     if (const auto* const further = furtherMember(id)) {
-        return variantOf(mForm->getMember(further->name, valuesOf(arguments)));
+        return variantOf(further->get(*mForm, valuesOf(arguments, further->indexes)));
     }
     const Text name = *controlName(id);
     const ComPtr<IDispatch> object =
@@ -222,7 +225,7 @@ void FormObject::write(DISPID id, const NamedArguments& indexesAndValue) {
         return;
     }
     if (const auto* const further = furtherMember(id)) {
-        mForm->putMember(further->name, valuesOf(indexesAndValue));
+        further->put(*mForm, valuesOf(indexesAndValue, further->indexes + 1));
         mForm->hostChanged();
         return;
     }

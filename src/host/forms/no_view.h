@@ -10,6 +10,7 @@ namespace quorvel::host {
 /// A form without windows. It stands here until the forms have real ones.
 class NoView : public forms::FormView {
 public:
+    void close() override {}
     forms::DialogUnits dialogUnits() const override { return {30, 30}; }
     forms::Rectangle borders() const override { return {60, 360, 120, 420}; }
     void aspectChanged(const forms::Control& /*control*/, forms::Aspect /*aspect*/) override {}

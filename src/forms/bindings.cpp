@@ -1,0 +1,82 @@
+#include "forms/bindings.h"
+
+#include "forms/form.h"
+
+namespace quorvel::forms {
+
+namespace {
+
+template <class Visit>
+void forEachOption(Form& form, TextView options, Visit visit) {
+    for (Control& control : form.controls()) {
+        if (control.kind() == ControlKind::OptionButton && control.name() == options) {
+            visit(control);
+        }
+    }
+}
+
+template <class T>
+void put(const EditedObject& element, const char16_t* member, std::int16_t memberIndex, const T& value) {
+    if (memberIndex == kNoIndex) {
+        element.put(member, value);
+    } else {
+        element.put(member, {Value(static_cast<std::int32_t>(memberIndex)), Value(value)});
+    }
+}
+
+}  // namespace
+
+void fill(Form& form, const EditedObject& element, std::span<const TextBinding> bindings) {
+    for (const TextBinding& binding : bindings) {
+        form.control(binding.box)
+            .setText(binding.memberIndex == kNoIndex ? element.text(binding.member)
+                                                     : element.text(binding.member, binding.memberIndex));
+    }
+}
+
+void fill(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings) {
+    for (const FlagBinding& binding : bindings) {
+        form.control(binding.checkBox)
+            .setValue(binding.memberIndex == kNoIndex ? element.flag(binding.member)
+                                                      : element.flag(binding.member, binding.memberIndex));
+    }
+}
+
+void fill(Form& form, const EditedObject& element, const ChoiceBinding& binding) {
+    const std::int32_t selected = element.number(binding.member);
+    forEachOption(form, binding.options, [&](Control& option) {
+        const bool isSelected = option.index() == selected;
+        option.setVisible(isSelected || binding.supports == nullptr || element.flag(binding.supports, option.index()));
+        option.setValue(isSelected);
+    });
+}
+
+void collect(Form& form, const EditedObject& element, std::span<const TextBinding> bindings) {
+    for (const TextBinding& binding : bindings) {
+        put(element, binding.member, binding.memberIndex, form.control(binding.box).text());
+    }
+}
+
+void collect(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings) {
+    for (const FlagBinding& binding : bindings) {
+        put(element, binding.member, binding.memberIndex, form.control(binding.checkBox).value());
+    }
+}
+
+void collect(Form& form, const EditedObject& element, const ChoiceBinding& binding) {
+    if (const std::int16_t selected = selectedOption(form, binding.options); selected != kNoIndex) {
+        element.put(binding.member, static_cast<std::int32_t>(selected));
+    }
+}
+
+std::int16_t selectedOption(Form& form, TextView options) {
+    std::int16_t selected = kNoIndex;
+    forEachOption(form, options, [&](const Control& option) {
+        if (option.value()) {
+            selected = option.index();
+        }
+    });
+    return selected;
+}
+
+}  // namespace quorvel::forms

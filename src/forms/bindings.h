@@ -1,0 +1,48 @@
+#pragma once
+
+#include <span>
+
+#include "forms/control_table.h"
+
+namespace quorvel::forms {
+
+class EditedObject;
+class Form;
+
+/// A box that shows a member of the element.
+struct TextBinding {
+    ControlName box;
+    const char16_t* member;
+    /// Of a member with an index.
+    std::int16_t memberIndex = kNoIndex;
+};
+
+/// A check box that shows a flag of the element.
+struct FlagBinding {
+    ControlName checkBox;
+    const char16_t* member;
+    std::int16_t memberIndex = kNoIndex;
+};
+
+/// Option buttons of which the one with the index of the element's variant is selected.
+struct ChoiceBinding {
+    /// The name of the array of options, whose indexes are the codes of the variants.
+    TextView options;
+    const char16_t* member;
+    /// The element's member that tells which variants the style offers; null when all are shown.
+    const char16_t* supports = nullptr;
+};
+
+void fill(Form& form, const EditedObject& element, std::span<const TextBinding> bindings);
+void fill(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings);
+/// Shows the variants that are offered, and the selected one in any case.
+void fill(Form& form, const EditedObject& element, const ChoiceBinding& binding);
+
+void collect(Form& form, const EditedObject& element, std::span<const TextBinding> bindings);
+void collect(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings);
+void collect(Form& form, const EditedObject& element, const ChoiceBinding& binding);
+
+/// The index of the selected option of an array; kNoIndex when none is.
+std::int16_t selectedOption(Form& form, TextView options);
+
+}  // namespace quorvel::forms

@@ -1,0 +1,54 @@
+#include "forms/forms.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "forms/author_form.h"
+#include "forms/editor_form.h"
+#include "forms/year_form.h"
+
+namespace quorvel::forms {
+
+namespace {
+
+constexpr std::int16_t kNone = -1;
+
+struct FormClass {
+    /// The element type codes for which it is the form.
+    std::array<std::int16_t, 3> types;
+    std::shared_ptr<Form> (*create)();
+};
+
+template <class T>
+std::shared_ptr<Form> create() {
+    return std::make_shared<T>();
+}
+
+// Every form, one a line.
+constexpr FormClass kForms[] = {
+    {{0, kNone, kNone}, create<AuthorForm>},
+    {{6, kNone, kNone}, create<YearForm>},
+    {{9, kNone, kNone}, create<EditorForm>},
+};
+
+const FormClass* classWith(std::int16_t whichType) {
+    const auto* const found = std::find_if(std::begin(kForms), std::end(kForms), [&](const FormClass& row) {
+        return whichType != kNone && std::find(row.types.begin(), row.types.end(), whichType) != row.types.end();
+    });
+    return found != std::end(kForms) ? found : nullptr;
+}
+
+}  // namespace
+
+std::shared_ptr<Form> make(std::int16_t whichType) {
+    const FormClass* const found = classWith(whichType);
+    return found != nullptr ? found->create() : nullptr;
+}
+
+std::int16_t classOf(std::int16_t whichType) {
+    const FormClass* const found = classWith(whichType);
+    return found != nullptr ? found->types.front() : kNone;
+}
+
+}  // namespace quorvel::forms
