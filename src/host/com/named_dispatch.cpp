@@ -158,7 +158,7 @@ STDMETHODIMP NamedDispatch::Invoke(DISPID id, REFIID /*iid*/, LCID /*locale*/, W
         id = memberId(id);
         member = memberOf(id);
     } catch (...) {
-        return S_OK;  // Only memory can run out here; the result stays empty.
+        return S_OK;  // Only memory can run out here.
     }
     // A script calls a property with arguments as if it were a method. Reading a method does not run it.
     const bool isCalled = (flags & DISPATCH_METHOD) != 0;
@@ -168,6 +168,10 @@ STDMETHODIMP NamedDispatch::Invoke(DISPID id, REFIID /*iid*/, LCID /*locale*/, W
                                       : member->isRead && (isCalled || (flags & DISPATCH_PROPERTYGET)));
     if (!isFound) {
         return DISP_E_MEMBERNOTFOUND;
+    }
+    if (result != nullptr && !isWriting) {
+        result->vt = member->type;
+        result->llVal = 0;
     }
     if (!bracket.isRefused()) {
         run(id, *member, isWriting, *parameters, result);

@@ -49,10 +49,15 @@ private:
     std::span<const VARIANTARG> mReversed;
 };
 
+/// The type of a window handle.
+inline constexpr VARTYPE kHandleType = sizeof(HWND) == sizeof(LONGLONG) ? VT_I8 : VT_I4;
+
 /// What callers may do with a member.
 struct NamedMember {
     /// As reports name it.
     TextView name;
+    /// Of its value; what fails gives the empty value of the type. VT_EMPTY for a method without value.
+    VARTYPE type = VT_EMPTY;
     bool isMethod = false;
     bool isRead = false;
     bool isWritten = false;
@@ -116,6 +121,7 @@ struct NamedRow {
     using Write = void (*)(Target& target, const NamedArguments& indexesAndValue);
 
     TextView name;
+    VARTYPE type = VT_EMPTY;
     /// Of a method and of a property that can be read.
     Read read = nullptr;
     Write write = nullptr;
@@ -123,21 +129,24 @@ struct NamedRow {
     std::size_t leastArguments = 0;
     std::size_t mostArguments = 0;
 
-    static constexpr NamedRow property(TextView name, Read read, Write write = nullptr) { return {name, read, write}; }
-    static constexpr NamedRow indexedProperty(TextView name, std::size_t least, std::size_t most, Read read,
-                                              Write write = nullptr) {
-        return {name, read, write, false, least, most};
+    static constexpr NamedRow property(TextView name, VARTYPE type, Read read, Write write = nullptr) {
+        return {name, type, read, write};
     }
-    static constexpr NamedRow method(TextView name, std::size_t least, std::size_t most, Read call) {
-        return {name, call, nullptr, true, least, most};
+    static constexpr NamedRow indexedProperty(TextView name, VARTYPE type, std::size_t least, std::size_t most,
+                                              Read read, Write write = nullptr) {
+        return {name, type, read, write, false, least, most};
+    }
+    static constexpr NamedRow method(TextView name, std::size_t least, std::size_t most, Read call,
+                                     VARTYPE type = VT_EMPTY) {
+        return {name, type, call, nullptr, true, least, most};
     }
 };
 
 /// What callers may do with the member of a row.
 template <class Target>
 NamedMember memberIn(const NamedRow<Target>& row) {
-    return {row.name,           row.isMethod,     row.read != nullptr && !row.isMethod, row.write != nullptr,
-            row.leastArguments, row.mostArguments};
+    const bool isRead = row.read != nullptr && !row.isMethod;
+    return {row.name, row.type, row.isMethod, isRead, row.write != nullptr, row.leastArguments, row.mostArguments};
 }
 
 /// The number of the row with this name, its place from 1; DISPID_UNKNOWN when there is none.

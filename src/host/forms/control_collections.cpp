@@ -39,11 +39,11 @@ using ArrayMember = NamedRow<ControlArray>;
 
 // clang-format off
 constexpr ControlsMember kControlsMembers[] = {
-    ControlsMember::indexedProperty(kItem, 1, 2,
+    ControlsMember::indexedProperty(kItem, VT_DISPATCH, 1, 2,
             [](const FormControlsRef& t, const Arguments& a) { return objectValue(controlBy(t, a)); },
             [](const FormControlsRef& t, const Arguments& a) { writeValueOf(controlBy(t, a.indexes()), a); }),
-    ControlsMember::property(u"Count", [](const FormControlsRef& t, const Arguments&) { return Variant(t->count()); }),
-    ControlsMember::property(u"_NewEnum", [](const FormControlsRef& t, const Arguments&) { return enumeration(t->all()); }),
+    ControlsMember::property(u"Count", VT_I4, [](const FormControlsRef& t, const Arguments&) { return Variant(t->count()); }),
+    ControlsMember::property(u"_NewEnum", VT_UNKNOWN, [](const FormControlsRef& t, const Arguments&) { return enumeration(t->all()); }),
 };
 
 // --- An array
@@ -57,14 +57,14 @@ std::vector<ComPtr<IDispatch>> elementsOf(ControlArray& array) {
 }
 
 constexpr ArrayMember kArrayMembers[] = {
-    ArrayMember::indexedProperty(kItem, 1, 1,
+    ArrayMember::indexedProperty(kItem, VT_DISPATCH, 1, 1,
             [](ControlArray& t, const Arguments& a) { return objectValue(t.controls().element(t.name(), a.number(0))); },
             [](ControlArray& t, const Arguments& a) { writeValueOf(t.controls().element(t.name(), a.number(0)), a); }),
-    ArrayMember::property(u"Count", [](ControlArray& t, const Arguments&) {
+    ArrayMember::property(u"Count", VT_I4, [](ControlArray& t, const Arguments&) {
         return Variant(static_cast<std::int32_t>(t.controls().indexesOf(t.name()).size())); }),
-    ArrayMember::property(u"LBound", [](ControlArray& t, const Arguments&) { return Variant(t.controls().indexesOf(t.name()).front()); }),
-    ArrayMember::property(u"UBound", [](ControlArray& t, const Arguments&) { return Variant(t.controls().indexesOf(t.name()).back()); }),
-    ArrayMember::property(u"_NewEnum", [](ControlArray& t, const Arguments&) { return enumeration(elementsOf(t)); }),
+    ArrayMember::property(u"LBound", VT_I2, [](ControlArray& t, const Arguments&) { return Variant(t.controls().indexesOf(t.name()).front()); }),
+    ArrayMember::property(u"UBound", VT_I2, [](ControlArray& t, const Arguments&) { return Variant(t.controls().indexesOf(t.name()).back()); }),
+    ArrayMember::property(u"_NewEnum", VT_UNKNOWN, [](ControlArray& t, const Arguments&) { return enumeration(elementsOf(t)); }),
 };
 // clang-format on
 

@@ -113,28 +113,29 @@ constexpr Member kMemberRows[] = {
     Member::method(u"PrimePump", 0, 0, run<&Form::PrimePump>),
     Member::method(u"UpdateOutput", 0, 0, run<&Form::UpdateOutput>),
     Member::method(u"toString", 0, 3, [](FormObject& o, const Arguments& a) {
-        return Variant(TextView(o.form().toString(a.flag(0), a.flag(1), a.flag(2)))); }),
+        return Variant(TextView(o.form().toString(a.flag(0), a.flag(1), a.flag(2)))); }, VT_BSTR),
     Member::method(u"Show", 0, 2, show),
     Member::method(u"Hide", 0, 0, run<&Form::Hide>),
     Member::method(u"SetFocus", 0, 0, run<&Form::SetFocus>),
     Member::method(u"Unload", 0, 0, run<&Form::Unload>),
     Member::method(u"Move", 1, 4, move),
-    Member::property(u"Name", [](FormObject& o, const Arguments&) { return Variant(o.form().className()); }),
-    Member::property(u"hwnd", [](FormObject& o, const Arguments&) { return Variant(o.form().hwnd()); }),
-    Member::property(u"Left", placeOf<&Rectangle::left>, setPlace<&Rectangle::left>),
-    Member::property(u"Top", placeOf<&Rectangle::top>, setPlace<&Rectangle::top>),
-    Member::property(u"Width", placeOf<&Rectangle::width>, setPlace<&Rectangle::width>),
-    Member::property(u"Height", placeOf<&Rectangle::height>, setPlace<&Rectangle::height>),
-    Member::property(u"ScaleWidth", [](FormObject& o, const Arguments&) { return Variant(o.form().scale().width); }),
-    Member::property(u"ScaleHeight", [](FormObject& o, const Arguments&) { return Variant(o.form().scale().height); }),
-    Member::property(u"Caption", [](FormObject& o, const Arguments&) { return Variant(TextView(o.form().Caption())); },
+    Member::property(u"Name", VT_BSTR, [](FormObject& o, const Arguments&) { return Variant(o.form().className()); }),
+    Member::property(u"hwnd", kHandleType, [](FormObject& o, const Arguments&) { return Variant(o.form().hwnd()); }),
+    Member::property(u"Left", VT_R4, placeOf<&Rectangle::left>, setPlace<&Rectangle::left>),
+    Member::property(u"Top", VT_R4, placeOf<&Rectangle::top>, setPlace<&Rectangle::top>),
+    Member::property(u"Width", VT_R4, placeOf<&Rectangle::width>, setPlace<&Rectangle::width>),
+    Member::property(u"Height", VT_R4, placeOf<&Rectangle::height>, setPlace<&Rectangle::height>),
+    Member::property(u"ScaleWidth", VT_R4, [](FormObject& o, const Arguments&) { return Variant(o.form().scale().width); }),
+    Member::property(u"ScaleHeight", VT_R4, [](FormObject& o, const Arguments&) { return Variant(o.form().scale().height); }),
+    Member::property(u"Caption", VT_BSTR, [](FormObject& o, const Arguments&) { return Variant(TextView(o.form().Caption())); },
                      [](FormObject& o, const Arguments& a) { o.form().setCaption(a.text(a.newValue())); }),
-    Member::property(u"Visible", [](FormObject& o, const Arguments&) { return Variant(o.form().isVisible()); }, setVisible),
-    Member::property(u"Enabled", [](FormObject& o, const Arguments&) { return Variant(o.form().isEnabled()); },
+    Member::property(u"Visible", VT_BOOL, [](FormObject& o, const Arguments&) { return Variant(o.form().isVisible()); }, setVisible),
+    Member::property(u"Enabled", VT_BOOL, [](FormObject& o, const Arguments&) { return Variant(o.form().isEnabled()); },
                      [](FormObject& o, const Arguments& a) { o.form().setEnabled(a.flag(a.newValue())); }),
-    Member::property(u"Icon", [](FormObject& o, const Arguments&) { return Variant(o.icon().get()); }, setIcon),
-    Member::indexedProperty(u"Controls", 0, 2, [](FormObject& o, const Arguments& a) {
-        return Variant(controlBy(o.controls(), a).get()); }),
+    Member::property(u"Icon", VT_DISPATCH, [](FormObject& o, const Arguments&) { return Variant(o.icon().get()); }, setIcon),
+    Member::indexedProperty(u"Controls", VT_DISPATCH, 0, 2,
+            [](FormObject& o, const Arguments& a) { return Variant(controlBy(o.controls(), a).get()); },
+            [](FormObject& o, const Arguments& a) { writeValueOf(controlBy(o.controls(), a.indexes()), a); }),
 };
 // clang-format on
 
@@ -198,10 +199,11 @@ std::optional<NamedMember> FormObject::memberOf(DISPID id) {
         return memberIn(*row);
     }
     if (const auto* const further = furtherMember(id)) {
-        return NamedMember{further->name, false, further->get != nullptr, further->put != nullptr, 0, further->indexes};
+        return NamedMember{further->name,           VT_EMPTY, false,           further->get != nullptr,
+                           further->put != nullptr, 0,        further->indexes};
     }
     if (const Text* const name = controlName(id)) {
-        return NamedMember{*name, false, true, true, 0, 1};
+        return NamedMember{*name, VT_DISPATCH, false, true, true, 0, 1};
     }
     return std::nullopt;
 }
