@@ -339,6 +339,9 @@ void Form::layOut() {
         return;
     }
     mIsLayingOut = true;
+    // Kept, since windows that move may come back here with the form's end.
+    const std::shared_ptr<FormView> view = mView;
+    view->beginLayout();
     try {
         const DialogUnits units = mView->dialogUnits();
         mClient.width = static_cast<Twips>(kFormWidth) * units.horizontal;
@@ -348,6 +351,7 @@ void Form::layOut() {
     } catch (...) {
         reportCurrentException(*this, u"layOut");
     }
+    view->endLayout();
     mIsLayingOut = false;
 }
 

@@ -46,6 +46,9 @@ public:
 
     /// A control has another aspect; the form's own text, value and so on are the truth.
     virtual void aspectChanged(const Control& control, Aspect aspect) = 0;
+    /// Between the two, controls get their places and come or go: their windows may follow at the end, all at once.
+    virtual void beginLayout() {}
+    virtual void endLayout() {}
     /// The window's place on the screen, in twips, with its borders.
     virtual Rectangle place() const = 0;
     virtual void setPlace(const Rectangle& place) = 0;
