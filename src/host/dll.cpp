@@ -12,6 +12,7 @@
 #include "host/interfaces.h"
 #include "host/main2.h"
 #include "host/start_up.h"
+#include "host/window/window_class.h"
 
 using namespace quorvel::host;
 
@@ -64,6 +65,7 @@ STDAPI DllCanUnloadNow() {
     if (Module::isKeptLoaded()) {
         shutDown();
         DispatchTable::releaseAll();
+        unregisterWindowClasses();
     }
     return S_OK;
 }

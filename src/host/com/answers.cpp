@@ -38,6 +38,11 @@ std::int16_t numberAnswer(const VARIANT& answer) {
     return number.vt == VT_I2 ? number.iVal : std::int16_t{0};
 }
 
+std::intptr_t handleAnswer(const VARIANT& answer) {
+    const Variant handle = converted(answer, VT_I8);
+    return handle.vt == VT_I8 ? static_cast<std::intptr_t>(handle.llVal) : std::intptr_t{0};
+}
+
 ComPtr<IDispatch> objectAnswer(const VARIANT& answer) {
     const Variant object = converted(answer, VT_DISPATCH);
     return ComPtr<IDispatch>(object.vt == VT_DISPATCH ? object.pdispVal : nullptr);

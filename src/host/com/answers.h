@@ -14,6 +14,8 @@ namespace quorvel::host {
 Text textAnswer(const VARIANT& answer);
 bool flagAnswer(const VARIANT& answer);
 std::int16_t numberAnswer(const VARIANT& answer);
+/// A window handle, which 32-bit hosts write as a 32-bit number.
+std::intptr_t handleAnswer(const VARIANT& answer);
 /// Null for Nothing.
 ComPtr<IDispatch> objectAnswer(const VARIANT& answer);
 

@@ -43,6 +43,10 @@ public:
         vt = VT_I4;
         lVal = value;
     }
+    explicit Variant(std::int64_t value) : Variant() {
+        vt = VT_I8;
+        llVal = value;
+    }
     explicit Variant(float value) : Variant() {
         vt = VT_R4;
         fltVal = value;
