@@ -10,6 +10,7 @@ std::int32_t TraceValue::typeCode() const {
         11,           // boolean
         2,            // 16-bit integer
         3,            // 32-bit integer
+        20,           // 64-bit integer
         4,            // single float
         8,            // text
         9,            // object

@@ -22,12 +22,14 @@ public:
     /// An object; the pointer is null when it is empty or has no face towards the host.
     using Object = const HostObject*;
     using Storage =
-        std::variant<bool, std::int16_t, std::int32_t, float, TextView, Object, const std::vector<bool>*,
+        std::variant<bool, std::int16_t, std::int32_t, std::int64_t, float, TextView, Object, const std::vector<bool>*,
                      const std::vector<std::int16_t>*, const std::vector<Text>*, const std::vector<OutputSinkRef>*>;
 
     TraceValue(bool value) : mStorage(value) {}
     TraceValue(std::int16_t value) : mStorage(value) {}
     TraceValue(std::int32_t value) : mStorage(value) {}
+    /// A window handle or the parameter of a message, where those are as wide.
+    TraceValue(std::int64_t value) : mStorage(value) {}
     TraceValue(float value) : mStorage(value) {}
     TraceValue(TextView value) : mStorage(value) {}
     TraceValue(const Text& value) : mStorage(TextView(value)) {}

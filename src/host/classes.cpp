@@ -21,8 +21,10 @@
 #include "host/adapters/refers_to_adapter.h"
 #include "host/adapters/title_adapter.h"
 #include "host/adapters/year_adapter.h"
+#include "host/callback.h"
 #include "host/interfaces.h"
 #include "host/main2.h"
+#include "host/sub_form_proxy.h"
 
 namespace quorvel::host {
 
@@ -42,6 +44,8 @@ struct LibraryClass {
 // clang-format off
 const LibraryClass kClasses[] = {
     {&CLSID_Main2, {kNone, kNone, kNone}, make<host::Main2>},
+    {&CLSID_SubFormProxy, {kNone, kNone, kNone}, make<host::SubFormProxy>},
+    {&CLSID_Callback, {kNone, kNone, kNone}, make<host::Callback>},
     {&CLSID_OutputTemplateModel, {kNone, kNone, kNone}, make<ModelAdapter>},
     {&CLSID_OutputTemplateCitation, {kNone, kNone, kNone}, make<CitationAdapter>},
     {&CLSID_OutputTemplateAuthor, {0, 9, kNone}, make<AuthorAdapter>},

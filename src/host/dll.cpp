@@ -4,6 +4,7 @@
 
 #include <string_view>
 
+#include "forms/win/window.h"
 #include "host/classes.h"
 #include "host/com/class_factory.h"
 #include "host/com/dispatch_table.h"
@@ -12,6 +13,7 @@
 #include "host/interfaces.h"
 #include "host/main2.h"
 #include "host/start_up.h"
+#include "host/window/window_class.h"
 
 using namespace quorvel::host;
 
@@ -64,6 +66,8 @@ STDAPI DllCanUnloadNow() {
     if (Module::isKeptLoaded()) {
         shutDown();
         DispatchTable::releaseAll();
+        unregisterWindowClasses();
+        quorvel::forms::win::letGo();
     }
     return S_OK;
 }

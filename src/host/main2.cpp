@@ -7,24 +7,16 @@
 #include "host/adapters/model_adapter.h"
 #include "host/classes.h"
 #include "host/com/late_bound_object.h"
+#include "host/sub_form_proxy.h"
 
 namespace quorvel::host {
-
-namespace {
-
-/// The class is not part of this library yet.
-ComPtr<IDispatch> cannotCreate() {
-    throw RuntimeError(ErrorNumber::CannotCreateObject);
-}
-
-}  // namespace
 
 void Main2::lastOfThreadEnds() noexcept {
     VBWPROTECTOR::ofThisApartment().vbwExitThread();
 }
 
 STDMETHODIMP Main2::buildSubformProxy(IDispatch** result) {
-    return call(result, [&] { return procedure(*this, u"buildSubformProxy", kNoParameters, cannotCreate); });
+    return call(result, [&] { return procedure(*this, u"buildSubformProxy", kNoParameters, make<SubFormProxy>); });
 }
 
 STDMETHODIMP Main2::buildModelTemplate(IDispatch** result) {

@@ -82,11 +82,5 @@ TEST_F(Factory, BuildTakesItsCodeInAnyForm) {
     EXPECT_EQ(service.takenErrors(), L"449 Main2.build");
 }
 
-TEST_F(Factory, WhatIsNotThereYetIsAnEmptyReferenceToo) {
-    const LateBoundObject main = library.main2();
-    EXPECT_FALSE(objectOf(main.call(L"buildSubformProxy")));
-    EXPECT_EQ(service.takenErrors(), L"429 Main2.buildSubformProxy");
-}
-
 }  // namespace
 }  // namespace comtests

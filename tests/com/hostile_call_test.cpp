@@ -16,6 +16,10 @@ std::wstring lowerCase(std::wstring text) {
 void expectWorking(const LateBoundObject& object, const std::wstring& after) {
     if (idOf(object.dispatch(), L"build") != DISPID_UNKNOWN) {
         EXPECT_TRUE(objectOf(object.call(L"build", {kYear, static_cast<IDispatch*>(nullptr)})));
+    } else if (idOf(object.dispatch(), L"ShowForm") != DISPID_UNKNOWN) {
+        EXPECT_FALSE(booleanOf(object.call(L"ShowForm", {77}))) << after;
+    } else if (idOf(object.dispatch(), L"TooltipShow") != DISPID_UNKNOWN) {
+        EXPECT_EQ(textOf(object.call(L"WebsiteAddress", {L"spring"})), L"") << after;
     } else if (idOf(object.dispatch(), L"MergeFieldsWithModel") != DISPID_UNKNOWN) {
         const auto sink = makeObject<FormattedText>();
         const auto none = static_cast<IDispatch*>(nullptr);

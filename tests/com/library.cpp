@@ -16,6 +16,8 @@ Function entryPoint(HMODULE module, const char* name) {
 
 const std::vector<CreatableClass> kClasses = {
     {L"Main2", __uuidof(::Main2), __uuidof(_Main2), {}},
+    {L"SubFormProxy", __uuidof(::SubFormProxy), __uuidof(_SubFormProxy), {}},
+    {L"Callback", __uuidof(::Callback), __uuidof(_Callback), {}},
     {L"OutputTemplateModel", __uuidof(::OutputTemplateModel), __uuidof(_OutputTemplateModel), {}},
     {L"OutputTemplateCitation", __uuidof(::OutputTemplateCitation), __uuidof(_OutputTemplateCitation), {}},
     {L"OutputTemplateAuthor", __uuidof(::OutputTemplateAuthor), __uuidof(_OutputTemplateAuthor), {0, 9}},

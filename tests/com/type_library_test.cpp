@@ -55,6 +55,7 @@ std::wstring typeName(const TYPEDESC& type, const std::wstring& name) {
         case VT_PTR: return type.lptdesc->vt == VT_USERDEFINED ? L"object" : typeName(*type.lptdesc, {}) + L"&";
         case VT_I2: return L"integer";
         case VT_I4: return L"long";
+        case VT_R4: return L"single";
         case VT_BSTR: return L"text";
         case VT_BOOL: return L"boolean";
         case VT_VARIANT: return L"variant";
@@ -125,18 +126,30 @@ private:
         EXPECT_EQ(info->GetRefTypeInfo(reference, face.put()), S_OK);
         EXPECT_NE(documented.help, L"");
         const bool isCreatable = (attributes.wTypeFlags & TYPEFLAG_FCANCREATE) != 0;
-        mLines.push_back((isCreatable ? L"class " : L"class of build ") + documented.name + L" " +
-                         textOfGuid(attributes.guid) + L" " + documentation(face.get()).name);
+        std::wstring line = (isCreatable ? L"class " : L"class of build ") + documented.name + L" " +
+                            textOfGuid(attributes.guid) + L" " + documentation(face.get()).name;
+        for (UINT i = 1; i < attributes.cImplTypes; ++i) {
+            INT flags = 0;
+            EXPECT_EQ(info->GetImplTypeFlags(i, &flags), S_OK);
+            EXPECT_EQ(flags, IMPLTYPEFLAG_FDEFAULT | IMPLTYPEFLAG_FSOURCE);
+            EXPECT_EQ(info->GetRefTypeOfImplType(i, &reference), S_OK);
+            EXPECT_EQ(info->GetRefTypeInfo(reference, face.put()), S_OK);
+            line += L" raises " + documentation(face.get()).name;
+        }
+        mLines.push_back(line);
     }
     void addInterface(ITypeInfo* info, const TYPEATTR& attributes) {
         const Documentation documented = documentation(info);
-        EXPECT_NE(attributes.wTypeFlags & TYPEFLAG_FDUAL, 0);
         EXPECT_NE(documented.help, L"");
-        mLines.push_back(L"interface " + documented.name + L" " + textOfGuid(attributes.guid));
-        HREFTYPE reference = 0;
-        ComPointer<ITypeInfo> vtable;
-        EXPECT_EQ(info->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference), S_OK);
-        EXPECT_EQ(info->GetRefTypeInfo(reference, vtable.put()), S_OK);
+        // Events have no vtable.
+        const bool isDual = (attributes.wTypeFlags & TYPEFLAG_FDUAL) != 0;
+        mLines.push_back((isDual ? L"interface " : L"events ") + documented.name + L" " + textOfGuid(attributes.guid));
+        ComPointer<ITypeInfo> vtable(info);
+        if (isDual) {
+            HREFTYPE reference = 0;
+            EXPECT_EQ(info->GetRefTypeOfImplType(static_cast<UINT>(-1), &reference), S_OK);
+            EXPECT_EQ(info->GetRefTypeInfo(reference, vtable.put()), S_OK);
+        }
         FUNCDESC* function = nullptr;
         for (UINT i = 0; SUCCEEDED(vtable->GetFuncDesc(i, &function)); ++i) {
             if (function->memid < 0x60000000) {

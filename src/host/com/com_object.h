@@ -60,6 +60,9 @@ inline void store(IDispatch** target, ComPtr<IDispatch> value) {
 inline void store(SHORT* target, std::int16_t value) {
     *target = value;
 }
+inline void store(INT_PTR* target, std::intptr_t value) {
+    *target = value;
+}
 inline void store(VARIANT* target, Variant value) {
     *target = value.detach();
 }
@@ -97,8 +100,9 @@ private:
 /// One of the library's objects as the host sees it. An adapter derives from it with its generated
 /// interface and forwards each member in one line through `call`; late binding comes from the type
 /// library. No member returns anything but S_OK.
-template <class Interface>
-class ComObject : public Interface {
+/// @param Further the interfaces of the platform that the object answers besides
+template <class Interface, class... Further>
+class ComObject : public Interface, public Further... {
 public:
     ComObject(const ComObject&) = delete;
     ComObject& operator=(const ComObject&) = delete;
@@ -113,7 +117,8 @@ public:
         }
         const bool isOurs = iid == IID_IUnknown || iid == IID_IDispatch || iid == __uuidof(Interface);
         *object = isOurs ? static_cast<Interface*>(this) : nullptr;
-        if (!isOurs) {
+        ((iid == __uuidof(Further) ? void(*object = static_cast<Further*>(this)) : void()), ...);
+        if (*object == nullptr) {
             return E_NOINTERFACE;
         }
         AddRef();
@@ -163,7 +168,7 @@ public:
         if (parameters == nullptr) {
             return DISP_E_MEMBERNOTFOUND;
         }
-        const HostCall bracket(this);
+        const HostCall bracket(static_cast<Interface*>(this));
         try {
             return mTable->invoke(this, id, flags, *parameters, result);
         } catch (...) {
@@ -182,7 +187,7 @@ protected:
     /// The body of a member without result.
     template <class Body>
     HRESULT call(Body&& body) noexcept {
-        const HostCall bracket(this);
+        const HostCall bracket(static_cast<Interface*>(this));
         if (bracket.isRefused()) {
             return S_OK;
         }

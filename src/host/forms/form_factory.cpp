@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "forms/forms.h"
+#include "forms/win/window.h"
 #include "host/forms/form_object.h"
-#include "host/forms/no_view.h"
 
 namespace quorvel::host {
 
@@ -13,7 +13,7 @@ ComPtr<IDispatch> makeForm(std::int16_t whichType) {
     if (!form) {
         return {};
     }
-    form->attach(std::make_shared<NoView>());
+    form->attach(forms::win::makeView(*form));
     return ComPtr<IDispatch>(new FormObject(form));
 }
 

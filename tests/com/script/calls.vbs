@@ -65,7 +65,7 @@ Check "type name", TypeName(year), "_OutputTemplateYear"
 Check "boolean", VarType(year.Supports(0)), vbBoolean
 Check "long", VarType(year.yearType), vbLong
 Check "Nothing of an unknown code", main.build(18, formatted) Is Nothing, True
-Check "another Nothing", main.buildSubformProxy Is Nothing, True
+Check "a proxy", TypeName(main.buildSubformProxy), "_SubFormProxy"
 
 year.ToFormattedString formatted
 Check "sink", formatted.Text, "1993"
