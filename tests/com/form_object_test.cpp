@@ -279,6 +279,9 @@ TEST_F(FormObjects, AreThePlacesOfWindowsInTwips) {
     EXPECT_EQ(year.text(L"Width"), L"6000");
     EXPECT_GT(year.get(L"Year.Width").get().fltVal, 0);
 
+    EXPECT_NE(year.text(L"hwnd"), L"0");
+    EXPECT_NE(year.text(L"Year.hwnd"), year.text(L"hwnd"));
+
     // It is to be seen when somebody says so.
     const auto owner = makeObject<DispatchObject>();
     year.call(L"Show", {0, owner.get()});

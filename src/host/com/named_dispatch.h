@@ -49,8 +49,10 @@ private:
     std::span<const VARIANTARG> mReversed;
 };
 
-/// The type of a window handle.
-inline constexpr VARTYPE kHandleType = sizeof(HWND) == sizeof(LONGLONG) ? VT_I8 : VT_I4;
+/// A window handle for callers of whom scripts are some: they know no 64-bit numbers, and of a handle 32 bits count.
+inline Variant handleVariant(std::intptr_t handle) {
+    return Variant(static_cast<std::int32_t>(handle));
+}
 
 /// What callers may do with a member.
 struct NamedMember {

@@ -114,7 +114,7 @@ constexpr Row kMembers[] = {
     of(kEvery, Member::property(u"Index", VT_I2, [](Target& t, const Arguments&) { return Variant(t.control.index()); })),
     of(kEvery, Member::property(u"Tag", VT_BSTR, [](Target& t, const Arguments&) { return Variant(TextView(t.control.tag())); },
                     [](Target& t, const Arguments& a) { t.control.setTag(a.text(a.newValue())); })),
-    of(kEvery, Member::property(u"hwnd", kHandleType, [](Target& t, const Arguments&) { return Variant(t.form.view().handle(t.control)); })),
+    of(kEvery, Member::property(u"hwnd", VT_I4, [](Target& t, const Arguments&) { return handleVariant(t.form.view().handle(t.control)); })),
     of(kEvery, Member::property(u"Left", VT_R4, [](Target& t, const Arguments&) { return Variant(t.control.place().left); })),
     of(kEvery, Member::property(u"Top", VT_R4, [](Target& t, const Arguments&) { return Variant(t.control.place().top); })),
     of(kEvery, Member::property(u"Width", VT_R4, [](Target& t, const Arguments&) { return Variant(t.control.place().width); })),

@@ -120,7 +120,7 @@ constexpr Member kMemberRows[] = {
     Member::method(u"Unload", 0, 0, run<&Form::Unload>),
     Member::method(u"Move", 1, 4, move),
     Member::property(u"Name", VT_BSTR, [](FormObject& o, const Arguments&) { return Variant(o.form().className()); }),
-    Member::property(u"hwnd", kHandleType, [](FormObject& o, const Arguments&) { return Variant(o.form().hwnd()); }),
+    Member::property(u"hwnd", VT_I4, [](FormObject& o, const Arguments&) { return handleVariant(o.form().hwnd()); }),
     Member::property(u"Left", VT_R4, placeOf<&Rectangle::left>, setPlace<&Rectangle::left>),
     Member::property(u"Top", VT_R4, placeOf<&Rectangle::top>, setPlace<&Rectangle::top>),
     Member::property(u"Width", VT_R4, placeOf<&Rectangle::width>, setPlace<&Rectangle::width>),
