@@ -401,6 +401,33 @@ TEST_F(FormObjects, WhatOutlivesAFormIsEmpty) {
     EXPECT_EQ(takenErrors(), L"91 YearForm.Text[Get]");
 }
 
+TEST_F(FormObjects, MayBeLetGoInTheMiddleOfWhatTheyDo) {
+    // By whom the form is clicked, or closed; and in which of the calls to the host its last reference goes.
+    for (const wchar_t* const member : {L"OkButton", L"CancelButton", L"Unload"}) {
+        for (const std::size_t at : {1U, 2U}) {
+            HostedForm year = open(kYear, L"1990");
+            const bool isButton = std::wstring_view(member) != L"Unload";
+            const LateBoundObject button = isButton ? year.object(member) : LateBoundObject();
+            IDispatch* const form = year.dispatch();
+            const DISPID unload = idOf(form, L"Unload");
+            std::size_t calls = 0;
+            onTold = [&] {
+                if (++calls == at) year = HostedForm();
+            };
+            if (isButton) {
+                button.call(L"Click");
+            } else {
+                EXPECT_EQ(invoke(form, unload, DISPATCH_METHOD, {}, nullptr), S_OK);
+            }
+            onTold = nullptr;
+            const std::wstring last = L"Terminate|1";
+            EXPECT_EQ(takenTold(),
+                      std::wstring_view(member) == L"OkButton" ? L"setParentWidgetsValue|1990|; " + last : last);
+            EXPECT_EQ(takenErrors(), L"");
+        }
+    }
+}
+
 TEST_F(FormObjects, AreThoseOfTheirTypeCodes) {
     for (const std::int16_t code : {std::int16_t{-1}, std::int16_t{19}, std::int16_t{300}}) {
         EXPECT_FALSE(host::makeForm(code)) << code;

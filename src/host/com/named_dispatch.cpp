@@ -79,7 +79,11 @@ STDMETHODIMP NamedDispatch::QueryInterface(REFIID iid, void** object) {
     }
     *object = nullptr;
     if (iid == kElementAccess) {
-        *object = elementAccess().detach();
+        try {
+            *object = elementAccess().detach();
+        } catch (...) {
+            return E_OUTOFMEMORY;
+        }
     } else if (iid == IID_IUnknown || iid == IID_IDispatch) {
         *object = static_cast<IDispatch*>(this);
         AddRef();
