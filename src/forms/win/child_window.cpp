@@ -261,6 +261,23 @@ bool ChildWindow::shallBeSeen() const {
     return mControl.isShown() && (mControl.kind() != ControlKind::Frame || !mControl.caption().empty());
 }
 
+/// A combo box is as high as its font, unless it is told the height of the boxes beside it.
+void ChildWindow::fitToLine(const Density& density) const {
+    constexpr WPARAM kField = static_cast<WPARAM>(-1);
+    const RECT wanted = density.pixels(mControl.place());
+    // The second time mends what the first one rounded.
+    for (int round = 0; round < 2; ++round) {
+        RECT closed = {};
+        GetWindowRect(mHandle, &closed);
+        const LRESULT field = SendMessageW(mHandle, CB_GETITEMHEIGHT, kField, 0);
+        const LRESULT fitting = field + (wanted.bottom - wanted.top) - (closed.bottom - closed.top);
+        if (fitting <= 0 || fitting == field) {
+            return;
+        }
+        SendMessageW(mHandle, CB_SETITEMHEIGHT, kField, fitting);
+    }
+}
+
 bool ChildWindow::needsArranging(const Density& density) const {
     const RECT place = rectangle(density);
     return mHandle != nullptr &&
@@ -268,6 +285,9 @@ bool ChildWindow::needsArranging(const Density& density) const {
 }
 
 HDWP ChildWindow::arrange(const Density& density, HDWP batch) {
+    if (mControl.kind() == ControlKind::ComboBox) {
+        fitToLine(density);
+    }
     mArrangement = {rectangle(density), shallBeSeen()};
     const RECT& place = mArrangement.place;
     const int width = place.right - place.left;
@@ -290,9 +310,14 @@ void ChildWindow::setFont(const Font& font, const Density& density) {
         return;
     }
     const Writing writing(*this);
-    SendMessageW(mHandle, WM_SETFONT, reinterpret_cast<WPARAM>(font.handle()), TRUE);
-    if (mControl.kind() == ControlKind::RichText) {
-        rich_text::setDensity(mHandle, density);
+    if (mControl.kind() != ControlKind::RichText) {
+        SendMessageW(mHandle, WM_SETFONT, reinterpret_cast<WPARAM>(font.handle()), TRUE);
+        return;
+    }
+    rich_text::setDensity(mHandle, density);
+    if (!mControl.rtf().empty()) {
+        // What was measured before does not change with the density everywhere.
+        rich_text::show(mHandle, mControl.rtf(), mControl.row().isReadOnly);
     }
 }
 

@@ -114,6 +114,8 @@ private:
     std::deque<Control>* controls() const;
 
     std::weak_ptr<Form> mForm;
+    /// Itself, while the window is being destroyed.
+    std::shared_ptr<FormWindow> mKeptByWindow;
     HWND mHandle = nullptr;
     Density mDensity;
     std::shared_ptr<const Font> mFont;

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "forms/win/font.h"
 #include "forms/win/painting.h"
 #include "forms/win/wide.h"
 
@@ -93,10 +94,13 @@ void setSelection(HWND box, const Selection& selection) {
 }
 
 void setDensity(HWND box, const Density& density) {
-    const UINT screen = Density::ofScreen().dotsPerInch();
+    const Density screen = Density::ofScreen();
+    // It takes over what the font is like, not the font.
+    SendMessageW(box, WM_SETFONT, reinterpret_cast<WPARAM>(Font::of(screen)->handle()), FALSE);
     // 0 of 0 is the usual size.
-    const bool isUsual = density.dotsPerInch() == screen;
-    SendMessageW(box, EM_SETZOOM, isUsual ? 0 : density.dotsPerInch(), isUsual ? 0 : static_cast<LPARAM>(screen));
+    const bool isUsual = density == screen;
+    SendMessageW(box, EM_SETZOOM, isUsual ? 0 : density.dotsPerInch(),
+                 isUsual ? 0 : static_cast<LPARAM>(screen.dotsPerInch()));
 }
 
 }  // namespace quorvel::forms::win::rich_text
