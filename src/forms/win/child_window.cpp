@@ -101,8 +101,13 @@ void ChildWindow::create(HWND form, int number, const Font& font, const Density&
     if (windowClass == nullptr) {
         return;
     }
-    mHandle = CreateWindowExW(made.extendedStyle, windowClass, L"", styleOf(mControl.row()), 0, 0, 0, 0, form,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(number)), thisModule(), nullptr);
+    mArrangement = {rectangle(density), shallBeSeen()};
+    const RECT& place = mArrangement.place;
+    mHandle = CreateWindowExW(
+        made.extendedStyle, windowClass, wide(mControl.caption()),
+        styleOf(mControl.row()) | (mArrangement.isSeen ? WS_VISIBLE : 0U) | (mControl.isEnabled() ? 0U : WS_DISABLED),
+        place.left, place.top, place.right - place.left, place.bottom - place.top, form,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(number)), thisModule(), nullptr);
     if (mHandle == nullptr) {
         return;
     }
@@ -133,8 +138,11 @@ void ChildWindow::create(HWND form, int number, const Font& font, const Density&
         default: break;
     }
     setFont(font, density);
-    for (const Aspect aspect : {Aspect::Caption, Aspect::Items, Aspect::Text, Aspect::Value, Aspect::Enabled}) {
+    for (const Aspect aspect : {Aspect::Items, Aspect::Text, Aspect::Value}) {
         show(aspect);
+    }
+    if (kind == ControlKind::ComboBox) {
+        arrange(density, nullptr);
     }
 }
 
@@ -170,7 +178,8 @@ void ChildWindow::show(Aspect aspect) {
             break;
         case Aspect::Text: showText(); break;
         case Aspect::Value:
-            if (kind == ControlKind::OptionButton || kind == ControlKind::CheckBox) {
+            if ((kind == ControlKind::OptionButton || kind == ControlKind::CheckBox) &&
+                mControl.value() != (SendMessageW(mHandle, BM_GETCHECK, 0, 0) == BST_CHECKED)) {
                 SendMessageW(mHandle, BM_SETCHECK, mControl.value() ? BST_CHECKED : BST_UNCHECKED, 0);
             }
             break;
@@ -311,7 +320,7 @@ void ChildWindow::setFont(const Font& font, const Density& density) {
     }
     const Writing writing(*this);
     if (mControl.kind() != ControlKind::RichText) {
-        SendMessageW(mHandle, WM_SETFONT, reinterpret_cast<WPARAM>(font.handle()), TRUE);
+        SendMessageW(mHandle, WM_SETFONT, reinterpret_cast<WPARAM>(font.handle()), FALSE);
         return;
     }
     rich_text::setDensity(mHandle, density);

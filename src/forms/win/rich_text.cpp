@@ -97,10 +97,15 @@ void setDensity(HWND box, const Density& density) {
     const Density screen = Density::ofScreen();
     // It takes over what the font is like, not the font.
     SendMessageW(box, WM_SETFONT, reinterpret_cast<WPARAM>(Font::of(screen)->handle()), FALSE);
-    // 0 of 0 is the usual size.
+    UINT shown = 0;
+    UINT whole = 0;
+    SendMessageW(box, EM_GETZOOM, reinterpret_cast<WPARAM>(&shown), reinterpret_cast<LPARAM>(&whole));
     const bool isUsual = density == screen;
-    SendMessageW(box, EM_SETZOOM, isUsual ? 0 : density.dotsPerInch(),
-                 isUsual ? 0 : static_cast<LPARAM>(screen.dotsPerInch()));
+    if (!isUsual || shown != whole) {
+        // 0 of 0 is the usual size.
+        SendMessageW(box, EM_SETZOOM, isUsual ? 0 : density.dotsPerInch(),
+                     isUsual ? 0 : static_cast<LPARAM>(screen.dotsPerInch()));
+    }
 }
 
 }  // namespace quorvel::forms::win::rich_text
