@@ -51,14 +51,14 @@ public:
         bool isFirst = true;
         for (auto row = mControls.begin(); row != mControls.end();) {
             const std::int16_t line = row->row().place.line;
-            if (row->frame() != frame || isBottomPane(*row)) {
+            if (row->frame() != frame || !standsInLine(*row)) {
                 ++row;
                 continue;
             }
             // A line's rows stand together, with what their frames hold between them.
             const auto first = row;
             row = std::find_if(first, mControls.end(), [&](const Control& control) {
-                return control.frame() == frame && control.row().place.line != line;
+                return control.frame() == frame && standsInLine(control) && control.row().place.line != line;
             });
             const Twips height = heightOfLine(frame, line);
             if (height == 0) {
@@ -71,16 +71,32 @@ public:
         return bottom;
     }
 
+    /// The arrows at the right end of a box, wherever that stands.
+    void placeBesideBuddy(Control& upDown) {
+        const auto buddy = std::find_if(mControls.begin(), mControls.end(), [&](const Control& control) {
+            return !upDown.row().buddy.empty() && control.is({upDown.row().buddy, upDown.index()});
+        });
+        if (buddy != mControls.end()) {
+            const Rectangle& box = buddy->place();
+            upDown.setPlace({box.left + box.width, box.top, horizontal(kUpDownWidth), box.height});
+        }
+    }
+
     Twips vertical(std::int32_t units) const { return static_cast<Twips>(units) * mUnits.vertical; }
     Twips horizontal(std::int32_t units) const { return static_cast<Twips>(units) * mUnits.horizontal; }
 
     static bool isBottomPane(const Control& control) { return control.name() == kBottomPane; }
 
 private:
+    /// The pane stands by itself, and arrows stand beside their boxes.
+    static bool standsInLine(const Control& control) {
+        return !isBottomPane(control) && control.kind() != ControlKind::UpDown;
+    }
+
     template <class Visit>
     void forEachOfLine(const Control* frame, std::int16_t line, Visit visit) {
         for (Control& control : mControls) {
-            if (control.frame() == frame && control.row().place.line == line && !isBottomPane(control) &&
+            if (control.frame() == frame && control.row().place.line == line && standsInLine(control) &&
                 control.isShown()) {
                 visit(control);
             }
@@ -117,7 +133,6 @@ private:
                     {left + horizontal(control.row().place.x), top + (height - own) / 2, widthOf(control), own});
             }
         });
-        forEachOfLine(frame, line, [&](Control& control) { placeBesideBuddy(control); });
         return bottom;
     }
 
@@ -130,16 +145,6 @@ private:
         const Twips bottom = end + vertical(hasBorder ? kFrameBottom : 0);
         control.setPlace({inner, top, widthOf(control), bottom - top});
         return bottom;
-    }
-
-    void placeBesideBuddy(Control& upDown) {
-        const auto buddy = std::find_if(mControls.begin(), mControls.end(), [&](const Control& control) {
-            return !upDown.row().buddy.empty() && control.is({upDown.row().buddy, upDown.index()});
-        });
-        if (buddy != mControls.end()) {
-            const Rectangle& box = buddy->place();
-            upDown.setPlace({box.left + box.width, box.top, horizontal(kUpDownWidth), box.height});
-        }
     }
 
     bool hasContent(const Control& frame) const {
@@ -167,6 +172,11 @@ Control* layOutControls(std::deque<Control>& controls, const DialogUnits& units,
                    (lowest == nullptr ||
                     control.place().top + control.place().height > lowest->place().top + lowest->place().height)) {
             lowest = &control;
+        }
+    }
+    for (Control& control : controls) {
+        if (control.kind() == ControlKind::UpDown) {
+            pass.placeBesideBuddy(control);
         }
     }
     return lowest;

@@ -101,8 +101,13 @@ void ChildWindow::create(HWND form, int number, const Font& font, const Density&
     if (windowClass == nullptr) {
         return;
     }
-    mHandle = CreateWindowExW(made.extendedStyle, windowClass, L"", styleOf(mControl.row()), 0, 0, 0, 0, form,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(number)), thisModule(), nullptr);
+    mArrangement = {rectangle(density), shallBeSeen()};
+    const RECT& place = mArrangement.place;
+    mHandle = CreateWindowExW(
+        made.extendedStyle, windowClass, wide(mControl.caption()),
+        styleOf(mControl.row()) | (mArrangement.isSeen ? WS_VISIBLE : 0U) | (mControl.isEnabled() ? 0U : WS_DISABLED),
+        place.left, place.top, place.right - place.left, place.bottom - place.top, form,
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(number)), thisModule(), nullptr);
     if (mHandle == nullptr) {
         return;
     }
@@ -133,8 +138,11 @@ void ChildWindow::create(HWND form, int number, const Font& font, const Density&
         default: break;
     }
     setFont(font, density);
-    for (const Aspect aspect : {Aspect::Caption, Aspect::Items, Aspect::Text, Aspect::Value, Aspect::Enabled}) {
+    for (const Aspect aspect : {Aspect::Items, Aspect::Text, Aspect::Value}) {
         show(aspect);
+    }
+    if (kind == ControlKind::ComboBox) {
+        arrange(density, nullptr);
     }
 }
 
@@ -170,7 +178,8 @@ void ChildWindow::show(Aspect aspect) {
             break;
         case Aspect::Text: showText(); break;
         case Aspect::Value:
-            if (kind == ControlKind::OptionButton || kind == ControlKind::CheckBox) {
+            if ((kind == ControlKind::OptionButton || kind == ControlKind::CheckBox) &&
+                mControl.value() != (SendMessageW(mHandle, BM_GETCHECK, 0, 0) == BST_CHECKED)) {
                 SendMessageW(mHandle, BM_SETCHECK, mControl.value() ? BST_CHECKED : BST_UNCHECKED, 0);
             }
             break;
@@ -261,6 +270,23 @@ bool ChildWindow::shallBeSeen() const {
     return mControl.isShown() && (mControl.kind() != ControlKind::Frame || !mControl.caption().empty());
 }
 
+/// A combo box is as high as its font, unless it is told the height of the boxes beside it.
+void ChildWindow::fitToLine(const Density& density) const {
+    constexpr WPARAM kField = static_cast<WPARAM>(-1);
+    const RECT wanted = density.pixels(mControl.place());
+    // The second time mends what the first one rounded.
+    for (int round = 0; round < 2; ++round) {
+        RECT closed = {};
+        GetWindowRect(mHandle, &closed);
+        const LRESULT field = SendMessageW(mHandle, CB_GETITEMHEIGHT, kField, 0);
+        const LRESULT fitting = field + (wanted.bottom - wanted.top) - (closed.bottom - closed.top);
+        if (fitting <= 0 || fitting == field) {
+            return;
+        }
+        SendMessageW(mHandle, CB_SETITEMHEIGHT, kField, fitting);
+    }
+}
+
 bool ChildWindow::needsArranging(const Density& density) const {
     const RECT place = rectangle(density);
     return mHandle != nullptr &&
@@ -268,6 +294,9 @@ bool ChildWindow::needsArranging(const Density& density) const {
 }
 
 HDWP ChildWindow::arrange(const Density& density, HDWP batch) {
+    if (mControl.kind() == ControlKind::ComboBox) {
+        fitToLine(density);
+    }
     mArrangement = {rectangle(density), shallBeSeen()};
     const RECT& place = mArrangement.place;
     const int width = place.right - place.left;
@@ -290,9 +319,14 @@ void ChildWindow::setFont(const Font& font, const Density& density) {
         return;
     }
     const Writing writing(*this);
-    SendMessageW(mHandle, WM_SETFONT, reinterpret_cast<WPARAM>(font.handle()), TRUE);
-    if (mControl.kind() == ControlKind::RichText) {
-        rich_text::setDensity(mHandle, density);
+    if (mControl.kind() != ControlKind::RichText) {
+        SendMessageW(mHandle, WM_SETFONT, reinterpret_cast<WPARAM>(font.handle()), FALSE);
+        return;
+    }
+    rich_text::setDensity(mHandle, density);
+    if (!mControl.rtf().empty()) {
+        // What was measured before does not change with the density everywhere.
+        rich_text::show(mHandle, mControl.rtf(), mControl.row().isReadOnly);
     }
 }
 

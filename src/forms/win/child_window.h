@@ -68,6 +68,7 @@ private:
     };
 
     RECT rectangle(const Density& density) const;
+    void fitToLine(const Density& density) const;
     void showText();
     void showItems();
 

@@ -86,18 +86,25 @@ void FormWindow::open() {
     mDensity = Density::of(mHandle);
     mFont = Font::of(mDensity);
     mAccessibility.emplace();
+    SendMessageW(mHandle, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
+}
+
+void FormWindow::makeChildren() {
+    const std::shared_ptr<Form> form = mForm.lock();
+    if (!form || mHandle == nullptr) {
+        return;
+    }
+    const VisualStyles styled;
     const Listener listener = {childProcedure, reinterpret_cast<DWORD_PTR>(this)};
     for (Control& control : form->controls()) {
         ChildWindow& child = mChildren.emplace_back(control);
         child.create(mHandle, static_cast<int>(mChildren.size()), *mFont, mDensity, listener);
-        arrange(child);
         if (!control.row().accessibleName.empty()) {
             mAccessibility->setName(child.box(), control.row().accessibleName);
         }
         aspectChanged(control, Aspect::ToolTip);
     }
     emphasizeOk();
-    SendMessageW(mHandle, WM_CHANGEUISTATE, MAKEWPARAM(UIS_INITIALIZE, 0), 0);
 }
 
 void FormWindow::close() {
@@ -170,6 +177,10 @@ void FormWindow::arrange(ChildWindow& child) {
 
 void FormWindow::endLayout() {
     if (--mLayouts > 0 || mIsClosed) {
+        return;
+    }
+    if (mChildren.empty()) {
+        makeChildren();
         return;
     }
     std::vector<ChildWindow*> moved;

@@ -26,7 +26,7 @@ public:
     explicit FormWindow(Form& form) : mForm(form.weak_from_this()) {}
     ~FormWindow() override { FormWindow::close(); }
 
-    /// Makes the windows, once.
+    /// Makes the window, once. Those of the controls are made with their first places.
     void open();
 
     /// Registers the class of the windows; false when that fails.
@@ -96,6 +96,7 @@ private:
 
     // --- Helpers.
 
+    void makeChildren();
     /// The form whose window it is; null for any other window.
     static FormWindow* of(HWND window);
     ChildWindow* find(const Control& control);
@@ -114,6 +115,8 @@ private:
     std::deque<Control>* controls() const;
 
     std::weak_ptr<Form> mForm;
+    /// Itself, while the window is being destroyed.
+    std::shared_ptr<FormWindow> mKeptByWindow;
     HWND mHandle = nullptr;
     Density mDensity;
     std::shared_ptr<const Font> mFont;

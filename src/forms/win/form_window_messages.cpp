@@ -3,6 +3,8 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include "forms/win/libraries.h"
+
 namespace quorvel::forms::win {
 
 namespace {
@@ -98,6 +100,8 @@ LRESULT FormWindow::receive(UINT message, WPARAM wParam, LPARAM lParam) {
             break;
         case WM_DESTROY:
             mIsBeingDestroyed = true;
+            // The form lets go of this object, but its windows go one after the other.
+            mKeptByWindow = shared_from_this();
             mKeyboard.reset();
             tell([](Form& form) { form.windowGone(); });
             return 0;
@@ -105,6 +109,7 @@ LRESULT FormWindow::receive(UINT message, WPARAM wParam, LPARAM lParam) {
             const HWND window = mHandle;
             SetWindowLongPtrW(window, GWLP_USERDATA, 0);
             mHandle = nullptr;
+            mKeptByWindow.reset();
             return DefWindowProcW(window, message, wParam, lParam);
         }
         default: break;
@@ -151,6 +156,10 @@ void FormWindow::hearBefore(ChildWindow& child, HWND window, UINT message) {
 
 void FormWindow::hearAfter(ChildWindow& child, HWND window, UINT message) {
     Control& control = child.control();
+    if (control.kind() == ControlKind::RichText &&
+        (message == WM_NCPAINT || message == WM_SETFOCUS || message == WM_KILLFOCUS || message == WM_ENABLE)) {
+        drawStyledBorder(window);
+    }
     switch (message) {
         case WM_SETFOCUS:
             if (window != child.box()) {

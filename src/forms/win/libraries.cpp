@@ -1,9 +1,11 @@
 #include "forms/win/libraries.h"
 
-#include <commctrl.h>
+#include <uxtheme.h>
+#include <vsstyle.h>
 
 #include <mutex>
 #include <string>
+#include <utility>
 
 #include "forms/win/resources.h"
 
@@ -35,8 +37,22 @@ HMODULE loadFromSystem(const wchar_t* file) {
     return LoadLibraryW((path + L'\\' + file).c_str());
 }
 
+/// What is used of the visual styles, which systems may lack.
+struct Themes {
+    using Open = HTHEME(WINAPI*)(HWND, LPCWSTR);
+    using Draw = HRESULT(WINAPI*)(HTHEME, HDC, int, int, LPCRECT, LPCRECT);
+    using Close = HRESULT(WINAPI*)(HTHEME);
+
+    HMODULE library = nullptr;
+    Open open = nullptr;
+    Draw draw = nullptr;
+    Close close = nullptr;
+};
+
 struct Libraries {
     std::mutex mutex;
+    bool areThemesWanted = true;
+    Themes themes;
     HMODULE richText = nullptr;
     const wchar_t* richTextClass = nullptr;
     bool isContextWanted = true;
@@ -64,6 +80,27 @@ HANDLE activationContext() {
     return loaded.context;
 }
 
+template <class Function>
+Function functionOf(HMODULE library, const char* name) {
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+}
+
+Themes themes() {
+    Libraries& loaded = libraries();
+    const std::scoped_lock lock(loaded.mutex);
+    if (std::exchange(loaded.areThemesWanted, false)) {
+        Themes& found = loaded.themes;
+        found.library = loadFromSystem(L"uxtheme.dll");
+        if (found.library != nullptr) {
+            found.open = functionOf<Themes::Open>(found.library, "OpenThemeData");
+            found.draw = functionOf<Themes::Draw>(found.library, "DrawThemeBackground");
+            found.close = functionOf<Themes::Close>(found.library, "CloseThemeData");
+        }
+    }
+    const Themes& found = loaded.themes;
+    return found.open != nullptr && found.draw != nullptr && found.close != nullptr ? found : Themes();
+}
+
 }  // namespace
 
 HINSTANCE thisModule() {
@@ -80,6 +117,28 @@ const wchar_t* richTextClass() {
         }
     }
     return loaded.richTextClass;
+}
+
+void drawStyledBorder(HWND window) {
+    const Themes styles = themes();
+    const HTHEME theme = styles.open != nullptr ? styles.open(window, VSCLASS_EDIT) : nullptr;
+    if (theme == nullptr) {
+        return;
+    }
+    if (const HDC canvas = GetWindowDC(window); canvas != nullptr) {
+        RECT place = {};
+        GetWindowRect(window, &place);
+        OffsetRect(&place, -place.left, -place.top);
+        RECT inner = place;
+        InflateRect(&inner, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+        ExcludeClipRect(canvas, inner.left, inner.top, inner.right, inner.bottom);
+        const int state = IsWindowEnabled(window) == FALSE ? ETS_DISABLED
+                          : GetFocus() == window           ? ETS_FOCUSED
+                                                           : ETS_NORMAL;
+        styles.draw(theme, canvas, EP_EDITTEXT, state, &place, nullptr);
+        ReleaseDC(window, canvas);
+    }
+    styles.close(theme);
 }
 
 VisualStyles::VisualStyles() {
@@ -101,6 +160,11 @@ void releaseLibraries() {
         loaded.richText = nullptr;
         loaded.richTextClass = nullptr;
     }
+    if (loaded.themes.library != nullptr) {
+        FreeLibrary(loaded.themes.library);
+        loaded.themes = {};
+    }
+    loaded.areThemesWanted = true;
     if (loaded.context != INVALID_HANDLE_VALUE) {
         ReleaseActCtx(loaded.context);
         loaded.context = INVALID_HANDLE_VALUE;

@@ -10,6 +10,10 @@ HINSTANCE thisModule();
 /// The class of the windows for rich text: the platform's newest one that is there; null where there is none.
 const wchar_t* richTextClass();
 
+/// Draws the border that the visual styles give boxes, round a window that has a sunken one of its own; nothing where
+/// there are no visual styles.
+void drawStyledBorder(HWND window);
+
 /// In its scope windows are made, and messages shown, with the visual styles of the desktop, whether the host's program
 /// is made for them or not. The host's own choice is back behind it; where there are no visual styles, nothing happens.
 class VisualStyles {

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "forms/win/font.h"
 #include "forms/win/painting.h"
 #include "forms/win/wide.h"
 
@@ -93,10 +94,18 @@ void setSelection(HWND box, const Selection& selection) {
 }
 
 void setDensity(HWND box, const Density& density) {
-    const UINT screen = Density::ofScreen().dotsPerInch();
-    // 0 of 0 is the usual size.
-    const bool isUsual = density.dotsPerInch() == screen;
-    SendMessageW(box, EM_SETZOOM, isUsual ? 0 : density.dotsPerInch(), isUsual ? 0 : static_cast<LPARAM>(screen));
+    const Density screen = Density::ofScreen();
+    // It takes over what the font is like, not the font.
+    SendMessageW(box, WM_SETFONT, reinterpret_cast<WPARAM>(Font::of(screen)->handle()), FALSE);
+    UINT shown = 0;
+    UINT whole = 0;
+    SendMessageW(box, EM_GETZOOM, reinterpret_cast<WPARAM>(&shown), reinterpret_cast<LPARAM>(&whole));
+    const bool isUsual = density == screen;
+    if (!isUsual || shown != whole) {
+        // 0 of 0 is the usual size.
+        SendMessageW(box, EM_SETZOOM, isUsual ? 0 : density.dotsPerInch(),
+                     isUsual ? 0 : static_cast<LPARAM>(screen.dotsPerInch()));
+    }
 }
 
 }  // namespace quorvel::forms::win::rich_text

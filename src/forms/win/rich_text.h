@@ -22,7 +22,8 @@ Text plainText(HWND box);
 Selection selection(HWND box);
 void setSelection(HWND box, const Selection& selection);
 
-/// Documents state sizes in points, for which the window takes the screen's density.
+/// Gives it the system's message font and the density of its form: sizes are stated in points, for which the window
+/// takes the screen's density.
 void setDensity(HWND box, const Density& density);
 
 }  // namespace quorvel::forms::win::rich_text
