@@ -191,7 +191,7 @@ SubFormProxy::FormRef SubFormProxy::initForm(const FormRequest& request) {
                       {u"icon", reported(request.icon)},
                       {u"parentForm", reported(request.parentForm)}},
                      [&]() -> FormRef {
-                         const FormRef form = buildForm(request.type);
+                         FormRef form = buildForm(request.type);
                          if (!form) {
                              return nullptr;
                          }
@@ -220,7 +220,7 @@ SubFormProxy::FormRef SubFormProxy::buildForm(std::int16_t whichType) {
             return nullptr;
         }
         const auto ticket = std::make_shared<FormTicket>();
-        const auto form = std::make_shared<ShownForm>(whichType, object.get(), ticket, listenedCallback(ticket));
+        auto form = std::make_shared<ShownForm>(whichType, object.get(), ticket, listenedCallback(ticket));
         if (form->isForeign()) {
             mSearchTicket = ticket;
         }
