@@ -97,6 +97,15 @@ TEST_F(Proxy, WithoutAParentThereIsNoOwner) {
     EXPECT_EQ(service.takenErrors(), L"");
 }
 
+TEST_F(Proxy, AWindowOfSomebodyElseIsNotWatched) {
+    stage.answers[L"parent.hWnd"] =
+        Variant(static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(GetDesktopWindow())));
+    const auto form = showNew(kEditor);
+    EXPECT_EQ(service.takenErrors(), L"440 SubFormProxy.initForm");
+    stage.windows[form.get()]->moveTo(5, 5);
+    EXPECT_EQ(taken(), kPlacedForItself);
+}
+
 TEST_F(Proxy, TheSearchFormIsUsedAgainAndForgottenForAnother) {
     const auto form = showNew(kSearch);
     EXPECT_TRUE(show(kSearchForm));
