@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <span>
 
 #include "core/procedure.h"
 #include "host/com/automation_error.h"
@@ -55,9 +56,9 @@ private:
     short* mTarget;
 };
 
-using Arguments = std::initializer_list<VARIANT>;
+using Arguments = std::span<const VARIANT>;
 
-/// One attempt to tell a listener; frees what it says about its failure with the error.
+/// One attempt to tell a listener.
 HRESULT tell(IDispatch* listener, CallbackEvent event, Arguments arguments, EXCEPINFO& exception) {
     std::array<VARIANT, kMostArguments> reversed{};
     std::reverse_copy(arguments.begin(), arguments.end(), reversed.begin());
@@ -88,17 +89,16 @@ void assign(const VARIANT& reference, const VARIANT& value) {
 /// The same with variants that hold the values, as scripting engines want it.
 HRESULT tellInVariants(IDispatch* listener, CallbackEvent event, Arguments arguments, EXCEPINFO& exception) {
     std::array<Variant, kMostArguments> values;
+    std::array<VARIANT, kMostArguments> references{};
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (FAILED(VariantCopyInd(&values[i], const_cast<VARIANT*>(&arguments.begin()[i])))) {
+        if (FAILED(VariantCopyInd(&values[i], const_cast<VARIANT*>(&arguments[i])))) {
             return E_OUTOFMEMORY;
         }
+        references[i] = byReference(VT_VARIANT, &values[i]);
     }
-    const std::array<VARIANT, kMostArguments> references = {byReference(VT_VARIANT, &values[0]),
-                                                            byReference(VT_VARIANT, &values[1])};
-    const HRESULT outcome = arguments.size() == 1 ? tell(listener, event, {references[0]}, exception)
-                                                  : tell(listener, event, {references[0], references[1]}, exception);
+    const HRESULT outcome = tell(listener, event, Arguments(references).first(arguments.size()), exception);
     for (std::size_t i = 0; SUCCEEDED(outcome) && i < arguments.size(); ++i) {
-        assign(arguments.begin()[i], values[i]);
+        assign(arguments[i], values[i]);
     }
     return outcome;
 }
@@ -116,7 +116,7 @@ bool isNotHandled(HRESULT outcome) {
 void deliver(IDispatch* listener, CallbackEvent event, Arguments arguments) {
     EXCEPINFO exception = {};
     HRESULT outcome = tell(listener, event, arguments, exception);
-    if (refusesTypes(outcome) && arguments.size() > 0) {
+    if (refusesTypes(outcome) && !arguments.empty()) {
         outcome = tellInVariants(listener, event, arguments, exception);
     }
     if (FAILED(outcome) && !isNotHandled(outcome)) {
@@ -228,7 +228,7 @@ void Callback::raise(const Name& name, const ParameterList& parameters, Callback
                 continue;
             }
             try {
-                deliver(listener.object.get(), event, arguments);
+                deliver(listener.object.get(), event, {arguments.begin(), arguments.size()});
             } catch (...) {
                 reportCurrentException(*this, name);
             }

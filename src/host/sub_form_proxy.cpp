@@ -191,7 +191,7 @@ SubFormProxy::FormRef SubFormProxy::initForm(const FormRequest& request) {
                       {u"icon", reported(request.icon)},
                       {u"parentForm", reported(request.parentForm)}},
                      [&]() -> FormRef {
-                         const FormRef form = buildForm(request.type);
+                         FormRef form = buildForm(request.type);
                          if (!form) {
                              return nullptr;
                          }
@@ -220,7 +220,7 @@ SubFormProxy::FormRef SubFormProxy::buildForm(std::int16_t whichType) {
             return nullptr;
         }
         const auto ticket = std::make_shared<FormTicket>();
-        const auto form = std::make_shared<ShownForm>(whichType, object.get(), ticket, listenedCallback(ticket));
+        auto form = std::make_shared<ShownForm>(whichType, object.get(), ticket, listenedCallback(ticket));
         if (form->isForeign()) {
             mSearchTicket = ticket;
         }
@@ -383,11 +383,13 @@ void SubFormProxy::forgetIfGone(const FormRef& form) {
 /// By its name. A form that came from the search component and does not tell its name is taken for one: it is
 /// not ours to unload.
 bool SubFormProxy::isSearchForm(const FormRef& form, const Name& procedureName) const {
-    if (!form || !form->isForeign()) {
+    // It may be the class' own variable, which the answer may change.
+    const FormRef asked = form;  // NOLINT(performance-unnecessary-copy-initialization)
+    if (!asked || !asked->isForeign()) {
         return false;
     }
     try {
-        return form->Name() == kNameOfSearchForms;
+        return asked->Name() == kNameOfSearchForms;
     } catch (...) {
         reportCurrentException(*this, procedureName);
     }
@@ -417,19 +419,24 @@ void SubFormProxy::attachHooks(const FormRef& form, IDispatch* parentForm) {
     if (form->isCompleted() || !form->object()) {
         return;
     }
-    const auto hook = [&](HWND window, const Name& procedureName, bool isPopupForm) {
-        auto result =
-            std::make_unique<MessageHook>([=, this](std::int32_t uMsg, WPARAM wParam, LPARAM lParam, LRESULT&) {
-                afterMessage(procedureName, uMsg, wParam, lParam, isPopupForm);
-            });
-        if (window != nullptr && !result->attach(window, {WM_MOVE, WM_GETMINMAXINFO})) {
-            attempt(kProcedure, [] { throw RuntimeError(ErrorNumber::AutomationError); });
-        }
-        return result;
-    };
-    mParentHook = hook(parent, u"mParentHook_AfterMessage", false);
-    mPopupHook = hook(form->window, u"mPopupHook_AfterMessage", true);
     mForm = form;
+    attempt(kProcedure, [&] {
+        const auto hook = [this](const Name& procedureName, bool isPopupForm) {
+            return std::make_unique<MessageHook>(
+                [=, this](std::int32_t uMsg, WPARAM wParam, LPARAM lParam, LRESULT& /*retValue*/) {
+                    afterMessage(procedureName, uMsg, wParam, lParam, isPopupForm);
+                });
+        };
+        mParentHook = hook(u"mParentHook_AfterMessage", false);
+        mPopupHook = hook(u"mPopupHook_AfterMessage", true);
+        const auto isWatched = [](MessageHook& watching, HWND window) {
+            return window == nullptr || watching.attach(window, {WM_MOVE, WM_GETMINMAXINFO});
+        };
+        const bool isParentWatched = isWatched(*mParentHook, parent);
+        if (!isWatched(*mPopupHook, form->window) || !isParentWatched) {
+            throw RuntimeError(ErrorNumber::AutomationError);
+        }
+    });
 }
 
 void SubFormProxy::fill(const FormRequest& request) {

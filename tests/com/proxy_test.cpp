@@ -1,6 +1,7 @@
 #include <memory>
 
 #include "form_stage.h"
+#include "heaps.h"
 #include "recording_service.h"
 
 namespace comtests {
@@ -94,6 +95,15 @@ TEST_F(Proxy, WithoutAParentThereIsNoOwner) {
               std::wstring::npos);
     EXPECT_EQ(takenOfAMove(), L"");
     EXPECT_EQ(service.takenErrors(), L"");
+}
+
+TEST_F(Proxy, AWindowOfSomebodyElseIsNotWatched) {
+    stage.answers[L"parent.hWnd"] =
+        Variant(static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(GetDesktopWindow())));
+    const auto form = showNew(kEditor);
+    EXPECT_EQ(service.takenErrors(), L"440 SubFormProxy.initForm");
+    stage.windows[form.get()]->moveTo(5, 5);
+    EXPECT_EQ(taken(), kPlacedForItself);
 }
 
 TEST_F(Proxy, TheSearchFormIsUsedAgainAndForgottenForAnother) {
@@ -466,6 +476,35 @@ TEST_F(Session, TheProxyMayBeReleasedInAnyCallToTheHost) {
             stage.on.clear();
         }
     }
+}
+
+TEST_F(Session, AgainAndAgainLeavesNothing) {
+    constexpr wchar_t kClassName[] = L"QuorvelTemplate.DeferredEvent";
+    // The service's notes would grow.
+    proxy = LateBoundObject();
+    host.reset();
+    std::size_t blocks = 0;
+    for (int cycle = 0; cycle < 100; ++cycle) {
+        renew();
+        run();
+        stage.windows.clear();
+        stage.taken();
+        EXPECT_EQ(FindWindowExW(HWND_MESSAGE, nullptr, kClassName, nullptr), nullptr);
+        if (cycle == 20) blocks = blocksInUse();
+    }
+    EXPECT_NEAR(static_cast<double>(blocksInUse()), static_cast<double>(blocks), 20);
+    WNDCLASSW description = {};
+    EXPECT_FALSE(GetClassInfoW(library.module(), kClassName, &description));
+}
+
+TEST_F(Proxy, AHostThatShowsWithoutEndIsStopped) {
+    stage.on[L"host.SetFormPosition"] = [&](const Arguments&, VARIANT&) { showNew(kEditor); };
+    showNew(kEditor);
+    EXPECT_NE(service.takenErrors().find(L"28 "), std::wstring::npos);
+    stage.on.clear();
+    renew();
+    showNew(kEditor);
+    EXPECT_EQ(takenOfAMove(), kPlacedForParent);
 }
 
 TEST_F(Proxy, MayBeReleasedByItsOwnMessages) {

@@ -24,9 +24,12 @@ MessageHook::MessageHook(AfterMessage afterMessage) : mAfterMessage(std::move(af
 
 bool MessageHook::attach(HWND window, std::vector<std::int32_t> messages) {
     detach();
+    // Asked here, since not every platform does so itself.
+    if (GetWindowThreadProcessId(window, nullptr) != GetCurrentThreadId()) {
+        return false;
+    }
     const auto state = std::make_shared<State>(State{window, std::move(messages), mAfterMessage, true, nullptr});
-    if (window == nullptr ||
-        SetWindowSubclass(window, subclassProcedure, state->id(), reinterpret_cast<DWORD_PTR>(state.get())) == FALSE) {
+    if (SetWindowSubclass(window, subclassProcedure, state->id(), reinterpret_cast<DWORD_PTR>(state.get())) == FALSE) {
         return false;
     }
     state->heldByWindow = state;
