@@ -352,6 +352,11 @@ TEST_F(FormWindowTest, FollowsTheDensity) {
     EXPECT_NEAR(static_cast<double>(after.right) / before.right, 2.0, 0.15);
     EXPECT_NEAR(form->place().width / width, 1.0F, 0.1F);
     EXPECT_EQ(form->place().left, 10 * 1440 / 192.0F);
+    RECT combo = {};
+    GetWindowRect(of(u"Edition"), &combo);
+    RECT count = {};
+    GetWindowRect(of(u"Count"), &count);
+    EXPECT_EQ(combo.bottom - combo.top, count.bottom - count.top);
     // Every control lies inside the form, beside its neighbours.
     RECT client = {};
     GetClientRect(window(form->hwnd()), &client);

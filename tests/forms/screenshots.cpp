@@ -17,7 +17,7 @@ namespace {
 using namespace quorvel::forms;
 
 void runMessages() {
-    const DWORD end = GetTickCount() + 300;
+    const DWORD end = GetTickCount() + 1000;
     while (GetTickCount() < end) {
         MSG message;
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
@@ -68,6 +68,7 @@ void picture(const std::string& folder, const std::string& name, const std::shar
             RECT place = {};
             SendMessageW(window, win::kDensityChanged, MAKEWPARAM(density, density), reinterpret_cast<LPARAM>(&place));
         }
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
         runMessages();
         save(window, folder + "/" + name + "-" + std::to_string(percent) + ".bmp");
     }
