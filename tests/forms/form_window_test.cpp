@@ -90,7 +90,7 @@ protected:
     }
 
     void open() {
-        element->output = u"Bill";
+        element->answers[u"toString"] = Value(TextView(u"Bill"));
         form = std::make_shared<TrialForm>();
         form->attach(win::makeView(*form));
         form->Initialize(callback, u"Quorvel", nullptr);
@@ -260,6 +260,41 @@ TEST_F(FormWindowTest, TypingChangesAndTheProgramsWritingDoesNot) {
     EXPECT_EQ(at(u"Name").text(), u"Aa");
     EXPECT_TRUE(form->view().clipboardHolds(ClipboardFormat::UnicodeText));
     EXPECT_NE(form->view().sendAndKeepCursor(at(u"Name"), EditMessage::CanUndo), 0);
+}
+
+void strike(WORD key, DWORD flags = 0) {
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki = {key, 0, flags, 0, 0};
+    SendInput(1, &input, sizeof(input));
+    runMessages();
+}
+
+TEST_F(FormWindowTest, RealKeysTakeTheSameWay) {
+    const auto pressed = [](WORD key) {
+        strike(key);
+        strike(key, KEYEVENTF_KEYUP);
+    };
+    pressed('A');
+    // What was there was marked when the form opened.
+    EXPECT_EQ(at(u"Name").text(), u"a");
+    pressed(VK_TAB);
+    EXPECT_EQ(focus(), "Notes");
+    EXPECT_EQ(textOf(of(u"Name")), u"a");
+    EXPECT_EQ(textOf(of(u"Notes")), u"Notes");
+    strike(VK_MENU);
+    pressed('H');
+    strike(VK_MENU, KEYEVENTF_KEYUP);
+    EXPECT_EQ(focus(), "Kind2");
+    EXPECT_TRUE(at({u"Kind", 2}).value());
+    strike(VK_SHIFT);
+    pressed(VK_TAB);
+    strike(VK_SHIFT, KEYEVENTF_KEYUP);
+    EXPECT_EQ(focus(), "Edition");
+    strike(VK_MENU);
+    pressed(VK_F4);
+    strike(VK_MENU, KEYEVENTF_KEYUP);
+    EXPECT_TRUE(isClosedAsByCloseBox());
 }
 
 TEST_F(FormWindowTest, RichTextKeepsItsCaret) {

@@ -270,7 +270,8 @@ bool ChildWindow::shallBeSeen() const {
     return mControl.isShown() && (mControl.kind() != ControlKind::Frame || !mControl.caption().empty());
 }
 
-/// A combo box is as high as its font, unless it is told a height for its field; what it adds to that is seen by trying.
+/// A combo box is as high as its font, unless it is told a height for its field; what it adds to that is seen by
+/// trying.
 void ChildWindow::fitToLine(const Density& density) const {
     constexpr WPARAM kField = static_cast<WPARAM>(-1);
     const RECT line = density.pixels(mControl.place());
@@ -355,6 +356,12 @@ void ChildWindow::setSelection(const Selection& selection) const {
 void ChildWindow::selectAll() const {
     if (mControl.kind() == ControlKind::TextBox || mControl.kind() == ControlKind::ComboBox) {
         SendMessageW(box(), EM_SETSEL, 0, -1);
+    }
+}
+
+void ChildWindow::markText() const {
+    if (!mControl.row().isMultiLine) {
+        selectAll();
     }
 }
 
