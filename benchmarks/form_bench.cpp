@@ -14,6 +14,7 @@
 
 namespace {
 
+using namespace quorvel;
 using namespace quorvel::forms;
 
 class Least {

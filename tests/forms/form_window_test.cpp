@@ -478,23 +478,35 @@ TEST_F(FormWindowTest, LeavesOtherWindowsKeysAlone) {
     EXPECT_TRUE(form->isVisible());
 }
 
-/// A number that grows when handles are not given back: the highest of those that are made next.
-DWORD highestHandle() {
-    if (const DWORD used = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS); used != 0) {
-        return used + GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+/// Numbers that grow when handles are not given back.
+struct Handles {
+    DWORD kernel = 0;
+    DWORD drawing = 0;
+    /// Of windows, menus and hooks.
+    DWORD user = 0;
+
+    static Handles now();
+};
+
+Handles Handles::now() {
+    Handles handles;
+    GetProcessHandleCount(GetCurrentProcess(), &handles.kernel);
+    handles.drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    handles.user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    if (handles.drawing == 0) {
+        // A system that does not count: the highest of those that are made next, by their places in its tables.
+        std::vector<HGDIOBJ> pens;
+        std::vector<HMENU> menus;
+        for (int i = 0; i < 64; ++i) {
+            pens.push_back(CreatePen(PS_SOLID, 1, 0));
+            menus.push_back(CreateMenu());
+            handles.drawing = std::max<DWORD>(handles.drawing, LOWORD(reinterpret_cast<UINT_PTR>(pens.back())));
+            handles.user = std::max<DWORD>(handles.user, LOWORD(reinterpret_cast<UINT_PTR>(menus.back())));
+        }
+        std::for_each(pens.begin(), pens.end(), DeleteObject);
+        std::for_each(menus.begin(), menus.end(), DestroyMenu);
     }
-    DWORD highest = 0;
-    std::vector<HGDIOBJ> pens;
-    std::vector<HMENU> menus;
-    for (int i = 0; i < 64; ++i) {
-        pens.push_back(CreatePen(PS_SOLID, 1, 0));
-        menus.push_back(CreateMenu());
-        highest = std::max<DWORD>(highest, LOWORD(reinterpret_cast<UINT_PTR>(pens.back())));
-        highest = std::max<DWORD>(highest, LOWORD(reinterpret_cast<UINT_PTR>(menus.back())) / 2U);
-    }
-    std::for_each(pens.begin(), pens.end(), DeleteObject);
-    std::for_each(menus.begin(), menus.end(), DestroyMenu);
-    return highest;
+    return handles;
 }
 
 int cycles() {
@@ -516,17 +528,15 @@ TEST_F(FormWindowTest, CyclesLeaveNothingBehind) {
     for (int warm = 0; warm < 5; ++warm) {
         cycle(warm);
     }
-    const DWORD gui = highestHandle();
-    DWORD handles = 0;
-    GetProcessHandleCount(GetCurrentProcess(), &handles);
+    const Handles before = Handles::now();
     const int count = cycles();
     for (int number = 0; number < count; ++number) {
         cycle(number);
     }
-    EXPECT_LE(highestHandle(), gui);
-    DWORD handlesNow = 0;
-    GetProcessHandleCount(GetCurrentProcess(), &handlesNow);
-    EXPECT_LE(handlesNow, handles);
+    const Handles after = Handles::now();
+    EXPECT_LE(after.kernel, before.kernel);
+    EXPECT_LE(after.drawing, before.drawing);
+    EXPECT_LE(after.user, before.user);
     WNDCLASSEXW description = {};
     description.cbSize = sizeof(description);
     const HINSTANCE module = GetModuleHandleW(nullptr);
