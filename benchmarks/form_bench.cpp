@@ -14,6 +14,7 @@
 
 namespace {
 
+using namespace quorvel;
 using namespace quorvel::forms;
 
 class Least {
@@ -49,7 +50,8 @@ void runMessages() {
 int main() {
     const auto callback = std::make_shared<test::TrialObject>();
     const auto element = std::make_shared<test::TrialObject>();
-    element->output = u"Bill, Joe. {\\i Life}.";
+    Text output = u"Bill, Joe. Life.";
+    element->answers[u"toString"] = Value(output);
     Least windows("windows");
     Least filled("filled");
     Least revealed("revealed");
@@ -74,7 +76,8 @@ int main() {
         });
         for (int key = 0; key < 10; ++key) {
             keystroke.measure([&] {
-                element->output += u'x';
+                output += u'x';
+                element->answers[u"toString"] = Value(output);
                 PostMessageW(GetFocus(), WM_CHAR, L'x', 1);
                 runMessages();
             });

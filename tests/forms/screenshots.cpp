@@ -8,16 +8,18 @@
 #include <string>
 #include <vector>
 
+#include "forms/forms.h"
 #include "forms/trial_form.h"
 #include "forms/win/density.h"
 #include "forms/win/window.h"
 
 namespace {
 
+using namespace quorvel;
 using namespace quorvel::forms;
 
 void runMessages() {
-    const DWORD end = GetTickCount() + 300;
+    const DWORD end = GetTickCount() + 1000;
     while (GetTickCount() < end) {
         MSG message;
         while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
@@ -57,10 +59,37 @@ void save(HWND window, const std::string& path) {
     ReleaseDC(nullptr, screen);
 }
 
-void picture(const std::string& folder, const std::string& name, const std::shared_ptr<Form>& form) {
+/// What the stand-in for an element answers, whatever form asks.
+void answerFilled(test::TrialObject& element) {
+    const auto yes = Value(true);
+    element.answers = {
+        {u"toString",
+         Value(TextView(
+             u"{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Tahoma;}}\\viewkind4\\uc1\\pard\\cf1\\f0\\fs17 "
+             u"Bill, Joe, and Ann Smith. \u201cA \u2018quoted\u2019 word.\u201d {\\i Life in the North}. 2nd ed. "
+             u"1990. Print.}"))},
+        {u"authors", Value(std::vector<Text>{u"Bill, Joe", u"Smith, Ann, Jr.", u"Institute of Arctic Studies"})},
+        {u"Year", Value(TextView(u"1990"))},
+        {u"Supports", yes},
+        {u"SupportAnonAndPseudoAuthors", yes},
+        {u"hasDiscussant", yes},
+        {u"supportsCompilerAndEditor", yes},
+    };
+}
+
+void picture(const std::string& folder, const std::shared_ptr<Form>& form, bool isFilled) {
+    const auto element = std::make_shared<test::TrialObject>();
+    if (isFilled) {
+        answerFilled(*element);
+    }
+    form->attach(win::makeView(*form));
+    form->Initialize(std::make_shared<test::TrialObject>(), u"Quorvel", nullptr);
+    form->ParentWidgetChanged(element, nullptr, isFilled ? u"Bill, Joe, and Ann Smith" : u"", u"");
     form->Show(0);
     form->setPlace({0, 0, form->place().width, form->place().height});
     form->reveal();
+    const TextView className = form->className();
+    const std::string name = std::string(className.begin(), className.end()) + (isFilled ? "-filled-" : "-empty-");
     const auto window = reinterpret_cast<HWND>(form->hwnd());
     for (const int percent : {100, 200}) {
         const UINT density = static_cast<UINT>(USER_DEFAULT_SCREEN_DPI * percent / 100);
@@ -68,8 +97,9 @@ void picture(const std::string& folder, const std::string& name, const std::shar
             RECT place = {};
             SendMessageW(window, win::kDensityChanged, MAKEWPARAM(density, density), reinterpret_cast<LPARAM>(&place));
         }
+        RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
         runMessages();
-        save(window, folder + "/" + name + "-" + std::to_string(percent) + ".bmp");
+        save(window, folder + "/" + name + std::to_string(percent) + ".bmp");
     }
     form->Unload();
 }
@@ -81,15 +111,15 @@ int main(int count, char** arguments) {
         std::puts("usage: FormPictures FOLDER");
         return 2;
     }
-    const auto element = std::make_shared<test::TrialObject>();
-    element->output =
-        u"{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Tahoma;}}\\viewkind4\\uc1\\pard\\cf1\\f0\\fs17 "
-        u"Bill, Joe. \u201cA \u2018quoted\u2019 word.\u201d {\\i Life in the North}. 2nd ed. 1990. Print.}";
-    const auto form = std::make_shared<test::TrialForm>();
-    form->attach(win::makeView(*form));
-    form->Initialize(std::make_shared<test::TrialObject>(), u"Quorvel", nullptr);
-    form->ParentWidgetChanged(element, nullptr, u"Bill, Joe", u"First line\nSecond line");
-    picture(arguments[1], "trial", form);
+    constexpr std::int16_t kTypes = 19;
+    for (const bool isFilled : {true, false}) {
+        picture(arguments[1], std::make_shared<test::TrialForm>(), isFilled);
+        for (std::int16_t type = 0; type < kTypes; ++type) {
+            if (const std::shared_ptr<Form> form = classOf(type) == type ? make(type) : nullptr; form) {
+                picture(arguments[1], form, isFilled);
+            }
+        }
+    }
     win::letGo();
     return 0;
 }

@@ -21,9 +21,9 @@ public:
     int count(TextView member) const;
 
     mutable std::vector<Text> calls;
-    /// By the member's name; without one the answer is the empty value, and "toString" is `output`.
     std::map<Text, std::function<void()>> whenCalled;
-    Text output;
+    /// By the member's name; without one the answer is the empty value.
+    std::map<Text, Value> answers;
 };
 
 class TrialForm final : public Form {

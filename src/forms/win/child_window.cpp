@@ -142,7 +142,7 @@ void ChildWindow::create(HWND form, int number, const Font& font, const Density&
         show(aspect);
     }
     if (kind == ControlKind::ComboBox) {
-        arrange(density, nullptr);
+        fitToLine(density);
     }
 }
 
@@ -270,20 +270,18 @@ bool ChildWindow::shallBeSeen() const {
     return mControl.isShown() && (mControl.kind() != ControlKind::Frame || !mControl.caption().empty());
 }
 
-/// A combo box is as high as its font, unless it is told the height of the boxes beside it.
+/// A combo box is as high as its font, unless it is told a height for its field; what it adds to that is seen by
+/// trying.
 void ChildWindow::fitToLine(const Density& density) const {
     constexpr WPARAM kField = static_cast<WPARAM>(-1);
-    const RECT wanted = density.pixels(mControl.place());
-    // The second time mends what the first one rounded.
-    for (int round = 0; round < 2; ++round) {
-        RECT closed = {};
-        GetWindowRect(mHandle, &closed);
-        const LRESULT field = SendMessageW(mHandle, CB_GETITEMHEIGHT, kField, 0);
-        const LRESULT fitting = field + (wanted.bottom - wanted.top) - (closed.bottom - closed.top);
-        if (fitting <= 0 || fitting == field) {
-            return;
-        }
-        SendMessageW(mHandle, CB_SETITEMHEIGHT, kField, fitting);
+    const RECT line = density.pixels(mControl.place());
+    const LONG wanted = line.bottom - line.top;
+    SendMessageW(mHandle, CB_SETITEMHEIGHT, kField, wanted);
+    RECT closed = {};
+    GetWindowRect(mHandle, &closed);
+    const LONG added = closed.bottom - closed.top - wanted;
+    if (added < wanted) {
+        SendMessageW(mHandle, CB_SETITEMHEIGHT, kField, wanted - added);
     }
 }
 
@@ -358,6 +356,12 @@ void ChildWindow::setSelection(const Selection& selection) const {
 void ChildWindow::selectAll() const {
     if (mControl.kind() == ControlKind::TextBox || mControl.kind() == ControlKind::ComboBox) {
         SendMessageW(box(), EM_SETSEL, 0, -1);
+    }
+}
+
+void ChildWindow::markText() const {
+    if (!mControl.row().isMultiLine) {
+        selectAll();
     }
 }
 

@@ -57,6 +57,8 @@ public:
     Selection selection() const;
     void setSelection(const Selection& selection) const;
     void selectAll() const;
+    /// The same when the keyboard comes into a box of a single line.
+    void markText() const;
 
 private:
     class Writing;

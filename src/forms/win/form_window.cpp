@@ -263,6 +263,10 @@ void FormWindow::reveal(const Control* focus) {
     if (!mIsClosed && isActive() && focused() == nullptr) {
         focusSomewhere();
     }
+    // As in any dialog: what is typed now replaces the text.
+    if (const ChildWindow* const child = mIsClosed ? nullptr : focused(); child != nullptr) {
+        child->markText();
+    }
 }
 
 void FormWindow::hide() {

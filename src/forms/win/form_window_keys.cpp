@@ -140,8 +140,8 @@ void FormWindow::focusByKey(const Control* control) {
     }
     showCues(UISF_HIDEFOCUS);
     SetFocus(child->handle());
-    if (!mIsClosed && child->owns(GetFocus()) && !child->control().row().isMultiLine) {
-        child->selectAll();
+    if (!mIsClosed && child->owns(GetFocus())) {
+        child->markText();
     }
 }
 
