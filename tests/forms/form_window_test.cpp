@@ -155,6 +155,22 @@ TEST_F(FormWindowTest, ShowsWhatTheControlsHold) {
     EXPECT_EQ(callback->count(u"TooltipShow"), 0);
 }
 
+TEST_F(FormWindowTest, ColorsAreTheSystemsOrTheControls) {
+    const HDC canvas = GetDC(nullptr);
+    const auto colorOf = [&](const ControlName& name) {
+        SendMessageW(window(form->hwnd()), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(canvas),
+                     reinterpret_cast<LPARAM>(of(name)));
+        return GetTextColor(canvas);
+    };
+    EXPECT_EQ(colorOf(u"NameLabel"), GetSysColor(COLOR_BTNTEXT));
+    at(u"NameLabel").setForeColor(kRed);
+    EXPECT_EQ(colorOf(u"NameLabel"), RGB(255, 0, 0));
+    at(u"NameLabel").setForeColor(kGreyText);
+    EXPECT_EQ(colorOf(u"NameLabel"), GetSysColor(COLOR_GRAYTEXT));
+    EXPECT_EQ(GetBkColor(canvas), GetSysColor(COLOR_BTNFACE));
+    ReleaseDC(nullptr, canvas);
+}
+
 TEST_F(FormWindowTest, TabStopsAreTheRowsInTheirOrder) {
     std::vector<std::string> forward;
     std::vector<std::string> back;
@@ -232,6 +248,8 @@ TEST_F(FormWindowTest, EnterIsOkAndEscapeIsCancel) {
     open();
     press(VK_ESCAPE);
     EXPECT_TRUE(form->isClosed());
+    // Back where the user came from.
+    EXPECT_EQ(GetActiveWindow(), owner);
     EXPECT_EQ(callback->count(u"setParentWidgetsValue"), 1);
 }
 

@@ -9,7 +9,7 @@ namespace quorvel::forms::win {
 namespace {
 
 char16_t upper(char16_t letter) {
-    wchar_t unit = static_cast<wchar_t>(letter);
+    auto unit = static_cast<wchar_t>(letter);
     CharUpperBuffW(&unit, 1);
     return static_cast<char16_t>(unit);
 }
