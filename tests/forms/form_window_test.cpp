@@ -220,8 +220,10 @@ TEST_F(FormWindowTest, MnemonicsLeadToWhatTheyName) {
     EXPECT_TRUE(at({u"Kind", 2}).value());
     EXPECT_TRUE(at(u"EtAl").value());
     EXPECT_TRUE(form->has("clicked AddButton"));
-    // One that is disabled, and one that nobody has.
+    // One that is disabled, of a label that is, and one that nobody has.
+    at(u"CountLabel").setEnabled(false);
     pressAlt(L'x');
+    pressAlt(L'u');
     pressAlt(L'q');
     EXPECT_EQ(focus(), "Name");
     // Where nothing is written, the letter alone does.
@@ -490,8 +492,10 @@ TEST_F(FormWindowTest, LeavesOtherWindowsKeysAlone) {
     form->ParentWidgetChanged(element, nullptr, u"Ann", u"");
     form->reveal();
     EXPECT_EQ(GetFocus(), field);
+    SetActiveWindow(window(form->hwnd()));
     form->Hide();
     EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(GetActiveWindow(), owner);
     form->reveal();
     EXPECT_TRUE(form->isVisible());
 }

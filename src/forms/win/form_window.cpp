@@ -122,6 +122,7 @@ void FormWindow::close() {
         mAccessibility.reset();
     }
     if (mHandle != nullptr && !mIsBeingDestroyed) {
+        giveBackToOwner();
         DestroyWindow(mHandle);
     }
 }
@@ -278,6 +279,7 @@ void FormWindow::reveal(const Control* focus) {
 
 void FormWindow::hide() {
     const std::shared_ptr<FormWindow> alive = shared_from_this();
+    giveBackToOwner();
     ShowWindow(mHandle, SW_HIDE);
 }
 
@@ -382,6 +384,14 @@ bool FormWindow::isActive() const {
 std::deque<Control>* FormWindow::controls() const {
     const std::shared_ptr<Form> form = mForm.lock();
     return form ? &form->controls() : nullptr;
+}
+
+/// Else the system may activate another program's window when an active one goes.
+void FormWindow::giveBackToOwner() const {
+    const HWND owner = isActive() ? GetWindow(mHandle, GW_OWNER) : nullptr;
+    if (owner != nullptr && IsWindowEnabled(owner) != FALSE) {
+        SetActiveWindow(owner);
+    }
 }
 
 void FormWindow::focusSomewhere() {

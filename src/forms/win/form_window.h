@@ -105,6 +105,7 @@ private:
     const ChildWindow* focused() const;
     bool canFocus(const Control& control) const;
     bool isActive() const;
+    void giveBackToOwner() const;
     void focusSomewhere();
     void leave(const ChildWindow& child);
     void arrange(ChildWindow& child);
