@@ -155,6 +155,22 @@ TEST_F(FormWindowTest, ShowsWhatTheControlsHold) {
     EXPECT_EQ(callback->count(u"TooltipShow"), 0);
 }
 
+TEST_F(FormWindowTest, ColorsAreTheSystemsOrTheControls) {
+    const HDC canvas = GetDC(nullptr);
+    const auto colorOf = [&](const ControlName& name) {
+        SendMessageW(window(form->hwnd()), WM_CTLCOLORSTATIC, reinterpret_cast<WPARAM>(canvas),
+                     reinterpret_cast<LPARAM>(of(name)));
+        return GetTextColor(canvas);
+    };
+    EXPECT_EQ(colorOf(u"NameLabel"), GetSysColor(COLOR_BTNTEXT));
+    at(u"NameLabel").setForeColor(kRed);
+    EXPECT_EQ(colorOf(u"NameLabel"), RGB(255, 0, 0));
+    at(u"NameLabel").setForeColor(kGreyText);
+    EXPECT_EQ(colorOf(u"NameLabel"), GetSysColor(COLOR_GRAYTEXT));
+    EXPECT_EQ(GetBkColor(canvas), GetSysColor(COLOR_BTNFACE));
+    ReleaseDC(nullptr, canvas);
+}
+
 TEST_F(FormWindowTest, TabStopsAreTheRowsInTheirOrder) {
     std::vector<std::string> forward;
     std::vector<std::string> back;
@@ -204,8 +220,10 @@ TEST_F(FormWindowTest, MnemonicsLeadToWhatTheyName) {
     EXPECT_TRUE(at({u"Kind", 2}).value());
     EXPECT_TRUE(at(u"EtAl").value());
     EXPECT_TRUE(form->has("clicked AddButton"));
-    // One that is disabled, and one that nobody has.
+    // One that is disabled, of a label that is, and one that nobody has.
+    at(u"CountLabel").setEnabled(false);
     pressAlt(L'x');
+    pressAlt(L'u');
     pressAlt(L'q');
     EXPECT_EQ(focus(), "Name");
     // Where nothing is written, the letter alone does.
@@ -232,6 +250,8 @@ TEST_F(FormWindowTest, EnterIsOkAndEscapeIsCancel) {
     open();
     press(VK_ESCAPE);
     EXPECT_TRUE(form->isClosed());
+    // Back where the user came from.
+    EXPECT_EQ(GetActiveWindow(), owner);
     EXPECT_EQ(callback->count(u"setParentWidgetsValue"), 1);
 }
 
@@ -472,8 +492,10 @@ TEST_F(FormWindowTest, LeavesOtherWindowsKeysAlone) {
     form->ParentWidgetChanged(element, nullptr, u"Ann", u"");
     form->reveal();
     EXPECT_EQ(GetFocus(), field);
+    SetActiveWindow(window(form->hwnd()));
     form->Hide();
     EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(GetActiveWindow(), owner);
     form->reveal();
     EXPECT_TRUE(form->isVisible());
 }

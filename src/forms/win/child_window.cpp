@@ -16,8 +16,8 @@ namespace {
 /// How the window of a kind is made. Options and check boxes do not turn by themselves: the form decides.
 struct WindowKind {
     /// Null for rich text, whose class depends on the system.
-    const wchar_t* windowClass;
-    DWORD style;
+    const wchar_t* windowClass = nullptr;
+    DWORD style = 0;
     DWORD extendedStyle = 0;
 };
 
@@ -273,7 +273,7 @@ bool ChildWindow::shallBeSeen() const {
 /// A combo box is as high as its font, unless it is told a height for its field; what it adds to that is seen by
 /// trying.
 void ChildWindow::fitToLine(const Density& density) const {
-    constexpr WPARAM kField = static_cast<WPARAM>(-1);
+    constexpr auto kField = static_cast<WPARAM>(-1);
     const RECT line = density.pixels(mControl.place());
     const LONG wanted = line.bottom - line.top;
     SendMessageW(mHandle, CB_SETITEMHEIGHT, kField, wanted);

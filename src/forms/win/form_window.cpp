@@ -1,6 +1,7 @@
 #include "forms/win/form_window.h"
 
 #include <algorithm>
+#include <atomic>
 #include <mutex>
 
 #include "forms/win/libraries.h"
@@ -21,7 +22,8 @@ constexpr ControlName kOkButton = u"OkButton";
 /// The class of the windows, as long as the library is in use.
 struct RegisteredClass {
     std::mutex mutex;
-    ATOM atom = 0;
+    /// Read by every key and message.
+    std::atomic<ATOM> atom = 0;
 };
 
 RegisteredClass& registered() {
@@ -120,6 +122,7 @@ void FormWindow::close() {
         mAccessibility.reset();
     }
     if (mHandle != nullptr && !mIsBeingDestroyed) {
+        giveBackToOwner();
         DestroyWindow(mHandle);
     }
 }
@@ -136,6 +139,7 @@ Rectangle FormWindow::borders() const {
 }
 
 void FormWindow::aspectChanged(const Control& control, Aspect aspect) {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     ChildWindow* const child = find(control);
     if (child == nullptr || mIsClosed) {
         return;
@@ -176,6 +180,7 @@ void FormWindow::arrange(ChildWindow& child) {
 }
 
 void FormWindow::endLayout() {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     if (--mLayouts > 0 || mIsClosed) {
         return;
     }
@@ -219,6 +224,7 @@ Rectangle FormWindow::place() const {
 }
 
 void FormWindow::setPlace(const Rectangle& place) {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     const RECT pixels = mDensity.pixels(place);
     SetWindowPos(mHandle, nullptr, pixels.left, pixels.top, pixels.right - pixels.left, pixels.bottom - pixels.top,
                  kKeepOrder);
@@ -236,6 +242,7 @@ void FormWindow::setIcon(std::intptr_t icon) {
 }
 
 void FormWindow::setEnabled(bool isEnabled) {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     EnableWindow(mHandle, isEnabled ? TRUE : FALSE);
 }
 
@@ -258,6 +265,7 @@ void FormWindow::show(std::intptr_t owner) {
 }
 
 void FormWindow::reveal(const Control* focus) {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     mLastFocused = focus != nullptr ? find(*focus) : nullptr;
     ShowWindow(mHandle, SW_SHOW);
     if (!mIsClosed && isActive() && focused() == nullptr) {
@@ -270,6 +278,8 @@ void FormWindow::reveal(const Control* focus) {
 }
 
 void FormWindow::hide() {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
+    giveBackToOwner();
     ShowWindow(mHandle, SW_HIDE);
 }
 
@@ -278,6 +288,7 @@ bool FormWindow::isRevealed() const {
 }
 
 bool FormWindow::setFocus(const Control& control) {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     const ChildWindow* const child = find(control);
     if (child == nullptr || !child->canFocus() || !isRevealed()) {
         return false;
@@ -287,6 +298,7 @@ bool FormWindow::setFocus(const Control& control) {
 }
 
 bool FormWindow::setFocus() {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     if (!isRevealed()) {
         return false;
     }
@@ -314,6 +326,7 @@ Text FormWindow::plainText(const Control& control) const {
 }
 
 std::intptr_t FormWindow::sendAndKeepCursor(const Control& control, EditMessage message) {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     const ChildWindow* const child = find(control);
     if (child == nullptr) {
         return 0;
@@ -330,6 +343,7 @@ bool FormWindow::clipboardHolds(ClipboardFormat format) const {
 }
 
 void FormWindow::showMessage(TextView caption, TextView text) {
+    const std::shared_ptr<FormWindow> alive = shared_from_this();
     const Text title(caption);
     const Text message(text);
     const VisualStyles styled;
@@ -370,6 +384,14 @@ bool FormWindow::isActive() const {
 std::deque<Control>* FormWindow::controls() const {
     const std::shared_ptr<Form> form = mForm.lock();
     return form ? &form->controls() : nullptr;
+}
+
+/// Else the system may activate another program's window when an active one goes.
+void FormWindow::giveBackToOwner() const {
+    const HWND owner = isActive() ? GetWindow(mHandle, GW_OWNER) : nullptr;
+    if (owner != nullptr && IsWindowEnabled(owner) != FALSE) {
+        SetActiveWindow(owner);
+    }
 }
 
 void FormWindow::focusSomewhere() {

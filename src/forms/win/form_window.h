@@ -21,7 +21,7 @@ namespace quorvel::forms::win {
 ///
 /// Whatever comes in from the system keeps this object and the form alive until it is done; each thing that the form is
 /// told may close the window, after which nobody is told anything.
-class FormWindow final : public FormView, public std::enable_shared_from_this<FormWindow>, private KeyReader {
+class FormWindow final : public FormView, public std::enable_shared_from_this<FormWindow>, public KeyReader {
 public:
     explicit FormWindow(Form& form) : mForm(form.weak_from_this()) {}
     ~FormWindow() override { FormWindow::close(); }
@@ -33,8 +33,10 @@ public:
     static bool registerClass();
     /// False while there are windows.
     static bool unregisterClass();
+    /// The form whose window it is; null for any other window.
+    static FormWindow* of(HWND window);
 
-    // --- What the form wants.
+    // --- What the form wants. What is shown or focused may have the form closed, and let go of this object.
 
     void close() override;
     DialogUnits dialogUnits() const override;
@@ -85,7 +87,6 @@ private:
 
     // --- Keys (form_window_keys.cpp).
 
-    static const KeyReader* readerOf(HWND root);
     std::optional<KeyStroke> meaningOf(const MSG& message) const override;
     std::optional<KeyStroke> meaningOfKey(Form& form, const ChildWindow* focus, WPARAM key, bool isRepeated) const;
     void obey(const KeyStroke& stroke);
@@ -97,8 +98,6 @@ private:
     // --- Helpers.
 
     void makeChildren();
-    /// The form whose window it is; null for any other window.
-    static FormWindow* of(HWND window);
     ChildWindow* find(const Control& control);
     const ChildWindow* find(const Control& control) const;
     ChildWindow* find(HWND window) { return const_cast<ChildWindow*>(std::as_const(*this).find(window)); }
@@ -106,6 +105,7 @@ private:
     const ChildWindow* focused() const;
     bool canFocus(const Control& control) const;
     bool isActive() const;
+    void giveBackToOwner() const;
     void focusSomewhere();
     void leave(const ChildWindow& child);
     void arrange(ChildWindow& child);

@@ -28,8 +28,8 @@ std::optional<bool> isForward(WPARAM key) {
 
 }  // namespace
 
-const KeyReader* FormWindow::readerOf(HWND root) {
-    return of(root);
+const KeyReader* keyReaderOf(HWND root) {
+    return FormWindow::of(root);
 }
 
 std::optional<KeyStroke> FormWindow::meaningOf(const MSG& message) const {

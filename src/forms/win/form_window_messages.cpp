@@ -254,7 +254,7 @@ void FormWindow::shown(bool isShown) {
     if (!isShown) {
         mKeyboard.reset();
     } else if (!mKeyboard) {
-        mKeyboard.emplace(readerOf);
+        mKeyboard.emplace();
     }
 }
 

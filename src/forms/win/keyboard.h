@@ -39,19 +39,24 @@ protected:
     ~KeyReader() = default;
 };
 
+/// Who reads the keys of a window of this thread: null unless it is a form's.
+const KeyReader* keyReaderOf(HWND root);
+
 /// The keyboard of a form that is seen: the thread's messages pass by, and what means something to the form reaches its
-/// window as `kKeyMessage` in place of the key, from the host's own loop. Other windows' messages are left alone.
+/// window as `kKeyMessage` in place of the key, from the host's own loop. Other windows' messages are left alone. Of
+/// several forms each has one, and the first that sees a key is enough for all.
 class Keyboard {
 public:
     /// With the two parts of a `KeyStroke` as its parameters.
     static constexpr UINT kKeyMessage = WM_APP + 1;
-    /// Who reads the keys of a window of the thread, if it is a form's.
-    using FindReader = const KeyReader* (*)(HWND root);
 
-    explicit Keyboard(FindReader findReader);
+    Keyboard();
     Keyboard(const Keyboard&) = delete;
     Keyboard& operator=(const Keyboard&) = delete;
     ~Keyboard();
+
+private:
+    HHOOK mHook;
 };
 
 }  // namespace quorvel::forms::win

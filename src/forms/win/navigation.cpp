@@ -9,7 +9,7 @@ namespace quorvel::forms::win {
 namespace {
 
 char16_t upper(char16_t letter) {
-    wchar_t unit = static_cast<wchar_t>(letter);
+    auto unit = static_cast<wchar_t>(letter);
     CharUpperBuffW(&unit, 1);
     return static_cast<char16_t>(unit);
 }
@@ -94,7 +94,7 @@ Control* neighbour(std::deque<Control>& controls, const Control& from, bool isFo
 Control* ofMnemonic(std::deque<Control>& controls, const Control* focus, char16_t letter, const CanFocus& canFocus) {
     const char16_t wanted = upper(letter);
     const auto target = [&](Control& control) -> Control* {
-        if (mnemonicOf(control.caption()) != wanted || !control.isShown()) {
+        if (mnemonicOf(control.caption()) != wanted || !control.isShown() || !control.isEnabled()) {
             return nullptr;
         }
         if (control.kind() != ControlKind::Label && control.kind() != ControlKind::Frame) {
