@@ -572,6 +572,15 @@ void Form::UpDown_Click(Control& upDown, bool isUp) {
     });
 }
 
+void Form::spun(Control& /*upDown*/, Control& buddy, bool isUp) {
+    constexpr std::int16_t kFirst = 1;
+    if (isUp) {
+        CommonFormProcessingFunctions::processSpinUp(*this, buddy, kFirst);
+    } else {
+        CommonFormProcessingFunctions::processSpinDown(buddy, kFirst - 1, false);
+    }
+}
+
 void Form::Form_MouseMove(Control* control) {
     procedure(*this, u"Form_MouseMove", kNoParameters, [&] {
         if (control != nullptr && !control->toolTip().empty()) {

@@ -131,7 +131,8 @@ protected:
     virtual void choiceClicked(Control& /*control*/) {}
     /// OK and Cancel; a form with other buttons has procedures of its own.
     virtual void buttonClicked(Control& button) { CommandButton_Click(button); }
-    virtual void spun(Control& /*upDown*/, Control& /*buddy*/, bool /*isUp*/) {}
+    /// Counts from 1: up from an empty box, and down to one.
+    virtual void spun(Control& upDown, Control& buddy, bool isUp);
     virtual void textSelected(Control& /*box*/) {}
     virtual void activated() {}
     /// What Enter does in a control where it is neither OK nor a new line; false for OK.

@@ -6,6 +6,7 @@
 
 #include "forms/author_form.h"
 #include "forms/editor_form.h"
+#include "forms/multipart_work_form.h"
 #include "forms/publication_medium_form.h"
 #include "forms/year_form.h"
 
@@ -31,6 +32,7 @@ constexpr FormClass kForms[] = {
     {{0, kNone, kNone}, create<AuthorForm>},
     {{6, kNone, kNone}, create<YearForm>},
     {{9, kNone, kNone}, create<EditorForm>},
+    {{10, kNone, kNone}, create<MultipartWorkForm>},
     {{16, kNone, kNone}, create<PublicationMediumForm>},
 };
 

@@ -105,8 +105,7 @@ constexpr TextBinding kValueBoxes[] = {
 };
 constexpr FlagBinding kFlags[] = {{kIsMultiDiscs, u"IsMultiDiscs"}};
 
-constexpr std::int16_t kFirstDisc = 1;
-constexpr std::int16_t kNoDisc = 0;
+constexpr std::int32_t kFirstDisc = 1;
 
 /// Which values a medium has.
 using Details = std::uint16_t;
@@ -235,14 +234,6 @@ void PublicationMediumForm::boxChanged(Control& box) {
     // A disc that came with another name may have it changed freely.
     if (box.is({kBoxes, kDisc}) && (mLastDisc.empty() || CommonFormProcessingFunctions::isNumeric(mLastDisc))) {
         CommonFormProcessingFunctions::validateSpinChange(box, mLastDisc, kFirstDisc);
-    }
-}
-
-void PublicationMediumForm::spun(Control& /*upDown*/, Control& buddy, bool isUp) {
-    if (isUp) {
-        CommonFormProcessingFunctions::processSpinUp(*this, buddy, kFirstDisc);
-    } else {
-        CommonFormProcessingFunctions::processSpinDown(buddy, kNoDisc, false);
     }
 }
 

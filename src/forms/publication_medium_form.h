@@ -24,7 +24,6 @@ private:
     std::pair<Text, Text> result() override;
     void boxChanged(Control& box) override;
     void choiceClicked(Control& control) override;
-    void spun(Control& upDown, Control& buddy, bool isUp) override;
 
     /// The caption of the selected medium; empty when none is.
     TextView medium();
