@@ -8,6 +8,7 @@
 #include "forms/editor_form.h"
 #include "forms/multipart_work_form.h"
 #include "forms/publication_medium_form.h"
+#include "forms/refers_to_form.h"
 #include "forms/year_form.h"
 
 namespace quorvel::forms {
@@ -33,6 +34,7 @@ constexpr FormClass kForms[] = {
     {{6, kNone, kNone}, create<YearForm>},
     {{9, kNone, kNone}, create<EditorForm>},
     {{10, kNone, kNone}, create<MultipartWorkForm>},
+    {{12, kNone, kNone}, create<RefersToForm>},
     {{16, kNone, kNone}, create<PublicationMediumForm>},
 };
 
