@@ -167,7 +167,7 @@ Text Form::toString(bool isModelPreview, bool isFootnote, bool isRTF) {
                              arguments.resize(static_cast<std::size_t>(mDesign.rtfParameter), Value(false));
                              arguments.emplace_back(true);
                          }
-                         return mDefaultOutputTemplate.call(u"toString", arguments).asText();
+                         return adjusted(mDefaultOutputTemplate.call(u"toString", arguments).asText());
                      });
 }
 

@@ -118,6 +118,8 @@ protected:
     virtual void fill(TextView parentText, TextView secondaryText) = 0;
     /// Copies the controls into the element.
     virtual void collect(bool isModelPreview) = 0;
+    /// What the element wrote, as the form gives it out.
+    virtual Text adjusted(const Text& written) { return written; }
     /// The two texts for the host: what the form says as a reference-list entry, and none.
     virtual std::pair<Text, Text> result();
     /// What the preview shows: what the form says, or what the preview's own element makes of that.

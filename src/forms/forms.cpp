@@ -9,6 +9,7 @@
 #include "forms/multipart_work_form.h"
 #include "forms/publication_medium_form.h"
 #include "forms/refers_to_form.h"
+#include "forms/title_form.h"
 #include "forms/year_form.h"
 
 namespace quorvel::forms {
@@ -31,6 +32,7 @@ std::shared_ptr<Form> create() {
 // Every form, one a line.
 constexpr FormClass kForms[] = {
     {{0, kNone, kNone}, create<AuthorForm>},
+    {{1, 2, 3}, create<TitleForm>},
     {{6, kNone, kNone}, create<YearForm>},
     {{9, kNone, kNone}, create<EditorForm>},
     {{10, kNone, kNone}, create<MultipartWorkForm>},
