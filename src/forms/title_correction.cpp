@@ -1,6 +1,8 @@
 #include "forms/title_correction.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <optional>
 
 #include "core/letter_case.h"
@@ -131,6 +133,26 @@ struct Character {
     std::size_t length = 0;
 };
 
+/// Words of RTF that are a character.
+struct CharacterWord {
+    TextView word;
+    char16_t unit;
+};
+constexpr CharacterWord kCharacterWords[] = {
+    {u"lquote", u'\u2018'},    {u"rquote", u'\u2019'}, {u"ldblquote", u'\u201C'},
+    {u"rdblquote", u'\u201D'}, {u"endash", u'\u2013'}, {u"emdash", u'\u2014'},
+};
+/// Of the Windows code page, where it is not Latin 1: what titles have of it.
+struct CodePageCharacter {
+    std::uint32_t code;
+    char16_t unit;
+};
+constexpr CodePageCharacter kCodePage[] = {
+    {0x85, u'\u2026'}, {0x91, u'\u2018'}, {0x92, u'\u2019'}, {0x93, u'\u201C'}, {0x94, u'\u201D'},
+    {0x96, u'\u2013'}, {0x97, u'\u2014'}, {0x8A, u'\u0160'}, {0x9A, u'\u0161'}, {0x8C, u'\u0152'},
+    {0x9C, u'\u0153'}, {0x8E, u'\u017D'}, {0x9E, u'\u017E'}, {0x9F, u'\u0178'},
+};
+
 /// Reads plain text or RTF.
 class Reader {
 public:
@@ -166,8 +188,7 @@ private:
         }
         if (!isAsciiLetter(mText[mAt])) {
             const char16_t sign = mText[mAt++];
-            mAt = std::min(mAt + (sign == u'\'' ? 2 : 0), mText.size());
-            return sign == u'\'' ? std::nullopt : std::optional(sign);
+            return sign == u'\'' ? codePageCharacter() : sign == u'~' ? u' ' : sign;
         }
         const TextView word = take([](char16_t unit) { return isAsciiLetter(unit); });
         const bool isNegative = mAt < mText.size() && mText[mAt] == u'-';
@@ -177,7 +198,22 @@ private:
             return unicode(digits, isNegative);
         }
         mAt += mAt < mText.size() && mText[mAt] == u' ' ? 1 : 0;
-        return std::nullopt;
+        const auto* const character = std::find_if(std::begin(kCharacterWords), std::end(kCharacterWords),
+                                                   [&](const CharacterWord& row) { return row.word == word; });
+        return character != std::end(kCharacterWords) ? std::optional(character->unit) : std::nullopt;
+    }
+
+    /// Two hexadecimal digits; any other sign counts as 0.
+    char16_t codePageCharacter() {
+        constexpr TextView kHexDigits = u"0123456789abcdef";
+        std::uint32_t code = 0;
+        for (std::size_t end = std::min(mAt + 2, mText.size()); mAt < end; ++mAt) {
+            const std::size_t digit = kHexDigits.find(toLower(mText[mAt]));
+            code = code * 16 + static_cast<std::uint32_t>(digit != TextView::npos ? digit : 0);
+        }
+        const auto* const character = std::find_if(std::begin(kCodePage), std::end(kCodePage),
+                                                   [&](const CodePageCharacter& row) { return row.code == code; });
+        return character != std::end(kCodePage) ? character->unit : static_cast<char16_t>(code);
     }
 
     /// The number of a character, behind which stands what older readers show for it.

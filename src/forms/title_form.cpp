@@ -188,6 +188,9 @@ Text TitleForm::typedTitle() {
 
 CorrectedTitle TitleForm::correctedTitle() {
     const Text typed = cleanUp(typedTitle());
+    if (typed == mShown.text) {
+        return mShown;
+    }
     const Parts parts = partsOf(typed);
     const Text ruled = element().call(u"formatRule", {Value(parts.whole)}).asText();
     return correct(mShown, typed, concatenate({ruled, TextView(typed).substr(parts.whole.size())}));

@@ -95,6 +95,8 @@ TEST(TitleCorrection, ATextGetsTheLettersOfTheTitle) {
         {u"{\\rtf1\\ansi\\fs17 {\\i The Art }{\\b of\\b0  War}, video}", u"the Art Of war",
          u"{\\rtf1\\ansi\\fs17 {\\i the Art }{\\b Of\\b0  war}, video}"},
         {u"{\\rtf1 \\u201?t\\u233?\\'3f \\{x\\}}", u"\u00E9t\u00E9", u"{\\rtf1 \\u233?t\\u233?\\'3f \\{x\\}}"},
+        {u"{\\rtf1 L\\rquote \\'c9t\\'C9 d\\'92Or\\~Noir}", u"l\u2019\u00E9t\u00C9 d\u2019or noir",
+         u"{\\rtf1 l\\rquote \\u233?t\\'C9 d\\'92or\\~noir}"},
         {u"{\\rtf1 \\{X\\}\\", u"{x}", u"{\\rtf1 \\{x\\}\\"},
         {u"{\\rtf1 \\u99999999999999999999?A\\u65", u"a", u"{\\rtf1 \\u99999999999999999999?a\\u65"},
     };
