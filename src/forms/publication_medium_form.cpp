@@ -182,6 +182,17 @@ void PublicationMediumForm::fill(TextView parentText, TextView secondaryText) {
     const bool isForeign = selected == 0 && std::find(mMedia.begin(), mMedia.end(), secondaryText) == mMedia.end();
     mForeignMedium = isForeign ? secondaryText : TextView();
     showRows();
+    const bool isCut = hasHiddenDetails();
+    mWholeText = isCut ? parentText : TextView();
+    mWrittenText = isCut ? toString() : Text();
+}
+
+bool PublicationMediumForm::hasHiddenDetails() {
+    const Details values = medium().empty() ? Details{0} : mediumOf(medium()).values;
+    return std::any_of(std::begin(kValueBoxes), std::end(kValueBoxes), [&](const TextBinding& binding) {
+        const Control& box = control(binding.box);
+        return has(values, binding.memberIndex) && !box.isVisible() && !box.text().empty();
+    });
 }
 
 void PublicationMediumForm::showRows() {
@@ -220,7 +231,11 @@ void PublicationMediumForm::collect(bool /*isModelPreview*/) {
 }
 
 std::pair<Text, Text> PublicationMediumForm::result() {
-    return {toString(), mForeignMedium.empty() ? Text(medium()) : mForeignMedium};
+    Text text = toString();
+    if (hasHiddenDetails() && text == mWrittenText) {
+        text = mWholeText;
+    }
+    return {std::move(text), mForeignMedium.empty() ? Text(medium()) : mForeignMedium};
 }
 
 void PublicationMediumForm::choiceClicked(Control& control) {

@@ -25,6 +25,8 @@ private:
     void boxChanged(Control& box) override;
     void choiceClicked(Control& control) override;
 
+    /// Whether the medium has a detail that the style does not tell.
+    bool hasHiddenDetails();
     /// The caption of the selected medium; empty when none is.
     TextView medium();
 
@@ -36,6 +38,10 @@ private:
     /// user selects another one.
     Text mForeignMedium;
     Text mLastDisc;
+    // The host's text, and what the element writes for it, where the style leaves details out: as long as that stays
+    // the same, the host gets its own text back.
+    Text mWholeText;
+    Text mWrittenText;
 };
 
 }  // namespace quorvel::forms

@@ -104,8 +104,8 @@ Text nameOf(const std::vector<Text>& captions, std::size_t index) {
     return concatenate({captions.at(index), u",", Value(same).asText()});
 }
 
-bool hasValues(const std::vector<Text>& captions) {
-    return std::any_of(captions.begin(), captions.end(), [](const Text& caption) { return !caption.empty(); });
+bool hasAny(const std::vector<Text>& texts) {
+    return std::any_of(texts.begin(), texts.end(), [](const Text& text) { return !text.empty(); });
 }
 
 }  // namespace
@@ -118,6 +118,7 @@ void RefersToForm::initialize() {
 
 void RefersToForm::fill(TextView parentText, TextView secondaryText) {
     element().call(u"Parse", {Value(parentText), Value(secondaryText)});
+    mReadText = parentText;
     readKinds(secondaryText);
     readStatement();
     const Kind& read = mKinds.at(mReadKind);
@@ -222,7 +223,7 @@ std::vector<Text> RefersToForm::valuesOf(std::size_t kind) {
     std::vector<Text> values = kind == mReadKind ? mReadValues : std::vector<Text>(kValues);
     if (mKinds.at(kind).caption == kSeries) {
         values.front() = seriesValue();
-    } else if (hasValues(mKinds.at(kind).captions)) {
+    } else if (hasAny(mKinds.at(kind).captions)) {
         for (std::int16_t i = 0; i < kValues; ++i) {
             values.at(static_cast<std::size_t>(i)) = control({kBoxes, i}).text();
         }
@@ -242,10 +243,16 @@ void RefersToForm::collect(bool /*isModelPreview*/) {
     }
 }
 
+/// Whether what was read is of a kind that has values here, but no boxes: the style may write nothing of them.
+bool RefersToForm::hasHiddenValues() {
+    const Kind& read = mKinds.at(mReadKind);
+    return read.caption != kSeries && !hasAny(read.captions) && hasAny(mReadValues);
+}
+
 std::pair<Text, Text> RefersToForm::result() {
     Text text = toString();
     if (selectedKind() == mReadKind) {
-        text = concatenate({mBefore, text, mBehind});
+        text = hasHiddenValues() ? mReadText : concatenate({mBefore, text, mBehind});
     }
     return {text, element().text(u"RefersToType")};
 }

@@ -38,6 +38,7 @@ private:
     void showKind(std::size_t kind);
     void keepTexts();
     std::vector<Text> valuesOf(std::size_t kind);
+    bool hasHiddenValues();
     /// The kind of the selected option; beyond the kinds when there is none.
     std::size_t selectedKind();
 
@@ -46,6 +47,7 @@ private:
     /// What was read: the kind, as the element stores it, and its values.
     std::size_t mReadKind = 0;
     Text mReadType;
+    Text mReadText;
     std::vector<Text> mReadValues;
     // What stands round the statement and belongs to none of its values.
     Text mBefore;

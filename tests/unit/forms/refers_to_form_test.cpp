@@ -148,5 +148,11 @@ TEST(RefersToForm, WhatStandsRoundAReprintStays) {
     }
 }
 
+TEST(RefersToForm, WhatTheStyleDoesNotWriteStays) {
+    const ShownForm shown(kRefersTo, statement(u"Retracted in", u"Lancet|2010"), u"retracted in: Lancet. 2010");
+    shown.clickOk();
+    EXPECT_EQ(told(shown).front(), "setParentWidgetsValue(retracted in: Lancet. 2010, Retracted in)");
+}
+
 }  // namespace
 }  // namespace quorvel
