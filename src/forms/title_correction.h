@@ -19,8 +19,6 @@ struct TitleWord {
     bool isKept = false;
     /// The rule has changed it.
     bool isCorrected = false;
-
-    bool operator==(const TitleWord&) const = default;
 };
 
 /// A title as it is shown.
@@ -29,7 +27,6 @@ struct CorrectedTitle {
     std::vector<TitleWord> words;
 
     bool isCorrected() const;
-    bool operator==(const CorrectedTitle&) const = default;
 };
 
 /// A title as it is to be shown after the user's typing.
@@ -37,9 +34,5 @@ struct CorrectedTitle {
 /// @param typed what stands there now
 /// @param ruled the same as the rule has it; one of another length is ignored
 CorrectedTitle correct(const CorrectedTitle& shown, TextView typed, TextView ruled);
-
-/// A text, plain or RTF, in which a title has its own letters: where the text has the same title in other capitals,
-/// those of the title. Unchanged where the title does not stand in it.
-Text withLettersOf(TextView text, TextView title);
 
 }  // namespace quorvel::forms

@@ -5,6 +5,7 @@
 #include "core/procedure.h"
 #include "forms/bindings.h"
 #include "forms/common_ui_functions.h"
+#include "forms/title_letters.h"
 
 namespace quorvel::forms {
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/letter_case.h"
+#include "forms/title_letters.h"
 #include "support/utf8.h"
 
 namespace quorvel {
