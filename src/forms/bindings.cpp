@@ -69,6 +69,16 @@ void collect(Form& form, const EditedObject& element, const ChoiceBinding& bindi
     }
 }
 
+void showOptions(Form& form, TextView options, std::span<const Text> captions, std::size_t selected) {
+    forEachOption(form, options, [&](Control& option) {
+        const auto index = static_cast<std::size_t>(option.index());
+        // "&" would be taken for the mark of a mnemonic.
+        option.setCaption(index < captions.size() ? replaceAll(captions[index], u"&", u"&&") : Text());
+        option.setVisible(!option.caption().empty());
+        option.setValue(index == selected && option.isVisible());
+    });
+}
+
 std::int16_t selectedOption(Form& form, TextView options) {
     std::int16_t selected = kNoIndex;
     forEachOption(form, options, [&](const Control& option) {

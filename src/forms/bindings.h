@@ -42,6 +42,11 @@ void collect(Form& form, const EditedObject& element, std::span<const TextBindin
 void collect(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings);
 void collect(Form& form, const EditedObject& element, const ChoiceBinding& binding);
 
+/// Gives an array of options, which count from 0, the captions that the element offers, in their order. Those that are
+/// left or have no caption are hidden.
+/// @param selected the index of the one that is selected; any index beyond the captions for none
+void showOptions(Form& form, TextView options, std::span<const Text> captions, std::size_t selected);
+
 /// The index of the selected option of an array; kNoIndex when none is.
 std::int16_t selectedOption(Form& form, TextView options);
 

@@ -167,7 +167,7 @@ Text Form::toString(bool isModelPreview, bool isFootnote, bool isRTF) {
                              arguments.resize(static_cast<std::size_t>(mDesign.rtfParameter), Value(false));
                              arguments.emplace_back(true);
                          }
-                         return mDefaultOutputTemplate.call(u"toString", arguments).asText();
+                         return adjusted(mDefaultOutputTemplate.call(u"toString", arguments).asText());
                      });
 }
 
@@ -578,6 +578,15 @@ void Form::UpDown_Click(Control& upDown, bool isUp) {
     procedure(*this, isUp ? Name(u"UpDown_UpClick") : Name(u"UpDown_DownClick"), {{u"Index", upDown.index()}}, [&] {
         spun(upDown, control({upDown.row().buddy, upDown.index()}), isUp);
     });
+}
+
+void Form::spun(Control& /*upDown*/, Control& buddy, bool isUp) {
+    constexpr std::int16_t kFirst = 1;
+    if (isUp) {
+        CommonFormProcessingFunctions::processSpinUp(*this, buddy, kFirst);
+    } else {
+        CommonFormProcessingFunctions::processSpinDown(buddy, kFirst - 1, false);
+    }
 }
 
 void Form::Form_MouseMove(Control* control) {

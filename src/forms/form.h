@@ -120,6 +120,8 @@ protected:
     virtual void fill(TextView parentText, TextView secondaryText) = 0;
     /// Copies the controls into the element.
     virtual void collect(bool isModelPreview) = 0;
+    /// What the element wrote, as the form gives it out.
+    virtual Text adjusted(const Text& written) { return written; }
     /// The two texts for the host: what the form says as a reference-list entry, and none.
     virtual std::pair<Text, Text> result();
     /// What the preview shows: what the form says, or what the preview's own element makes of that.
@@ -133,7 +135,8 @@ protected:
     virtual void choiceClicked(Control& /*control*/) {}
     /// OK and Cancel; a form with other buttons has procedures of its own.
     virtual void buttonClicked(Control& button) { CommandButton_Click(button); }
-    virtual void spun(Control& /*upDown*/, Control& /*buddy*/, bool /*isUp*/) {}
+    /// Counts from 1: up from an empty box, and down to one.
+    virtual void spun(Control& upDown, Control& buddy, bool isUp);
     virtual void textSelected(Control& /*box*/) {}
     virtual void activated() {}
     /// What Enter does in a control where it is neither OK nor a new line; false for OK.

@@ -6,6 +6,10 @@
 
 #include "forms/author_form.h"
 #include "forms/editor_form.h"
+#include "forms/multipart_work_form.h"
+#include "forms/publication_medium_form.h"
+#include "forms/refers_to_form.h"
+#include "forms/title_form.h"
 #include "forms/year_form.h"
 
 namespace quorvel::forms {
@@ -28,8 +32,12 @@ std::shared_ptr<Form> create() {
 // Every form, one a line.
 constexpr FormClass kForms[] = {
     {{0, kNone, kNone}, create<AuthorForm>},
+    {{1, 2, 3}, create<TitleForm>},
     {{6, kNone, kNone}, create<YearForm>},
     {{9, kNone, kNone}, create<EditorForm>},
+    {{10, kNone, kNone}, create<MultipartWorkForm>},
+    {{12, kNone, kNone}, create<RefersToForm>},
+    {{16, kNone, kNone}, create<PublicationMediumForm>},
 };
 
 const FormClass* classWith(std::int16_t whichType) {
