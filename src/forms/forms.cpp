@@ -6,6 +6,7 @@
 
 #include "forms/author_form.h"
 #include "forms/editor_form.h"
+#include "forms/publisher_form.h"
 #include "forms/year_form.h"
 
 namespace quorvel::forms {
@@ -28,6 +29,7 @@ std::shared_ptr<Form> create() {
 // Every form, one a line.
 constexpr FormClass kForms[] = {
     {{0, kNone, kNone}, create<AuthorForm>},
+    {{5, kNone, kNone}, create<PublisherForm>},
     {{6, kNone, kNone}, create<YearForm>},
     {{9, kNone, kNone}, create<EditorForm>},
 };
