@@ -6,6 +6,7 @@
 
 #include "forms/author_form.h"
 #include "forms/editor_form.h"
+#include "forms/page_form.h"
 #include "forms/publisher_form.h"
 #include "forms/year_form.h"
 
@@ -31,6 +32,7 @@ constexpr FormClass kForms[] = {
     {{0, kNone, kNone}, create<AuthorForm>},
     {{5, kNone, kNone}, create<PublisherForm>},
     {{6, kNone, kNone}, create<YearForm>},
+    {{7, kNone, kNone}, create<PageForm>},
     {{9, kNone, kNone}, create<EditorForm>},
 };
 
