@@ -6,6 +6,7 @@
 
 #include "forms/author_form.h"
 #include "forms/editor_form.h"
+#include "forms/issue_form.h"
 #include "forms/page_form.h"
 #include "forms/publisher_form.h"
 #include "forms/year_form.h"
@@ -34,6 +35,7 @@ constexpr FormClass kForms[] = {
     {{6, kNone, kNone}, create<YearForm>},
     {{7, kNone, kNone}, create<PageForm>},
     {{9, kNone, kNone}, create<EditorForm>},
+    {{11, kNone, kNone}, create<IssueForm>},
 };
 
 const FormClass* classWith(std::int16_t whichType) {
