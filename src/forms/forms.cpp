@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "forms/author_form.h"
+#include "forms/edition_form.h"
 #include "forms/editor_form.h"
 #include "forms/issue_form.h"
 #include "forms/page_form.h"
@@ -34,6 +35,7 @@ constexpr FormClass kForms[] = {
     {{5, kNone, kNone}, create<PublisherForm>},
     {{6, kNone, kNone}, create<YearForm>},
     {{7, kNone, kNone}, create<PageForm>},
+    {{8, kNone, kNone}, create<EditionForm>},
     {{9, kNone, kNone}, create<EditorForm>},
     {{11, kNone, kNone}, create<IssueForm>},
 };
