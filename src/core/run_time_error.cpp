@@ -11,6 +11,7 @@ TextView descriptionOf(ErrorNumber number) {
         case ErrorNumber::OutOfStackSpace: return u"Out of stack space";
         case ErrorNumber::InternalError: return u"Internal error";
         case ErrorNumber::ObjectNotSet: return u"Object variable not set";
+        case ErrorNumber::ComponentNotRegistered: return u"Component not correctly registered";
         case ErrorNumber::CannotCreateObject: return u"Component can't create object";
         case ErrorNumber::NoSuchMember: return u"Object doesn't support this property or method";
         case ErrorNumber::AutomationError: return u"Automation error";

@@ -18,6 +18,7 @@ enum class ErrorNumber : std::int32_t {
     OutOfStackSpace = 28,
     InternalError = 51,
     ObjectNotSet = 91,
+    ComponentNotRegistered = 339,
     CannotCreateObject = 429,
     NoSuchMember = 438,
     AutomationError = 440,

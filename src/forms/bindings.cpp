@@ -26,6 +26,14 @@ void put(const EditedObject& element, const char16_t* member, std::int16_t membe
 
 }  // namespace
 
+void read(const EditedObject& element, TextView parentText, TextView secondaryText) {
+    if (secondaryText.empty()) {
+        element.call(u"Parse", {Value(parentText)});
+    } else {
+        element.call(u"Parse", {Value(parentText), Value(secondaryText)});
+    }
+}
+
 void fill(Form& form, const EditedObject& element, std::span<const TextBinding> bindings) {
     for (const TextBinding& binding : bindings) {
         form.control(binding.box)
@@ -87,6 +95,13 @@ std::int16_t selectedOption(Form& form, TextView options) {
         }
     });
     return selected;
+}
+
+void showOffered(Form& form, const LabelledBox& row, bool isOffered) {
+    Control& box = form.control(row.box);
+    const bool isShown = isOffered || !box.text().empty();
+    box.setVisible(isShown);
+    form.control(row.label).setVisible(isShown);
 }
 
 }  // namespace quorvel::forms

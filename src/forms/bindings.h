@@ -33,6 +33,9 @@ struct ChoiceBinding {
     const char16_t* supports = nullptr;
 };
 
+/// Lets the element read the host's text, and the second text where there is one.
+void read(const EditedObject& element, TextView parentText, TextView secondaryText);
+
 void fill(Form& form, const EditedObject& element, std::span<const TextBinding> bindings);
 void fill(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings);
 /// Shows the variants that are offered, and the selected one in any case.
@@ -49,5 +52,13 @@ void showOptions(Form& form, TextView options, std::span<const Text> captions, s
 
 /// The index of the selected option of an array; kNoIndex when none is.
 std::int16_t selectedOption(Form& form, TextView options);
+
+/// A box with the label that stands for it.
+struct LabelledBox {
+    ControlName label;
+    ControlName box;
+};
+/// Shows or hides both. A box that holds something is seen in any case.
+void showOffered(Form& form, const LabelledBox& row, bool isOffered);
 
 }  // namespace quorvel::forms

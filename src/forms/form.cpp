@@ -192,6 +192,11 @@ bool Form::supports(const char16_t* member) {
     return answer ? answer->asFlag() : mDefaultOutputTemplate.flag(member);
 }
 
+std::vector<Text> Form::offered(const char16_t* member) {
+    const std::optional<Value> answer = mModelOutputTemplate.ifAny(member);
+    return answer ? answer->asTexts() : mDefaultOutputTemplate.texts(member);
+}
+
 Value Form::callHost(const char16_t* member, std::initializer_list<Value> arguments) const {
     const LateObjectRef host = mCallback;
     try {

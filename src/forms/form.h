@@ -152,6 +152,8 @@ protected:
     EditedObject& model() { return mModelOutputTemplate; }
     /// What the style supports: the model is asked, and the element where the model does not say.
     bool supports(const char16_t* member);
+    /// The same of a list: the captions that the style offers.
+    std::vector<Text> offered(const char16_t* member);
     const LateObjectRef& callback() const { return mCallback; }
     /// Calls a member of the callback; nothing when the form has none any more. A failure is reported.
     Value callHost(const char16_t* member, std::initializer_list<Value> arguments) const;

@@ -5,11 +5,15 @@
 #include <iterator>
 
 #include "forms/author_form.h"
+#include "forms/edition_form.h"
 #include "forms/editor_form.h"
 #include "forms/multipart_work_form.h"
 #include "forms/publication_medium_form.h"
 #include "forms/refers_to_form.h"
 #include "forms/title_form.h"
+#include "forms/issue_form.h"
+#include "forms/page_form.h"
+#include "forms/publisher_form.h"
 #include "forms/year_form.h"
 
 namespace quorvel::forms {
@@ -33,11 +37,15 @@ std::shared_ptr<Form> create() {
 constexpr FormClass kForms[] = {
     {{0, kNone, kNone}, create<AuthorForm>},
     {{1, 2, 3}, create<TitleForm>},
+    {{5, kNone, kNone}, create<PublisherForm>},
     {{6, kNone, kNone}, create<YearForm>},
+    {{7, kNone, kNone}, create<PageForm>},
+    {{8, kNone, kNone}, create<EditionForm>},
     {{9, kNone, kNone}, create<EditorForm>},
     {{10, kNone, kNone}, create<MultipartWorkForm>},
     {{12, kNone, kNone}, create<RefersToForm>},
     {{16, kNone, kNone}, create<PublicationMediumForm>},
+    {{11, kNone, kNone}, create<IssueForm>},
 };
 
 const FormClass* classWith(std::int16_t whichType) {

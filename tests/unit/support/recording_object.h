@@ -23,6 +23,8 @@ public:
     void has(const char16_t* member, forms::Value value) { mValues[member] = std::move(value); }
     /// A method.
     void does(const char16_t* member, Function function) { mFunctions[member] = std::move(function); }
+    /// A property whose writing does something else.
+    void takes(const char16_t* member, Function function) { mSetters[member] = std::move(function); }
     /// The call with this number, from 1, fails; 0 for none.
     void failAt(int call) { mFailingCall = call; }
     int failing() const { return mFailingCall; }
@@ -40,6 +42,10 @@ public:
     void put(const char16_t* member, Arguments indexesAndValue) const override {
         const Text name = key(member, indexesAndValue.first(indexesAndValue.size() - 1));
         record(name + u"=" + written(indexesAndValue.back()));
+        if (const auto setter = mSetters.find(member); setter != mSetters.end()) {
+            setter->second(indexesAndValue);
+            return;
+        }
         if (!mValues.contains(name)) {
             throw RuntimeError(ErrorNumber::NoSuchMember);
         }
@@ -81,6 +87,7 @@ private:
 
     mutable std::map<Text, forms::Value> mValues;
     std::map<Text, Function> mFunctions;
+    std::map<Text, Function> mSetters;
     int mFailingCall = 0;
 };
 
