@@ -6,6 +6,7 @@
 
 #include "forms/author_form.h"
 #include "forms/editor_form.h"
+#include "forms/place_form.h"
 #include "forms/year_form.h"
 
 namespace quorvel::forms {
@@ -30,6 +31,7 @@ constexpr FormClass kForms[] = {
     {{0, kNone, kNone}, create<AuthorForm>},
     {{6, kNone, kNone}, create<YearForm>},
     {{9, kNone, kNone}, create<EditorForm>},
+    {{15, kNone, kNone}, create<PlaceForm>},
 };
 
 const FormClass* classWith(std::int16_t whichType) {
