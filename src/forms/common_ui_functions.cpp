@@ -18,26 +18,6 @@ constexpr TextView kDocumentBegins = u"{\\rtf";
 
 constexpr char16_t kLastAscii = 0x7F;
 
-/// A text as a part of an RTF document.
-Text escaped(TextView text) {
-    Text result;
-    result.reserve(text.size());
-    for (const char16_t unit : text) {
-        if (unit == u'\\' || unit == u'{' || unit == u'}') {
-            result += u'\\';
-            result += unit;
-        } else if (unit == u'\n') {
-            result += u"\\par ";
-        } else if (unit > kLastAscii) {
-            // Units beyond the middle are negative numbers there.
-            result += u"\\u" + Value(static_cast<std::int32_t>(static_cast<std::int16_t>(unit))).asText() + u"?";
-        } else if (unit != u'\r') {
-            result += unit;
-        }
-    }
-    return result;
-}
-
 bool isDigit(char16_t unit) {
     return unit >= u'0' && unit <= u'9';
 }
@@ -57,6 +37,25 @@ void PreprocessTextField(Control& box) {
             box.setText(trimmed);
         }
     });
+}
+
+Text escaped(TextView text) {
+    Text result;
+    result.reserve(text.size());
+    for (const char16_t unit : text) {
+        if (unit == u'\\' || unit == u'{' || unit == u'}') {
+            result += u'\\';
+            result += unit;
+        } else if (unit == u'\n') {
+            result += u"\\par ";
+        } else if (unit > kLastAscii) {
+            // Units beyond the middle are negative numbers there.
+            result += u"\\u" + Value(static_cast<std::int32_t>(static_cast<std::int16_t>(unit))).asText() + u"?";
+        } else if (unit != u'\r') {
+            result += unit;
+        }
+    }
+    return result;
 }
 
 Text toRTFString(TextView rtfStr) {

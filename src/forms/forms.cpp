@@ -5,7 +5,10 @@
 #include <iterator>
 
 #include "forms/author_form.h"
+#include "forms/date_time_form.h"
 #include "forms/editor_form.h"
+#include "forms/newspaper_title_form.h"
+#include "forms/online_form.h"
 #include "forms/place_form.h"
 #include "forms/year_form.h"
 
@@ -28,10 +31,10 @@ std::shared_ptr<Form> create() {
 
 // Every form, one a line.
 constexpr FormClass kForms[] = {
-    {{0, kNone, kNone}, create<AuthorForm>},
-    {{6, kNone, kNone}, create<YearForm>},
-    {{9, kNone, kNone}, create<EditorForm>},
-    {{15, kNone, kNone}, create<PlaceForm>},
+    {{0, kNone, kNone}, create<AuthorForm>},    {{4, kNone, kNone}, create<NewspaperTitleForm>},
+    {{6, kNone, kNone}, create<YearForm>},      {{9, kNone, kNone}, create<EditorForm>},
+    {{13, kNone, kNone}, create<OnlineForm>},   {{15, kNone, kNone}, create<PlaceForm>},
+    {{17, kNone, kNone}, create<DateTimeForm>},
 };
 
 const FormClass* classWith(std::int16_t whichType) {
