@@ -150,6 +150,7 @@ protected:
     void leaveFocused();
 
     EditedObject& element() { return mDefaultOutputTemplate; }
+    const EditedObject& element() const { return mDefaultOutputTemplate; }
     EditedObject& model() { return mModelOutputTemplate; }
     /// What the style supports: the model is asked, and the element where the model does not say.
     bool supports(const char16_t* member);

@@ -7,7 +7,9 @@
 #include "forms/author_form.h"
 #include "forms/date_time_form.h"
 #include "forms/editor_form.h"
+#include "forms/keywords_form.h"
 #include "forms/newspaper_title_form.h"
+#include "forms/notes_form.h"
 #include "forms/online_form.h"
 #include "forms/place_form.h"
 #include "forms/year_form.h"
@@ -30,12 +32,19 @@ std::shared_ptr<Form> create() {
 }
 
 // Every form, one a line.
+// clang-format off
 constexpr FormClass kForms[] = {
-    {{0, kNone, kNone}, create<AuthorForm>},    {{4, kNone, kNone}, create<NewspaperTitleForm>},
-    {{6, kNone, kNone}, create<YearForm>},      {{9, kNone, kNone}, create<EditorForm>},
-    {{13, kNone, kNone}, create<OnlineForm>},   {{15, kNone, kNone}, create<PlaceForm>},
+    {{0, kNone, kNone}, create<AuthorForm>},
+    {{4, kNone, kNone}, create<NewspaperTitleForm>},
+    {{6, kNone, kNone}, create<YearForm>},
+    {{9, kNone, kNone}, create<EditorForm>},
+    {{13, kNone, kNone}, create<OnlineForm>},
+    {{14, kNone, kNone}, create<KeywordsForm>},
+    {{15, kNone, kNone}, create<PlaceForm>},
     {{17, kNone, kNone}, create<DateTimeForm>},
+    {{18, kNone, kNone}, create<NotesForm>},
 };
+// clang-format on
 
 const FormClass* classWith(std::int16_t whichType) {
     const auto* const found = std::find_if(std::begin(kForms), std::end(kForms), [&](const FormClass& row) {
