@@ -39,6 +39,25 @@ void PreprocessTextField(Control& box) {
     });
 }
 
+Text escaped(TextView text) {
+    Text result;
+    result.reserve(text.size());
+    for (const char16_t unit : text) {
+        if (unit == u'\\' || unit == u'{' || unit == u'}') {
+            result += u'\\';
+            result += unit;
+        } else if (unit == u'\n') {
+            result += u"\\par ";
+        } else if (unit > kLastAscii) {
+            // Units beyond the middle are negative numbers there.
+            result += u"\\u" + Value(static_cast<std::int32_t>(static_cast<std::int16_t>(unit))).asText() + u"?";
+        } else if (unit != u'\r') {
+            result += unit;
+        }
+    }
+    return result;
+}
+
 Text toRTFString(TextView rtfStr) {
     return procedure(kModule, u"toRTFString", {{u"rtfStr", rtfStr}}, [&] {
         // A digit would belong to the header's last control word.

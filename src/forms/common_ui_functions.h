@@ -17,6 +17,9 @@ void SetFormIcon(Form& form, const LateObjectRef& icon);
 /// Trims the blanks of a box, which raises no change when there are none.
 void PreprocessTextField(Control& box);
 
+/// A text as a part of an RTF document.
+Text escaped(TextView text);
+
 /// A one-paragraph document of a text that is RTF already, or escaped.
 Text toRTFString(TextView rtfStr);
 

@@ -62,6 +62,7 @@ struct ControlRow {
     TextView buddy;
     /// Of a screen reader's name, where no label stands before the control.
     TextView accessibleName;
+    /// Of text boxes, in which Enter is a new line then, and of the captions of options and check boxes.
     bool isMultiLine = false;
     bool isReadOnly = false;
     bool isHidden = false;

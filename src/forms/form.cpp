@@ -162,13 +162,17 @@ Text Form::toString(bool isModelPreview, bool isFootnote, bool isRTF) {
     return procedure(*this, u"toString",
                      {{u"isModelPreview", isModelPreview}, {u"isFootnote", isFootnote}, {u"isRTF", isRTF}}, [&] {
                          collect(isModelPreview);
-                         std::vector<Value> arguments = {Value(isFootnote)};
-                         if (isRTF && mDesign.rtfParameter > 0) {
-                             arguments.resize(static_cast<std::size_t>(mDesign.rtfParameter), Value(false));
-                             arguments.emplace_back(true);
-                         }
-                         return adjusted(mDefaultOutputTemplate.call(u"toString", arguments).asText());
+                         return written(isFootnote, isRTF);
                      });
+}
+
+Text Form::written(bool isFootnote, bool isRTF) {
+    std::vector<Value> arguments = {Value(isFootnote)};
+    if (isRTF && mDesign.rtfParameter > 0) {
+        arguments.resize(static_cast<std::size_t>(mDesign.rtfParameter), Value(false));
+        arguments.emplace_back(true);
+    }
+    return mDefaultOutputTemplate.call(u"toString", arguments).asText();
 }
 
 Text Form::preview() {
@@ -486,12 +490,12 @@ void Form::userPointedAt(Control* control) {
     });
 }
 
-void Form::userSelectedText(Control& control) {
-    handle(u"KeyUp", [&] { textSelected(control); });
+void Form::userSelectedText(Control& control, SelectedBy by) {
+    handle(by == SelectedBy::Key ? u"KeyUp" : u"MouseMove", [&] { textSelected(control, by); });
 }
 
 bool Form::isEnterOk(const Control& focus) const {
-    return !focus.row().isMultiLine;
+    return focus.kind() != ControlKind::TextBox || !focus.row().isMultiLine;
 }
 
 void Form::userPressedEnter() {
@@ -532,7 +536,10 @@ void Form::TextBox_LostFocus(Control& box) {
     procedure(*this, u"TextBox_LostFocus", {{u"Index", box.index()}}, [&] {
         {
             const Filling filling(*this);
-            CommonUIFunctions::PreprocessTextField(box);
+            // Lines keep their blanks.
+            if (!box.row().isMultiLine) {
+                CommonUIFunctions::PreprocessTextField(box);
+            }
             boxLeft(box);
         }
         UpdateOutput();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <memory>
 #include <span>
@@ -12,6 +13,9 @@
 #include "forms/view.h"
 
 namespace quorvel::forms {
+
+/// By what a selection of characters may have become another.
+enum class SelectedBy : std::uint8_t { Key, Mouse };
 
 /// An editor form: the protocol that all share, between the proxy that shows it, the element that it edits and the
 /// host that it tells of the result. A form derives from it with its table of controls and its particulars, the virtual
@@ -102,7 +106,7 @@ public:
     /// The mouse came upon a control, or upon the bare form (null): told once, not at each move.
     void userPointedAt(Control* control);
     /// A key was released in a box, or the mouse moved over it: what depends on its selection may have changed.
-    void userSelectedText(Control& control);
+    void userSelectedText(Control& control, SelectedBy by = SelectedBy::Key);
     /// Whether Enter means OK while the focus is in this control, rather than a new line.
     virtual bool isEnterOk(const Control& focus) const;
     void userPressedEnter();
@@ -120,8 +124,8 @@ protected:
     virtual void fill(TextView parentText, TextView secondaryText) = 0;
     /// Copies the controls into the element.
     virtual void collect(bool isModelPreview) = 0;
-    /// What the element wrote, as the form gives it out.
-    virtual Text adjusted(const Text& written) { return written; }
+    /// What the controls that were collected say, as the element writes it.
+    virtual Text written(bool isFootnote, bool isRTF);
     /// The two texts for the host: what the form says as a reference-list entry, and none.
     virtual std::pair<Text, Text> result();
     /// What the preview shows: what the form says, or what the preview's own element makes of that.
@@ -137,7 +141,7 @@ protected:
     virtual void buttonClicked(Control& button) { CommandButton_Click(button); }
     /// Counts from 1: up from an empty box, and down to one.
     virtual void spun(Control& upDown, Control& buddy, bool isUp);
-    virtual void textSelected(Control& /*box*/) {}
+    virtual void textSelected(Control& /*box*/, SelectedBy /*by*/) {}
     virtual void activated() {}
     /// What Enter does in a control where it is neither OK nor a new line; false for OK.
     virtual bool enterPressed(Control* /*focus*/) { return false; }
@@ -149,6 +153,7 @@ protected:
     void leaveFocused();
 
     EditedObject& element() { return mDefaultOutputTemplate; }
+    const EditedObject& element() const { return mDefaultOutputTemplate; }
     EditedObject& model() { return mModelOutputTemplate; }
     /// What the style supports: the model is asked, and the element where the model does not say.
     bool supports(const char16_t* member);

@@ -244,7 +244,8 @@ void TitleForm::collect(bool /*isModelPreview*/) {
 }
 
 /// The element writes every title by the rule: the user's words get their letters back.
-Text TitleForm::adjusted(const Text& written) {
+Text TitleForm::written(bool isFootnote, bool isRTF) {
+    const Text written = Form::written(isFootnote, isRTF);
     return withLettersOf(written, mWritten);
 }
 

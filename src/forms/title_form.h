@@ -20,7 +20,7 @@ public:
 private:
     void fill(TextView parentText, TextView secondaryText) override;
     void collect(bool isModelPreview) override;
-    Text adjusted(const Text& written) override;
+    Text written(bool isFootnote, bool isRTF) override;
     std::pair<Text, Text> result() override;
     void boxLeft(Control& box) override;
     void choiceClicked(Control& control) override;
