@@ -37,7 +37,7 @@ ImplementorRef HostImplementor::of(IDispatch* implementor) {
 }
 
 void HostImplementor::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
-    mObject.call(L"ToFormattedString", dispatchOf(formattedStr.get()), isFootnote, shortenedVersion);
+    mObject.callWithOptional(L"ToFormattedString", 1, 3, dispatchOf(formattedStr.get()), isFootnote, shortenedVersion);
 }
 
 bool HostImplementor::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,

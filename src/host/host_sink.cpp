@@ -9,11 +9,11 @@ OutputSinkRef HostSink::of(IDispatch* formattedStr) {
 }
 
 void HostSink::Add(TextView text) {
-    mObject.call(L"Add", text);
+    mObject.callWithOptional(L"Add", 1, 1, text, std::int32_t{kPlain});
 }
 
 void HostSink::Add(TextView text, std::int32_t font) {
-    mObject.call(L"Add", text, font);
+    mObject.callWithOptional(L"Add", 1, 2, text, font);
 }
 
 void HostSink::addFormattedString(const OutputSink& fragment) {

@@ -201,6 +201,35 @@ TEST_F(Sink, WithoutWhatItShouldHave) {
     }
 }
 
+TEST_F(Sink, IsCalledWithTheNumberOfArgumentsThatItTakes) {
+    constexpr HRESULT kOwn = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 450);
+    // How many arguments each call had: the other number once, and nothing again that failed while it ran.
+    struct Case {
+        std::size_t taken;
+        HRESULT refusal;
+        const wchar_t* counts;
+        const wchar_t* text;
+    };
+    for (const Case& c : {Case{1, DISP_E_BADPARAMCOUNT, L"112111", L"A, B"},
+                          {2, DISP_E_PARAMNOTOPTIONAL, L"122222", L"A, B"},
+                          {2, kOwn, L"1212", L", "},
+                          {3, DISP_E_BADPARAMCOUNT, L"12211221", L""}}) {
+        std::wstring counts, written;
+        const auto strict = makeObject<DispatchObject>();
+        strict->addMethod(L"Add", [&](const Arguments& arguments, VARIANT&) -> HRESULT {
+            counts += std::to_wstring(arguments.size());
+            if (arguments.size() != c.taken && c.refusal == kOwn) throw ComError{kOwn, L"mine"};
+            if (arguments.size() != c.taken) return c.refusal;
+            written += arguments.text(0);
+            return S_OK;
+        });
+        const LateBoundObject author = library.build(0, text.get());
+        author.call(L"Parse", {L"A, and B"});
+        author.call(L"ToFormattedString", {strict.get()});
+        EXPECT_EQ(counts + written, std::wstring(c.counts) + c.text);
+    }
+}
+
 struct Text {
     std::int32_t code;
     const wchar_t* text;

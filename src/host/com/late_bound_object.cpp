@@ -14,6 +14,10 @@ constexpr LCID kNeutral = LOCALE_NEUTRAL;
 
 constexpr std::size_t kMostArguments = 8;
 
+constexpr WORD kCall = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+
+constexpr TextView kScriptEngine = u"Microsoft VBScript";
+
 }  // namespace
 
 LateBoundObject::LateBoundObject(IDispatch* object)
@@ -39,15 +43,15 @@ void LateBoundObject::putElement(std::int32_t index, Variant value) const {
     invoke(lookUp(std::to_wstring(index).c_str()), DISPATCH_PROPERTYPUT, &value, 1);
 }
 
-DISPID LateBoundObject::idOf(const wchar_t* member) const {
+std::size_t LateBoundObject::indexOf(const wchar_t* member) const {
     const std::wstring_view name = member;
-    const auto known = std::find_if(mIds.begin(), mIds.end(), [&](const auto& entry) { return entry.first == name; });
-    if (known != mIds.end()) {
-        return known->second;
+    const auto known = std::find_if(mMembers.begin(), mMembers.end(), [&](const Member& m) { return m.name == name; });
+    if (known != mMembers.end()) {
+        return static_cast<std::size_t>(known - mMembers.begin());
     }
     const DISPID id = lookUp(member);
-    mIds.emplace_back(name, id);
-    return id;
+    mMembers.push_back({name, id});
+    return mMembers.size() - 1;
 }
 
 DISPID LateBoundObject::lookUp(const wchar_t* member) const {
@@ -67,18 +71,61 @@ DISPID LateBoundObject::lookUp(const wchar_t* member) const {
         outcome = mObject->GetIDsOfNames(IID_NULL, &spelling, 1, kNeutral, &id);
     }
     if (FAILED(outcome)) {
-        EXCEPINFO none = {};
-        throw automationError(outcome, none, mObject.get());
+        throw automationError(outcome, ExceptionInfo(), mObject.get());
     }
     return id;
 }
 
 Variant LateBoundObject::invoke(const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const {
-    return invoke(idOf(member), flags, arguments, count);
+    return invoke(mMembers[indexOf(member)].id, flags, arguments, count);
 }
 
 Variant LateBoundObject::invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const {
     const ComPtr<IDispatch> keepAlive = mObject;
+    Variant result;
+    ExceptionInfo exception;
+    const HRESULT outcome = tryInvoke(id, flags, arguments, count, result, exception);
+    if (FAILED(outcome)) {
+        throw automationError(outcome, exception, keepAlive.get());
+    }
+    return result;
+}
+
+Variant LateBoundObject::invokeWithOptional(const wchar_t* member, std::size_t required, std::size_t given,
+                                            const Variant* arguments, std::size_t all) const {
+    const ComPtr<IDispatch> keepAlive = mObject;
+    const std::size_t index = indexOf(member);
+    const DISPID id = mMembers[index].id;
+    const std::size_t first = mMembers[index].onlyCount != 0 ? mMembers[index].onlyCount : given;
+    Variant result;
+    ExceptionInfo exception;
+    const HRESULT outcome = tryInvoke(id, kCall, arguments, first, result, exception);
+    if (SUCCEEDED(outcome)) {
+        mMembers[index].accepted |= 1U << first;
+        return result;
+    }
+    const bool isRefused = (mMembers[index].accepted & 1U << first) == 0 && isRefusalOfCount(outcome, exception);
+    for (std::size_t count = all; isRefused && count >= required; --count) {
+        if (count == first) {
+            continue;
+        }
+        Variant otherResult;
+        ExceptionInfo otherException;
+        const HRESULT otherOutcome = tryInvoke(id, kCall, arguments, count, otherResult, otherException);
+        if (FAILED(otherOutcome) && isRefusalOfCount(otherOutcome, otherException)) {
+            continue;
+        }
+        mMembers[index].onlyCount = count;
+        if (FAILED(otherOutcome)) {
+            throw automationError(otherOutcome, otherException, keepAlive.get());
+        }
+        return otherResult;
+    }
+    throw automationError(outcome, exception, keepAlive.get());
+}
+
+HRESULT LateBoundObject::tryInvoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count, Variant& result,
+                                   ExceptionInfo& exception) const {
     std::array<VARIANTARG, kMostArguments> reversed{};
     // Copied without taking over: the callee may change an argument only through a reference.
     std::reverse_copy(arguments, arguments + count, reversed.begin());
@@ -88,16 +135,31 @@ Variant LateBoundObject::invoke(DISPID id, WORD flags, const Variant* arguments,
         parameters.rgdispidNamedArgs = &propertyPut;
         parameters.cNamedArgs = 1;
     }
-    Variant result;
-    EXCEPINFO exception = {};
     UINT badArgument = 0;
     const HRESULT outcome =
         mObject->Invoke(id, IID_NULL, kNeutral, flags, &parameters, flags == DISPATCH_PROPERTYPUT ? nullptr : &result,
                         &exception, &badArgument);
-    if (FAILED(outcome)) {
-        throw automationError(outcome, exception, mObject.get());
+    if (outcome == DISP_E_EXCEPTION) {
+        exception.complete();
     }
-    return result;
+    return outcome;
+}
+
+/// Whether the call itself was refused for its number of arguments, so that nothing of the member ran.
+bool LateBoundObject::isRefusalOfCount(HRESULT outcome, const ExceptionInfo& exception) const {
+    if (outcome == DISP_E_BADPARAMCOUNT || outcome == DISP_E_PARAMNOTOPTIONAL || outcome == DISP_E_PARAMNOTFOUND) {
+        return true;
+    }
+    if (!mObjectEx) {
+        return false;
+    }
+    // VBScript raises its error 450, which its procedure may have raised inside as well; but a procedure that ran
+    // with one number of arguments refuses each other one. Wine's engine fails without a word, which no error from
+    // inside does there.
+    const bool isWordless = outcome == E_FAIL && exception.scode == 0 && exception.wCode == 0;
+    const bool isVBScript = outcome != DISP_E_EXCEPTION || view(exception.bstrSource).starts_with(kScriptEngine);
+    constexpr auto kWrongNumber = static_cast<std::int32_t>(ErrorNumber::WrongNumberOfArguments);
+    return isWordless || (isVBScript && numberOf(outcome, exception) == kWrongNumber);
 }
 
 }  // namespace quorvel::host

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/com/automation_error.h"
 #include "host/com/com_ptr.h"
 #include "host/com/host_reference.h"
 #include "host/com/variant.h"
@@ -31,6 +32,17 @@ public:
         return invoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, values.data(), values.size());
     }
 
+    /// Calls a method whose last arguments are optional, with the first `given` of these. A host's procedure may
+    /// take exactly what it declares, as those of VBScript do: one that refuses the call for its number of
+    /// arguments is called with another number, at least `required`, and with that from then on. Nothing runs
+    /// twice: an error from inside the procedure is no refusal.
+    template <class... Arguments>
+    Variant callWithOptional(const wchar_t* member, std::size_t required, std::size_t given,
+                             Arguments&&... arguments) const {
+        const std::array<Variant, sizeof...(Arguments)> values = {Variant(std::forward<Arguments>(arguments))...};
+        return invokeWithOptional(member, required, given, values.data(), values.size());
+    }
+
     /// Reads a property without arguments.
     Variant get(const wchar_t* member) const;
 
@@ -46,17 +58,32 @@ public:
     void putElement(std::int32_t index, Variant value) const;
 
 private:
-    /// The id of a member whose name is a literal; it is looked up once.
-    DISPID idOf(const wchar_t* member) const;
+    struct Member {
+        std::wstring_view name;
+        DISPID id;
+        /// The number of arguments that it takes when it refused another one; else 0.
+        std::size_t onlyCount = 0;
+        /// Numbers of arguments with which it ran, as bits.
+        unsigned accepted = 0;
+    };
+
+    /// Where in `mMembers` a member stands whose name is a literal; it is looked up once. No reference, since a call
+    /// may come back and look up others.
+    std::size_t indexOf(const wchar_t* member) const;
     DISPID lookUp(const wchar_t* member) const;
     /// `arguments` in the order of the declaration.
     Variant invoke(const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const;
     Variant invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const;
+    Variant invokeWithOptional(const wchar_t* member, std::size_t required, std::size_t given, const Variant* arguments,
+                               std::size_t all) const;
+    HRESULT tryInvoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count, Variant& result,
+                      ExceptionInfo& exception) const;
+    bool isRefusalOfCount(HRESULT outcome, const ExceptionInfo& exception) const;
 
     ComPtr<IDispatch> mObject;
     // Scripting engines answer the exact letter case through this interface only.
     ComPtr<IDispatchEx> mObjectEx;
-    mutable std::vector<std::pair<std::wstring_view, DISPID>> mIds;
+    mutable std::vector<Member> mMembers;
 };
 
 /// An argument of `LateBoundObject::call` that the host fills: read `value` afterwards.
