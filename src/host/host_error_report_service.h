@@ -11,7 +11,7 @@ namespace quorvel::host {
 /// The host's error-report service behind the port.
 class HostErrorReportService final : public ErrorReportService {
 public:
-    explicit HostErrorReportService(IDispatch* errorParams) : mObject(errorParams) {}
+    explicit HostErrorReportService(IDispatch* errorParams) : mObject(errorParams, u"the error-report service") {}
 
     void vbwProcIn(TextView procedure, TextView parameters) override;
     void vbwProcOut() override;

@@ -13,7 +13,7 @@ public:
     /// An empty reference for a host that passed none.
     static ImplementorRef of(IDispatch* implementor);
 
-    explicit HostImplementor(IDispatch* implementor) : mObject(implementor) {}
+    explicit HostImplementor(IDispatch* implementor) : mObject(implementor, u"the implementor") {}
 
     void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
     bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,

@@ -12,7 +12,7 @@ public:
     /// An empty reference for a host that passed none.
     static OutputSinkRef of(IDispatch* formattedStr);
 
-    explicit HostSink(IDispatch* formattedStr) : mObject(formattedStr) {}
+    explicit HostSink(IDispatch* formattedStr) : mObject(formattedStr, u"the formatted text") {}
 
     void Add(TextView text) override;
     void Add(TextView text, std::int32_t font) override;

@@ -61,13 +61,16 @@ std::int32_t numberOf(HRESULT failure, const ExceptionInfo& exception) {
                                                          : static_cast<std::int32_t>(errorNumberOf(failure));
 }
 
-RuntimeError automationError(HRESULT failure, const ExceptionInfo& exception, IDispatch* object) {
+RuntimeError automationError(HRESULT failure, const ExceptionInfo& exception, IDispatch* object, TextView subject) {
     const std::int32_t number = numberOf(failure, exception);
     Text description(view(exception.bstrDescription));
     if (description.empty()) {
         description = descriptionOf(static_cast<ErrorNumber>(number));
     }
-    return {number, std::move(description), std::make_shared<HostReference>(object)};
+    if (const TextView source = view(exception.bstrSource); !source.empty()) {
+        description += concatenate({u" (", source, u")"});
+    }
+    return {number, concatenate({description, u": ", subject}), std::make_shared<HostReference>(object)};
 }
 
 }  // namespace quorvel::host

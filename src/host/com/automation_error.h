@@ -29,7 +29,8 @@ struct ExceptionInfo : EXCEPINFO {
 /// The classic number of a failure that a late-bound call left behind, or the one that the host raised itself.
 std::int32_t numberOf(HRESULT failure, const ExceptionInfo& exception);
 
-/// That failure as an error of `object`.
-RuntimeError automationError(HRESULT failure, const ExceptionInfo& exception, IDispatch* object);
+/// That failure as an error of `object`, with the host's own description and source where it gave them.
+/// @param subject what failed: "Add of the formatted text"
+RuntimeError automationError(HRESULT failure, const ExceptionInfo& exception, IDispatch* object, TextView subject);
 
 }  // namespace quorvel::host

@@ -20,8 +20,8 @@ constexpr TextView kScriptEngine = u"Microsoft VBScript";
 
 }  // namespace
 
-LateBoundObject::LateBoundObject(IDispatch* object)
-    : mObject(object), mObjectEx(queryFor<IDispatchEx>(object, IID_IDispatchEx)) {}
+LateBoundObject::LateBoundObject(IDispatch* object, const char16_t* role)
+    : mRole(role), mObject(object), mObjectEx(queryFor<IDispatchEx>(object, IID_IDispatchEx)) {}
 
 Variant LateBoundObject::get(const wchar_t* member) const {
     // A script's data member refuses a call, a script's function is only called: each in its turn.
@@ -36,11 +36,13 @@ Variant LateBoundObject::get(const wchar_t* member) const {
 }
 
 Variant LateBoundObject::element(std::int32_t index) const {
-    return invoke(lookUp(std::to_wstring(index).c_str()), DISPATCH_PROPERTYGET, nullptr, 0);
+    const std::wstring member = std::to_wstring(index);
+    return invoke(lookUp(member.c_str()), member.c_str(), DISPATCH_PROPERTYGET, nullptr, 0);
 }
 
 void LateBoundObject::putElement(std::int32_t index, Variant value) const {
-    invoke(lookUp(std::to_wstring(index).c_str()), DISPATCH_PROPERTYPUT, &value, 1);
+    const std::wstring member = std::to_wstring(index);
+    invoke(lookUp(member.c_str()), member.c_str(), DISPATCH_PROPERTYPUT, &value, 1);
 }
 
 std::size_t LateBoundObject::indexOf(const wchar_t* member) const {
@@ -56,7 +58,7 @@ std::size_t LateBoundObject::indexOf(const wchar_t* member) const {
 
 DISPID LateBoundObject::lookUp(const wchar_t* member) const {
     if (!mObject) {
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
+        throw RuntimeError(ErrorNumber::ObjectNotSet, descriptionOf(ErrorNumber::ObjectNotSet, named(member)));
     }
     const ComPtr<IDispatch> keepAlive = mObject;
     DISPID id = DISPID_UNKNOWN;
@@ -71,22 +73,23 @@ DISPID LateBoundObject::lookUp(const wchar_t* member) const {
         outcome = mObject->GetIDsOfNames(IID_NULL, &spelling, 1, kNeutral, &id);
     }
     if (FAILED(outcome)) {
-        throw automationError(outcome, ExceptionInfo(), mObject.get());
+        throw automationError(outcome, ExceptionInfo(), mObject.get(), named(member));
     }
     return id;
 }
 
 Variant LateBoundObject::invoke(const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const {
-    return invoke(mMembers[indexOf(member)].id, flags, arguments, count);
+    return invoke(mMembers[indexOf(member)].id, member, flags, arguments, count);
 }
 
-Variant LateBoundObject::invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const {
+Variant LateBoundObject::invoke(DISPID id, const wchar_t* member, WORD flags, const Variant* arguments,
+                                std::size_t count) const {
     const ComPtr<IDispatch> keepAlive = mObject;
     Variant result;
     ExceptionInfo exception;
     const HRESULT outcome = tryInvoke(id, flags, arguments, count, result, exception);
     if (FAILED(outcome)) {
-        throw automationError(outcome, exception, keepAlive.get());
+        throw automationError(outcome, exception, keepAlive.get(), named(member));
     }
     return result;
 }
@@ -117,11 +120,11 @@ Variant LateBoundObject::invokeWithOptional(const wchar_t* member, std::size_t r
         }
         mMembers[index].onlyCount = count;
         if (FAILED(otherOutcome)) {
-            throw automationError(otherOutcome, otherException, keepAlive.get());
+            throw automationError(otherOutcome, otherException, keepAlive.get(), named(member));
         }
         return otherResult;
     }
-    throw automationError(outcome, exception, keepAlive.get());
+    throw automationError(outcome, exception, keepAlive.get(), named(member));
 }
 
 HRESULT LateBoundObject::tryInvoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count, Variant& result,
@@ -143,6 +146,10 @@ HRESULT LateBoundObject::tryInvoke(DISPID id, WORD flags, const Variant* argumen
         exception.complete();
     }
     return outcome;
+}
+
+Text LateBoundObject::named(const wchar_t* member) const {
+    return concatenate({reinterpret_cast<const char16_t*>(member), u" of ", mRole});
 }
 
 /// Whether the call itself was refused for its number of arguments, so that nothing of the member ran.

@@ -21,7 +21,8 @@ namespace quorvel::host {
 class LateBoundObject {
 public:
     /// Empty when the host passed no object; every call then fails with error 91.
-    explicit LateBoundObject(IDispatch* object);
+    /// @param role what the object is to the library, a literal for reports: "the formatted text"
+    LateBoundObject(IDispatch* object, const char16_t* role);
 
     IDispatch* dispatch() const { return mObject.get(); }
 
@@ -41,6 +42,18 @@ public:
                              Arguments&&... arguments) const {
         const std::array<Variant, sizeof...(Arguments)> values = {Variant(std::forward<Arguments>(arguments))...};
         return invokeWithOptional(member, required, given, values.data(), values.size());
+    }
+
+    /// Calls a method and reads its answer; one that does not convert is an error that names the method.
+    template <class Answer, class... Arguments>
+    Answer ask(Answer (*read)(const VARIANT&), const wchar_t* member, Arguments&&... arguments) const {
+        const Variant answer = call(member, std::forward<Arguments>(arguments)...);
+        try {
+            return read(answer);
+        } catch (const RuntimeError& error) {
+            throw RuntimeError(error.number(), concatenate({error.description(), u": the answer of ", named(member)}),
+                               error.object());
+        }
     }
 
     /// Reads a property without arguments.
@@ -73,13 +86,16 @@ private:
     DISPID lookUp(const wchar_t* member) const;
     /// `arguments` in the order of the declaration.
     Variant invoke(const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const;
-    Variant invoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count) const;
+    Variant invoke(DISPID id, const wchar_t* member, WORD flags, const Variant* arguments, std::size_t count) const;
     Variant invokeWithOptional(const wchar_t* member, std::size_t required, std::size_t given, const Variant* arguments,
                                std::size_t all) const;
     HRESULT tryInvoke(DISPID id, WORD flags, const Variant* arguments, std::size_t count, Variant& result,
                       ExceptionInfo& exception) const;
+    /// "Add of the formatted text".
+    Text named(const wchar_t* member) const;
     bool isRefusalOfCount(HRESULT outcome, const ExceptionInfo& exception) const;
 
+    const char16_t* mRole;
     ComPtr<IDispatch> mObject;
     // Scripting engines answer the exact letter case through this interface only.
     ComPtr<IDispatchEx> mObjectEx;
