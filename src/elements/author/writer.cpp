@@ -102,6 +102,11 @@ bool AuthorWriter::reversesFirst(bool isFootnote) const {
     return !isFootnote || (options().ReverseFirstOnFootnote && !readsOn);
 }
 
+/// APA 6 6.27: an ellipsis stands in a reference list; a citation has "et al." all the same (6.12).
+bool AuthorWriter::writesEllipses() const {
+    return options().etAlUsesElipses && !mIsMinimal && !mIsCitation;
+}
+
 bool AuthorWriter::fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& /*formattedItems*/,
                              bool shortenedVersion) {
     using namespace authorlayout;
@@ -111,7 +116,7 @@ bool AuthorWriter::fillSlots(bool isFootnote, std::vector<Text>& items, std::vec
         items.at(kEditor) = editorTag(mElement, *mStyle, persons);
     }
     const bool isWithinLimit = (!isFootnote && !options().etAlInReferenceList) || all < mTrigger;
-    if (isWithinLimit && (!persons.hasEtAl || options().etAlUsesElipses)) {
+    if (isWithinLimit && (!persons.hasEtAl || writesEllipses())) {
         ToArray(isFootnote, items, shortenedVersion);
         return false;
     }
@@ -122,8 +127,8 @@ bool AuthorWriter::fillSlots(bool isFootnote, std::vector<Text>& items, std::vec
     }
     const std::int16_t last = std::min(all, mKept);
     writePersons(isFootnote, items, shortenedVersion, last);
-    if (options().etAlUsesElipses && !mIsMinimal && !mIsCitation && all > mKept) {
-        // APA 6 6.27: the first six, an ellipsis, the last; a citation has "et al." all the same.
+    if (writesEllipses() && all > mKept) {
+        // The first six, an ellipsis, the last.
         const TextView comma = last > 1 || !options().twoAuthorsIsOnlyCaseHaveNoComma ? u"," : u"";
         const Text& name = toStringAuthor(before(all), options().reverseSecondaryAuthors, !shortenedVersion);
         items.at(at(std::min<std::int16_t>(last, kSixthPerson))).append(comma).append(kOmission).append(name);
@@ -148,7 +153,7 @@ void AuthorWriter::ToArray(bool isFootnote, std::vector<Text>& items, bool short
                       return;
                   }
                   const Text& last = toStringAuthor(before(all), options().reverseSecondaryAuthors, !shortenedVersion);
-                  if (mPersons->hasEtAl && options().etAlUsesElipses) {
+                  if (mPersons->hasEtAl && writesEllipses()) {
                       // The ellipsis takes the place of the and-word that the layout would write, and of no
                       // other: an "and" inside a name stays.
                       const bool isPair = all == 2;

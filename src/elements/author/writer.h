@@ -46,6 +46,7 @@ private:
     const AuthorOptions& options() const { return mStyle->options; }
     bool writesSemicolons() const;
     bool reversesFirst(bool isFootnote) const;
+    bool writesEllipses() const;
     void ToArray(bool isFootnote, std::vector<Text>& items, bool shortenedVersion);
     void writePersons(bool isFootnote, std::vector<Text>& items, bool shortenedVersion, std::int16_t last);
     // The text of a person; it stands until the next one is asked for.

@@ -150,6 +150,12 @@ void OutputTemplateCitation::Initialize(const OutputSinkRef& formattedStr, bool 
                   mCallback = nullptr;
                   mFormattedStr = object(formattedStr).Clone();
                   mIndexes = CitationFieldIndexes(object(held(keyToInternalIndex)));
+                  if (!authorModelOutputTemplate) {
+                      throw RuntimeError(
+                          ErrorNumber::ObjectNotSet,
+                          descriptionOf(ErrorNumber::ObjectNotSet,
+                                        u"authorModelOutputTemplate; authors stand as the model has them"));
+                  }
               });
 }
 
@@ -191,8 +197,9 @@ void OutputTemplateCitation::layOut() {
 
 void OutputTemplateCitation::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
+        Text rest = citationtext::takeLaterCitations(text);
         mFields = citationtext::read(text, previousStr);
-        text.clear();
+        text = std::move(rest);
     });
 }
 

@@ -115,6 +115,11 @@ bool OutputTemplateTitle::fillSlots(bool /*isFootnote*/, std::vector<Text>& item
         items.at(kTranslationSlot) = std::move(translation);
         items.at(kDescriptionSlot) = description;
         movePunctuation(items, title);
+        if (titletypes::isSentence(text, mFormat)) {
+            title += endsWithPunctuation(title) ? u"" : u".";
+            items.at(kDescriptionSlot).clear();
+            items.at(kAfterMarkSlot) = description;
+        }
     }
     // A copy: the host may ask for a new layout while it is written to.
     const OutputSinkRef fragment = formattedItems.at(kTitleSlot);

@@ -119,7 +119,7 @@ TEST(AuthorOutput, EllipsisInThePlaceOfTheAndWord) {
     };
     constexpr Case kCases[] = {
         {3, false, u"Ason, Bson, and Cson", u"Ason et al."},  {3, true, u"Ason, Bson, . . . Cson", u"Ason et al."},
-        {2, true, u"Ason, . . . Bson", u"Ason, . . . Bson"},  {4, false, u"Ason, Bson, . . . Dson", u"Ason et al."},
+        {2, true, u"Ason, . . . Bson", u"Ason et al."},  {4, false, u"Ason, Bson, . . . Dson", u"Ason et al."},
         {4, true, u"Ason, Bson, . . . Dson", u"Ason et al."},
     };
     for (const Case& c : kCases) {
