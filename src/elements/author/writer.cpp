@@ -12,8 +12,6 @@ namespace quorvel {
 
 namespace {
 
-constexpr TextView kEtAlText = u"et al.";
-constexpr TextView kEtAlGroup = u"et al; ";
 constexpr TextView kOmission = u" . . . ";
 constexpr TextView kPseudonymMark = u"pseud.";
 constexpr std::size_t kUsualName = 48;
@@ -88,7 +86,7 @@ void AuthorWriter::write(const OutputSinkRef& formattedStr, bool isFootnote, boo
     const OutputSinkRef assembled = object(mMaker).BuildNewFormattedString();
     object(assembled).Reset();
     AssembledElement::write(assembled, isFootnote, shortenedVersion);
-    const Text text = convertCommaToSemicolon(mElement, *mPersons, assembled->toString());
+    const Text text = convertCommaToSemicolon(mElement, *mPersons, mStyle->wording, assembled->toString());
     object(formattedStr).Add(text, OutputSink::kPlain);
 }
 
@@ -121,7 +119,7 @@ bool AuthorWriter::fillSlots(bool isFootnote, std::vector<Text>& items, std::vec
         return false;
     }
     if (mKept < 1) {
-        items.at(kEtAl) = kEtAlText;
+        items.at(kEtAl) = mStyle->wording.etAlText;
         ToArray(isFootnote, items, shortenedVersion);
         return false;
     }
@@ -134,9 +132,11 @@ bool AuthorWriter::fillSlots(bool isFootnote, std::vector<Text>& items, std::vec
         items.at(at(std::min<std::int16_t>(last, kSixthPerson))).append(comma).append(kOmission).append(name);
     } else if (persons.firstGroup >= last && options().semicolonBetweenGroupAuthors) {
         const Text& group = toStringAuthor(persons.firstGroup, options().reverseSecondaryAuthors, !shortenedVersion);
-        items.at(kEtAl).assign(kEtAlGroup).append(group);
+        Text& etAl = items.at(kEtAl) = mStyle->wording.etAlText;
+        removeSuffix(etAl, u".");
+        etAl.append(u"; ").append(group);
     } else {
-        items.at(kEtAl) = kEtAlText;
+        items.at(kEtAl) = mStyle->wording.etAlText;
     }
     return false;
 }
@@ -304,10 +304,11 @@ Text editorTag(const Instrumented& element, const AuthorStyle& style, const Auth
     });
 }
 
-Text convertCommaToSemicolon(const Instrumented& element, const AuthorPersons& persons, TextView text) {
+Text convertCommaToSemicolon(const Instrumented& element, const AuthorPersons& persons, const AuthorWording& wording,
+                             TextView text) {
     return procedure(element, u"convertCommaToSemicolon", {{u"text", text}}, [&] {
         Text result(text);
-        if (contains(toLower(text), u"et al")) {
+        if (contains(toLower(text), u"et al") || (!wording.etAlText.empty() && contains(text, wording.etAlText))) {
             return result;
         }
         for (std::int16_t i = std::max<std::int16_t>(persons.firstGroup, 0); i < persons.size(); ++i) {

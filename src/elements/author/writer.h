@@ -74,7 +74,8 @@ private:
 /// The tag that tells what the persons are: "eds.", "ed. and trans."; empty for authors.
 Text editorTag(const Instrumented& element, const AuthorStyle& style, const AuthorPersons& persons);
 
-/// Commas beside a group author become semicolons, unless the text holds "et al".
-Text convertCommaToSemicolon(const Instrumented& element, const AuthorPersons& persons, TextView text);
+/// Commas beside a group author become semicolons, unless the text holds "et al" or the style's words for that.
+Text convertCommaToSemicolon(const Instrumented& element, const AuthorPersons& persons, const AuthorWording& wording,
+                             TextView text);
 
 }  // namespace quorvel

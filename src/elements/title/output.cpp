@@ -83,6 +83,10 @@ Text OutputTemplateTitle::wholeTitle(bool shortenedVersion) const {
     return concatenate({title, isQuestionOrExclamation(title.back()) ? u" " : u": ", subtitle});
 }
 
+Text OutputTemplateTitle::quoted(TextView title) const {
+    return concatenate({mOpeningQuotationMark, titlequotes::withSingleQuotationMarks(title), mClosingQuotationMark});
+}
+
 bool OutputTemplateTitle::isPart() const {
     return mIsChapterOrWebsite || titletypes::isPart(mTitleType);
 }
@@ -151,7 +155,7 @@ void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, Text& 
     procedure(*this, u"addTitleImpl", {{u"formattedStr", formattedStr}, {u"text", text}, {u"isPart", isPart}}, [&] {
         OutputSink& sink = object(formattedStr);
         if (isPart) {
-            sink.Add(titletypes::quotesParts(mFormat) ? titlequotes::quoted(text) : text, OutputSink::kPlain);
+            sink.Add(titletypes::quotesParts(mFormat) ? quoted(text) : text, OutputSink::kPlain);
             return;
         }
         std::vector<Range> roman;

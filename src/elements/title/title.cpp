@@ -108,6 +108,8 @@ void OutputTemplateTitle::CloneImpl(OutputTemplateTitle& clone) const {
         clone.mUsesSubtitle = mUsesSubtitle;
         clone.mTitleSubtypes = mTitleSubtypes;
         clone.mPunctuation = mPunctuation;
+        clone.mOpeningQuotationMark = mOpeningQuotationMark;
+        clone.mClosingQuotationMark = mClosingQuotationMark;
         if (mFormattedStr) {
             clone.Initialize(OutputSinkRef(mFormattedStr));
         }
@@ -139,6 +141,15 @@ void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
         if (endsWith(text, u".") && !endsWith(text, u"..") && !endsWith(text, u". .") && !isAbbreviated(text) &&
             !titlecase::isStopOfWord(text, text.size() - 1)) {
             text.pop_back();
+        }
+        const bool hasOwnMarks = text.size() >= mOpeningQuotationMark.size() + mClosingQuotationMark.size() &&
+                                 !mOpeningQuotationMark.empty() && startsWith(text, mOpeningQuotationMark) &&
+                                 endsWith(text, mClosingQuotationMark);
+        if (hasOwnMarks) {
+            const TextView title =
+                TextView(text).substr(mOpeningQuotationMark.size(),
+                                      text.size() - mOpeningQuotationMark.size() - mClosingQuotationMark.size());
+            text = titlequotes::quoted(title);
         }
         const bool isQuoted = text.size() > 1 && (text.front() == kLeftDoubleQuotationMark || text.front() == u'"') &&
                               (text.back() == kRightDoubleQuotationMark || text.back() == u'"') &&
@@ -339,6 +350,8 @@ void OutputTemplateTitle::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mPunctuation", mPunctuation);
     report.vbwReportVariable(u"mPrematterTypes", mPrematterTypes);
     report.vbwReportVariable(u"mAuthorTemplate", mAuthorTemplate);
+    report.vbwReportVariable(u"mOpeningQuotationMark", mOpeningQuotationMark);
+    report.vbwReportVariable(u"mClosingQuotationMark", mClosingQuotationMark);
 }
 
 }  // namespace quorvel

@@ -327,6 +327,13 @@ TEST_F(Citation, SurvivesWhatIsMissingOrActs) {
     use(apa());
     setFields(u"author=Kuhn, Thomas|title=Structure|year=1970|citedPage=p. 5");
     const Text whole = output();
+    citation.noDateString(u"o. J.");
+    Text noDate = u"(Kuhn, o. J., p. 5)";
+    citation.Parse(noDate, u"");
+    EXPECT_EQ(citation.Year(), u"n.d.");
+    setFields(u"author=Kuhn");
+    EXPECT_EQ(output(), u"(Kuhn, o. J.)");
+    setFields(u"author=Kuhn, Thomas|title=Structure|year=1970|citedPage=p. 5");
     // The model may do as it likes with the citation.
     model->onRead = [&] { use(mla()); };
     output();

@@ -96,6 +96,13 @@ TEST(Title, WritesEachTypeAsTheStyleAsks) {
 
 TEST(Title, ShortensAndQuotesParts) {
     const auto title = titleIn(2);
+    title->openingQuotationMark(u"\u00AB");
+    title->closingQuotationMark(u"\u00BB");
+    Text own = u"\u00ABWhy \u201CMe\u201D\u00BB";
+    title->Parse(own, u"Article");
+    EXPECT_EQ(title->Clone()->toString(false, false), u"\u00ABWhy \u2018Me\u2019\u00BB");
+    title->openingQuotationMark(u"\u201C");
+    title->closingQuotationMark(u"\u201D");
     Text text = u"Guns, Germs, and Steel: The Fates of Human Societies";
     title->Parse(text, u"");
     EXPECT_EQ(title->value(0), u"Guns, Germs, and Steel");
