@@ -201,6 +201,62 @@ TEST_F(Sink, WithoutWhatItShouldHave) {
     }
 }
 
+/// A host's object as a compiled language makes it: the interface of the type library is not its own first one.
+class EarlyBound final : public DispatchObject, public IFormattedText {
+public:
+    std::wstring written;
+
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override {
+        if (id != __uuidof(IFormattedText)) return DispatchObject::QueryInterface(id, object);
+        *object = static_cast<IFormattedText*>(this);
+        return DispatchObject::AddRef(), S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return DispatchObject::AddRef(); }
+    STDMETHODIMP_(ULONG) Release() override { return DispatchObject::Release(); }
+    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+        return DispGetIDsOfNames(type().get(), names, count, ids);
+    }
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kinds, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* error,
+                        UINT* argument) override {
+        return DispInvoke(static_cast<IFormattedText*>(this), type().get(), id, kinds, parameters, result, error,
+                          argument);
+    }
+    STDMETHODIMP Add(BSTR text, LONG font) override { return written += text + std::to_wstring(font), S_OK; }
+    STDMETHODIMP addFormattedString(IDispatch*) override { return E_NOTIMPL; }
+    STDMETHODIMP Clone(IDispatch** result) override {
+        return QueryInterface(IID_IDispatch, reinterpret_cast<void**>(result));
+    }
+    STDMETHODIMP BuildNewFormattedString(IDispatch**) override { return E_NOTIMPL; }
+    STDMETHODIMP Reset() override { return written.clear(), S_OK; }
+    STDMETHODIMP IsEmpty(VARIANT_BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP toString(BSTR* result) override { return *result = SysAllocString(written.c_str()), S_OK; }
+    STDMETHODIMP toRTFString(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP removeQuoteFromLastPhrase(short*) override { return E_NOTIMPL; }
+    STDMETHODIMP put_PageIndex(LONG) override { return E_NOTIMPL; }
+
+private:
+    static ComPointer<ITypeInfo> type() {
+        ComPointer<ITypeLib> library;
+        ComPointer<ITypeInfo> info;
+        EXPECT_EQ(LoadTypeLibEx(Library::path().c_str(), REGKIND_NONE, library.put()), S_OK);
+        EXPECT_EQ(library->GetTypeInfoOfGuid(__uuidof(IFormattedText), info.put()), S_OK);
+        return info;
+    }
+};
+
+TEST_F(Sink, MayImplementTheInterfaceOfTheTypeLibrary) {
+    const auto early = makeObject<EarlyBound>();
+    auto* const object = static_cast<DispatchObject*>(early.get());
+    const LateBoundObject author = library.build(0, object);
+    author.call(L"Parse", {L"A, and B"});
+    author.call(L"ToFormattedString", {object});
+    EXPECT_EQ(early->written, L"0A0, 0B00");
+    EXPECT_EQ(textOf(author.call(L"toString")), L"0A0, 0B00");
+    EXPECT_EQ(service.takenErrors(), L"");
+}
+
 TEST_F(Sink, IsCalledWithTheNumberOfArgumentsThatItTakes) {
     constexpr HRESULT kOwn = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 450);
     // How many arguments each call had: the other number once, and nothing again that failed while it ran.

@@ -18,10 +18,19 @@ constexpr WORD kCall = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 
 constexpr TextView kScriptEngine = u"Microsoft VBScript";
 
+ComPtr<IDispatch> faceOf(IDispatch* object, const IID& face) {
+    ComPtr<IDispatch> found = face != IID_IDispatch ? queryFor<IDispatch>(object, face) : ComPtr<IDispatch>();
+    return found ? found : ComPtr<IDispatch>(object);
+}
+
 }  // namespace
 
-LateBoundObject::LateBoundObject(IDispatch* object, const char16_t* role)
-    : mRole(role), mObject(object), mObjectEx(queryFor<IDispatchEx>(object, IID_IDispatchEx)) {}
+LateBoundObject::LateBoundObject(IDispatch* object, const char16_t* role, const IID& face)
+    : mRole(role), mHostObject(object), mObject(faceOf(object, face)) {
+    if (mObject.get() == object) {
+        mObjectEx = queryFor<IDispatchEx>(object, IID_IDispatchEx);
+    }
+}
 
 Variant LateBoundObject::get(const wchar_t* member) const {
     // A script's data member refuses a call, a script's function is only called: each in its turn.

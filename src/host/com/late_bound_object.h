@@ -21,10 +21,13 @@ namespace quorvel::host {
 class LateBoundObject {
 public:
     /// Empty when the host passed no object; every call then fails with error 91.
-    /// @param role what the object is to the library, a literal for reports: "the formatted text"
-    LateBoundObject(IDispatch* object, const char16_t* role);
+    /// @param role what the object is to the library, a literal for reports
+    /// @param face the interface of the type library for that role. An object that implements it is called through it:
+    ///        in some languages its members are no members of the object's own interface.
+    explicit LateBoundObject(IDispatch* object, const char16_t* role = u"the object", const IID& face = IID_IDispatch);
 
-    IDispatch* dispatch() const { return mObject.get(); }
+    /// The object as the host passed it.
+    IDispatch* dispatch() const { return mHostObject.get(); }
 
     /// Calls a method, or reads a property with arguments.
     template <class... Arguments>
@@ -96,6 +99,7 @@ private:
     bool isRefusalOfCount(HRESULT outcome, const ExceptionInfo& exception) const;
 
     const char16_t* mRole;
+    ComPtr<IDispatch> mHostObject;
     ComPtr<IDispatch> mObject;
     // Scripting engines answer the exact letter case through this interface only.
     ComPtr<IDispatchEx> mObjectEx;
