@@ -338,6 +338,7 @@ TEST_F(Service, AnErrorSaysWhatIsWrong) {
              year.call(L"Reset", {true, true, L"perhaps"});
          },
          L"13: Type mismatch: argument 3, supportYearGuess in"},
+        {[&] { year.put(L"yearType", L"two"); }, L"13: Type mismatch: argument 1, the new value in"},
         {[&] { main.call(L"build", {6}); }, L"449: Argument not optional: argument 2, formattedString in"},
         {[&] {
              main.call(L"build", {6, sink.get(), 1});

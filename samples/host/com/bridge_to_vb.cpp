@@ -38,10 +38,12 @@ bool writeKey(HKEY root, const std::wstring& path, const std::wstring& value) {
 
 }  // namespace
 
-RunningBridgeToVB::RunningBridgeToVB(IDispatch* errorReportService) : mBridge(makeObject<DispatchObject>()) {
-    const ComPointer<IDispatch> service(errorReportService);
-    mBridge->addMethod(L"ErrorParams", [service](const Arguments&, VARIANT& result) {
-        result = Variant(service.get()).release();
+RunningBridgeToVB::RunningBridgeToVB(IDispatch* errorReportService)
+    : RunningBridgeToVB([service = ComPointer<IDispatch>(errorReportService)] { return service; }) {}
+
+RunningBridgeToVB::RunningBridgeToVB(const GiveService& giveService) : mBridge(makeObject<DispatchObject>()) {
+    mBridge->addMethod(L"ErrorParams", [giveService](const Arguments&, VARIANT& result) {
+        result = Variant(giveService().get()).release();
         return S_OK;
     });
     // The name may belong to an installed host already; then its class id serves.

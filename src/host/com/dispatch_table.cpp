@@ -55,14 +55,16 @@ Text documentedName(ITypeInfo* info, MEMBERID member) {
     return result;
 }
 
-/// The names of a member's parameters. That of a property's new value may be missing.
+/// The names of a member's parameters. A property's new value has none: what is found there is another's.
 std::vector<Text> parameterNames(ITypeInfo* info, const FUNCDESC& function) {
     std::vector<BSTR> found(static_cast<std::size_t>(function.cParams) + 1, nullptr);
     UINT count = 0;
     info->GetNames(function.memid, found.data(), static_cast<UINT>(found.size()), &count);
     std::vector<Text> names;
     for (std::size_t i = 1; i < found.size(); ++i) {
-        names.emplace_back(i < count ? view(found[i]) : TextView(u"the new value"));
+        const bool isNewValue =
+            function.invkind != INVOKE_FUNC && function.invkind != INVOKE_PROPERTYGET && i + 1 == found.size();
+        names.emplace_back(i < count && !isNewValue ? view(found[i]) : TextView(u"the new value"));
     }
     for (const BSTR name : found) {
         SysFreeString(name);
