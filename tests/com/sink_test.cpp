@@ -32,6 +32,9 @@ public:
                 return call(member, arguments, result);
             });
         }
+        addSetter(L"PageIndex", [this](const Arguments&, VARIANT&) {
+            return ++mTrouble->calls == mTrouble->failAt ? mTrouble->failure : S_OK;
+        });
     }
 
 private:
@@ -198,6 +201,35 @@ TEST_F(Sink, WithoutWhatItShouldHave) {
         element.call(L"ToFormattedString", {text.get()});
         EXPECT_EQ(text->toString(), L"1990");
         text->reset();
+    }
+}
+
+TEST_F(Sink, NoFailureInAModelGoesUnreported) {
+    const LateBoundObject model(objectOf(library.main2().call(L"buildModelTemplate")));
+    const auto fields = makeObject<DispatchObject>();
+    fields->addMethod(L"value", [](const Arguments& arguments, VARIANT& result) {
+        result = Variant(arguments.number(0) == 7 ? L"True" : L"See Laudan").release();
+        return S_OK;
+    });
+    const auto implementor = makeObject<DispatchObject>();
+    implementor->addMethod(L"ToFormattedStringImpl", [&](const Arguments& arguments, VARIANT& result) {
+        assignElement(arguments[1], 0, L"Kuhn");
+        assignElement(arguments[1], 2, L"1970");
+        LateBoundObject(objectOf(elementsOf(arguments[2])[1])).call(L"Add", {L"\u201CWhat \u2018Is\u2019\u201D", 1});
+        return result = Variant(false).release(), S_OK;
+    });
+    for (const bool isFootnote : {false, true}) {
+        for (int n = 0; n == 0 || trouble->calls >= n; ++n) {
+            *trouble = Trouble{n, E_FAIL, false, 0, L"", 0, nullptr};
+            model.call(L"Initialize", {sink.get(), LateBoundObject::create(L"Scripting.Dictionary").dispatch()});
+            model.call(L"Reset", {2, L"x"});
+            model.call(L"Add", {0, false, L"", Variant::array({L"", L". ", L" ", L"."})});
+            model.call(L"Add", {1, true, L"", Variant::array({L"", L", ", L"."})});
+            model.call(L"Add", {2, false, L"", Variant::array({L"", L"."})});
+            model.call(L"ToFormattedString", {sink.get(), implementor.get(), fields.get(), false, isFootnote});
+            EXPECT_EQ(service.takenErrors().empty(), n == 0 || trouble->calls < n) << n << " " << isFootnote;
+        }
+        EXPECT_GT(trouble->calls, 15);
     }
 }
 
