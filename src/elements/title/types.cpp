@@ -61,6 +61,9 @@ Text captionOf(TextView type) {
 }
 
 Text spelled(TextView type) {
+    if (type.empty()) {
+        return {};
+    }
     for (const Caption& row : kCaptions) {
         if (equalsIgnoringCase(row.type, type)) {
             return Text(row.type);
