@@ -24,6 +24,12 @@ std::wstring classIdKey() {
     return L"Software\\Classes\\CLSID\\" + textOfGuid(kBridgeClass);
 }
 
+/// Whether a host like this one was ended before it could take its class name back.
+bool isLeftBehind(const CLSID& classId) {
+    ComPointer<IUnknown> running;
+    return classId == kBridgeClass && FAILED(GetActiveObject(classId, nullptr, running.put()));
+}
+
 bool writeKey(HKEY root, const std::wstring& path, const std::wstring& value) {
     HKEY key = nullptr;
     if (RegCreateKeyExW(root, path.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr) != ERROR_SUCCESS) {
@@ -47,7 +53,7 @@ RunningBridgeToVB::RunningBridgeToVB(const GiveService& giveService) : mBridge(m
         return S_OK;
     });
     // The name may belong to an installed host already; then its class id serves.
-    if (FAILED(CLSIDFromProgID(kClassName, &mClassId))) registerClassName();
+    if (FAILED(CLSIDFromProgID(kClassName, &mClassId)) || isLeftBehind(mClassId)) registerClassName();
     const HRESULT code = RegisterActiveObject(mBridge.get(), mClassId, ACTIVEOBJECT_STRONG, &mRunning);
     if (FAILED(code)) {
         deleteClassName();
