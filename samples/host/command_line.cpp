@@ -27,6 +27,9 @@ const wchar_t* const kUsage =
     L"      the first of each and a later one where that is shorter\n"
     L"  SampleHost --switch FROM,TO [FILE]\n"
     L"      the list in the style TO, its elements read from a finished list in the style FROM\n"
+    L"  SampleHost --serve [--report FILE] [--run COMMAND...]\n"
+    L"      is the error-report service of all programs that use the library, scripts included: prints the\n"
+    L"      tree of procedures and every error, until Ctrl+C is pressed or the COMMAND has ended\n"
     L"\n"
     L"  FILE           a references file; without it the references that come with the sample\n"
     L"  --rtf          a document that a word processor opens, instead of plain text\n"
@@ -66,6 +69,11 @@ CommandLine readCommandLine(const std::vector<std::wstring>& arguments) {
             line.rtf = true;
         } else if (argument == L"--report") {
             line.reportFile = value();
+        } else if (argument == L"--serve") {
+            line.serve = true;
+        } else if (argument == L"--run") {
+            while (++i < arguments.size())
+                line.command += (line.command.empty() ? L"\"" : L" \"") + arguments[i] + L"\"";
         } else if (argument.starts_with(L"--")) {
             throw ComError{E_INVALIDARG, L"There is no option " + argument + L"."};
         } else if (!line.referencesFile.empty()) {
@@ -74,7 +82,7 @@ CommandLine readCommandLine(const std::vector<std::wstring>& arguments) {
             line.referencesFile = argument;
         }
     }
-    if (line.styles.empty()) throw ComError{E_INVALIDARG, L"Give --all, --style or --switch."};
+    if (line.styles.empty() && !line.serve) throw ComError{E_INVALIDARG, L"Give --all, --style, --switch or --serve."};
     return line;
 }
 

@@ -18,6 +18,9 @@ struct CommandLine {
     /// Short citations instead.
     bool citations = false;
     bool rtf = false;
+    /// Be the error-report service of other programs, and run this command meanwhile, if there is one.
+    bool serve = false;
+    std::wstring command;
     /// Where the error report goes; empty: no error-report service.
     std::wstring reportFile;
     /// Empty: the references that come with the sample.

@@ -13,6 +13,7 @@
 #include "com/error_report_service.h"
 #include "command_line.h"
 #include "data/data_file.h"
+#include "serve.h"
 #include "text/text_io.h"
 #include "writing/reference_list.h"
 
@@ -104,7 +105,7 @@ ExitStatus checkReleased() {
     return status;
 }
 
-ExitStatus run() {
+int run() {
     CommandLine line;
     std::vector<Style> styles;
     std::optional<Style> from;
@@ -118,6 +119,14 @@ ExitStatus run() {
     if (line.help) {
         print(kUsage);
         return kSuccess;
+    }
+    if (line.serve) {
+        try {
+            return serve(line.reportFile, line.command);
+        } catch (const ComError& error) {
+            printError(L"SampleHost: " + error.message + L"\n");
+            return kCallFailed;
+        }
     }
     try {
         for (const std::wstring& name : line.styles) styles.push_back(namedStyle(name));

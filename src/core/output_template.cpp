@@ -37,6 +37,11 @@ bool removesSingleMark(OutputSink& sink) {
     return !sink.toString().ends_with(kRightSingleQuotationMark);
 }
 
+[[noreturn]] void failAtSlot(std::int16_t slot, TextView what) {
+    const Text subject = concatenate({u"slot ", decimal(slot), what});
+    throw RuntimeError(ErrorNumber::SubscriptOutOfRange, descriptionOf(ErrorNumber::SubscriptOutOfRange, subject));
+}
+
 /// The separator list of a slot as one line of a dump.
 Text summary(const std::shared_ptr<const std::vector<Text>>& list) {
     return list ? join(*list, u"|") : Text();
@@ -67,7 +72,10 @@ void outputTemplate::Add(std::int16_t Index, bool isFormatted, bool isChecking, 
         *this, u"Add",
         {{u"Index", Index}, {u"isFormatted", isFormatted}, {u"isChecking", isChecking}, {u"separators", separators}},
         [&] {
-            mReferenceItems.at(at(Index)) = ReferenceItem();
+            if (Index < 0 || at(Index) >= mReferenceItems.size()) {
+                failAtSlot(Index, concatenate({u" is beyond the last, ", decimal(mMaxReferenceItems)}));
+            }
+            mReferenceItems[at(Index)] = ReferenceItem();
             mReferenceItems[at(Index)].isFormatted = isFormatted;
             if (Index == mMaxReferenceItems) {
                 mIndexToFormatted.clear();
@@ -98,6 +106,12 @@ void outputTemplate::Add(std::int16_t Index, bool isFormatted, bool isChecking, 
                     item.checkBibliographySeparators = part(separators, parts - 1, parts);
                     item.checkFootnoteSeparators = item.checkBibliographySeparators;
                 }
+            }
+            const std::size_t needed = at(mMaxReferenceItems + 2 - Index);
+            item.isShort = item.bibliographySeparators->size() < needed;
+            if (item.isShort) {
+                failAtSlot(Index, concatenate({u" has ", decimal(ubound + 1), u" separators; a list of it is ",
+                                               decimal(mMaxReferenceItems + 2 - Index)}));
             }
         });
 }
@@ -230,6 +244,9 @@ Text outputTemplate::getSeparator(const std::vector<Text>& list, std::int16_t i,
                       {u"formattedStr", formattedStr},
                       {u"removeQuoteFromPreviousPhrase", removeQuoteFromPreviousPhrase}},
                      [&]() -> Text {
+                         if (at(j - i) >= list.size() && mReferenceItems.at(at(i)).isShort) {
+                             return {};
+                         }
                          const Text& entry = list.at(at(j - i));
                          readPhrase(i, phrase);
                          if (i == j) {

@@ -39,7 +39,8 @@ public:
     /// @param separators one, two or four separator lists one after the other. Without checking: the
     ///        reference list's, then the note's (one list serves both). With checking: the two reference
     ///        list's variants, plain then checking, or reference list, note and the checking variants of
-    ///        both; one list serves all.
+    ///        both; one list serves all. Lists that are too short are reported here, as error 9 with the slot; a
+    ///        separator that is then missing is empty, without another report.
     void Add(std::int16_t Index, bool isFormatted, bool isChecking, const std::vector<Text>& separators);
 
     /// Empties all slots before a new output.
@@ -65,6 +66,8 @@ private:
 
     struct ReferenceItem {
         bool isFormatted = false;
+        /// Its lists are too short, which was reported.
+        bool isShort = false;
         Separators footnoteSeparators;
         Separators bibliographySeparators;
         Separators checkFootnoteSeparators;

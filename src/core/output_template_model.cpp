@@ -67,9 +67,16 @@ void OutputTemplateModel::Add(std::int16_t Index, bool isFormatted, TextView che
                     condition = {object(held(mKeyToInternalIndex)).item(pieces[0]), pieces[1]};
                 }
             }
-            mCheckingValues.at(static_cast<std::size_t>(mUboundCheckingValues)) = std::move(condition);
+            const std::int16_t due = mUboundCheckingValues;
+            mCheckingValues.at(static_cast<std::size_t>(due)) = std::move(condition);
             ++mUboundCheckingValues;
             held(mOutputTemplate)->Add(Index, isFormatted, isChecking, separators);
+            if (Index != due) {
+                const Text subject =
+                    concatenate({u"slot ", decimal(Index), u" comes where slot ", decimal(due), u" is due"});
+                throw RuntimeError(ErrorNumber::SubscriptOutOfRange,
+                                   descriptionOf(ErrorNumber::SubscriptOutOfRange, subject));
+            }
         });
 }
 
@@ -140,8 +147,7 @@ bool OutputTemplateModel::isBlankString(TextView output) const {
 void OutputTemplateModel::dumpVariables(VBWPROTECTOR& report) const {
     std::vector<Text> checkingValues;
     for (const CheckingValue& condition : mCheckingValues) {
-        const std::string key = std::to_string(condition.key);
-        checkingValues.push_back(concatenate({Text(key.begin(), key.end()), kEquals, condition.value}));
+        checkingValues.push_back(concatenate({decimal(condition.key), kEquals, condition.value}));
     }
     // Held, since the host may replace it between two of the reports.
     const KeyToInternalIndexRef keyToInternalIndex = mKeyToInternalIndex;

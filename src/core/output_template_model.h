@@ -38,7 +38,8 @@ public:
     /// @param pageKey half of what the sink gets as its `PageIndex`
     void Reset(std::int16_t maxElementIndex, TextView blankStrings, std::int16_t pageKey);
 
-    /// Registers the next slot; its number must be `Index`.
+    /// Registers the next slot; its number must be `Index`, else error 9 says so and the slot is registered all the
+    /// same, its condition with that of the number which was due.
     /// @param isFormatted the slot holds a fragment with fonts of its own
     /// @param checkingKey "name=value": the slot's checking separators hold when the model's field of that name
     ///        has exactly that value, or one of several joined by "||". "name=__CALLBACK_FOR_CHECKING__": the

@@ -22,4 +22,8 @@ TextView descriptionOf(ErrorNumber number) {
     return u"Unknown error";
 }
 
+Text descriptionOf(ErrorNumber number, TextView subject) {
+    return subject.empty() ? Text(descriptionOf(number)) : concatenate({descriptionOf(number), u": ", subject});
+}
+
 }  // namespace quorvel

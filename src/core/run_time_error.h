@@ -29,6 +29,8 @@ enum class ErrorNumber : std::int32_t {
 
 /// The text that goes with a number.
 TextView descriptionOf(ErrorNumber number);
+/// The same with what it is about: "Type mismatch: argument 7, andSeparator".
+Text descriptionOf(ErrorNumber number, TextView subject);
 
 /// A run-time error inside the library. It never leaves the procedure in which it happens: the
 /// trap of procedure.h reports it.

@@ -1,6 +1,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace quorvel {
 
@@ -150,6 +151,12 @@ Text concatenate(std::initializer_list<TextView> parts) {
         result.append(part);
     }
     return result;
+}
+
+Text decimal(std::int64_t number) {
+    char digits[21];
+    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+    return Text(std::begin(digits), end);
 }
 
 Text cleanUp(TextView text) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 #include <iterator>
 #include <string>
@@ -100,6 +101,9 @@ TextView before(TextView text, TextView separator);
 
 /// One text made of several parts with a single allocation.
 Text concatenate(std::initializer_list<TextView> parts);
+
+/// A number in decimal digits.
+Text decimal(std::int64_t number);
 
 /// The clean-up that an element's text passes before it is read: non-breaking and other Unicode
 /// spaces become blanks, zero-width characters and soft hyphens are dropped, runs of blanks become

@@ -1,6 +1,5 @@
 #include "core/vbwprotector.h"
 
-#include <charconv>
 #include <cstddef>
 #include <mutex>
 #include <new>
@@ -33,12 +32,6 @@ Text nameOf(const Instrumented& self, TextView procedure) {
 
 std::uintptr_t placeOf(const void* object) {
     return reinterpret_cast<std::uintptr_t>(object);
-}
-
-Text decimal(std::int32_t number) {
-    char digits[12];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
-    return Text(std::begin(digits), end);
 }
 
 }  // namespace

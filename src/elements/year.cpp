@@ -15,8 +15,9 @@ namespace {
 
 constexpr std::size_t kVariants = 6;
 
-// Markers, compared as they stand.
+// Compared as they stand.
 constexpr TextView kNoDateMarkers[] = {u"n.d.", u"date unknown"};
+// Compared without letter case: lists write "in press" behind a comma.
 constexpr TextView kForthcoming = u"forthcoming";
 constexpr TextView kInPress = u"In press";
 constexpr TextView kForthcomingMarkers[] = {kForthcoming, kInPress};
@@ -155,7 +156,7 @@ void OutputTemplateYear::parseAndRemoveYearType(Text& text) {
             return;
         }
         removeSuffix(text, u".");
-        if (isOneOf(text, kForthcomingMarkers)) {
+        if (isOneOfIgnoringCase(text, kForthcomingMarkers)) {
             yearType = kNotYetPublished;
             text.clear();
             return;

@@ -117,7 +117,7 @@ std::shared_ptr<ErrorReportService> RunningHostFinder::find() {
     }
     mNextLook = 0;
     const ComPtr<IDispatch> bridge = queryFor<IDispatch>(running.get(), IID_IDispatch);
-    const Variant errorParams = LateBoundObject(bridge.get()).get(L"ErrorParams");
+    const Variant errorParams = LateBoundObject(bridge.get(), u"the running host", IID_IBridgeToVB).get(L"ErrorParams");
     Variant object;
     if (FAILED(convert(errorParams, VT_DISPATCH, object)) || object.pdispVal == nullptr) {
         return nullptr;

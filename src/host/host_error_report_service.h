@@ -5,13 +5,15 @@
 
 #include "core/error_report_service.h"
 #include "host/com/late_bound_object.h"
+#include "host/interfaces.h"
 
 namespace quorvel::host {
 
 /// The host's error-report service behind the port.
 class HostErrorReportService final : public ErrorReportService {
 public:
-    explicit HostErrorReportService(IDispatch* errorParams) : mObject(errorParams) {}
+    explicit HostErrorReportService(IDispatch* errorParams)
+        : mObject(errorParams, u"the error-report service", IID_IErrorReportService) {}
 
     void vbwProcIn(TextView procedure, TextView parameters) override;
     void vbwProcOut() override;

@@ -37,7 +37,7 @@ ImplementorRef HostImplementor::of(IDispatch* implementor) {
 }
 
 void HostImplementor::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
-    mObject.call(L"ToFormattedString", dispatchOf(formattedStr.get()), isFootnote, shortenedVersion);
+    mObject.callWithOptional(L"ToFormattedString", 1, 3, dispatchOf(formattedStr.get()), isFootnote, shortenedVersion);
 }
 
 bool HostImplementor::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
@@ -56,9 +56,8 @@ bool HostImplementor::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& 
     }
     Variant fragments = typedArrayOf(VT_DISPATCH, std::move(objects));
 
-    const Variant outcome = mObject.call(L"ToFormattedStringImpl", isFootnote, referenceToArray(texts),
-                                         referenceToArray(fragments), shortenedVersion);
-    const bool nothingToAssemble = flagAnswer(outcome);
+    const bool nothingToAssemble = mObject.ask(flagAnswer, L"ToFormattedStringImpl", isFootnote,
+                                               referenceToArray(texts), referenceToArray(fragments), shortenedVersion);
     std::vector<Text> newItems = textAnswers(texts);
     std::vector<OutputSinkRef> newFragments = sinkAnswers(fragments, formattedItems);
     // The old fragments go last, when all is in place: their end may call the library back.

@@ -3,6 +3,7 @@
 #include "core/implementor.h"
 #include "host/com/host_reference.h"
 #include "host/com/late_bound_object.h"
+#include "host/interfaces.h"
 
 namespace quorvel::host {
 
@@ -13,7 +14,7 @@ public:
     /// An empty reference for a host that passed none.
     static ImplementorRef of(IDispatch* implementor);
 
-    explicit HostImplementor(IDispatch* implementor) : mObject(implementor) {}
+    explicit HostImplementor(IDispatch* implementor) : mObject(implementor, u"the implementor", IID_IImplementor) {}
 
     void ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) override;
     bool ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,

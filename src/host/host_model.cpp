@@ -10,7 +10,7 @@ ReferenceModelRef HostModel::of(IDispatch* model) {
 }
 
 Text HostModel::value(std::int16_t index) const {
-    return textAnswer(mObject.call(L"value", index));
+    return mObject.ask(textAnswer, L"value", index);
 }
 
 void HostModel::value(std::int16_t index, TextView text) {
@@ -22,12 +22,12 @@ KeyToInternalIndexRef HostKeyToInternalIndex::of(IDispatch* dictionary) {
 }
 
 std::int16_t HostKeyToInternalIndex::item(TextView key) const {
-    return numberAnswer(mObject.call(L"Item", key));
+    return mObject.ask(numberAnswer, L"Item", key);
 }
 
 bool HostKeyToInternalIndex::has(TextView key) const {
     try {
-        return flagAnswer(mObject.call(L"Exists", key));
+        return mObject.ask(flagAnswer, L"Exists", key);
     } catch (const RuntimeError& error) {
         if (error.number() != static_cast<std::int32_t>(ErrorNumber::NoSuchMember)) {
             throw;

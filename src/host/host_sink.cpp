@@ -9,11 +9,11 @@ OutputSinkRef HostSink::of(IDispatch* formattedStr) {
 }
 
 void HostSink::Add(TextView text) {
-    mObject.call(L"Add", text);
+    mObject.callWithOptional(L"Add", 1, 1, text, std::int32_t{kPlain});
 }
 
 void HostSink::Add(TextView text, std::int32_t font) {
-    mObject.call(L"Add", text, font);
+    mObject.callWithOptional(L"Add", 1, 2, text, font);
 }
 
 void HostSink::addFormattedString(const OutputSink& fragment) {
@@ -21,7 +21,7 @@ void HostSink::addFormattedString(const OutputSink& fragment) {
 }
 
 OutputSinkRef HostSink::Clone() const {
-    return of(objectAnswer(mObject.call(L"Clone")).get());
+    return of(mObject.ask(objectAnswer, L"Clone").get());
 }
 
 void HostSink::Reset() {
@@ -29,23 +29,23 @@ void HostSink::Reset() {
 }
 
 OutputSinkRef HostSink::BuildNewFormattedString() const {
-    return of(objectAnswer(mObject.call(L"BuildNewFormattedString")).get());
+    return of(mObject.ask(objectAnswer, L"BuildNewFormattedString").get());
 }
 
 Text HostSink::toString() const {
-    return textAnswer(mObject.call(L"toString"));
+    return mObject.ask(textAnswer, L"toString");
 }
 
 Text HostSink::toRTFString() const {
-    return textAnswer(mObject.call(L"toRTFString"));
+    return mObject.ask(textAnswer, L"toRTFString");
 }
 
 bool HostSink::IsEmpty() const {
-    return flagAnswer(mObject.call(L"IsEmpty"));
+    return mObject.ask(flagAnswer, L"IsEmpty");
 }
 
 std::int16_t HostSink::removeQuoteFromLastPhrase() {
-    return numberAnswer(mObject.call(L"removeQuoteFromLastPhrase"));
+    return mObject.ask(numberAnswer, L"removeQuoteFromLastPhrase");
 }
 
 void HostSink::PageIndex(std::int32_t value) {

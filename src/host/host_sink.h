@@ -3,6 +3,7 @@
 #include "core/output_sink.h"
 #include "host/com/host_reference.h"
 #include "host/com/late_bound_object.h"
+#include "host/interfaces.h"
 
 namespace quorvel::host {
 
@@ -12,7 +13,7 @@ public:
     /// An empty reference for a host that passed none.
     static OutputSinkRef of(IDispatch* formattedStr);
 
-    explicit HostSink(IDispatch* formattedStr) : mObject(formattedStr) {}
+    explicit HostSink(IDispatch* formattedStr) : mObject(formattedStr, u"the formatted text", IID_IFormattedText) {}
 
     void Add(TextView text) override;
     void Add(TextView text, std::int32_t font) override;

@@ -36,9 +36,11 @@ STDMETHODIMP Main2::build(short* whichType, IDispatch** formattedString, IDispat
         return procedure(*this, u"build", {{u"whichType", code}, {u"formattedString", reported}}, [&] {
             const ClassFactory::Create create = creatorOf(code);
             ComPtr<IDispatch> element = create != nullptr ? create() : nullptr;
-            // Late-bound on purpose: on the empty reference of an unknown code this is the error that is
-            // reported.
-            LateBoundObject(element.get()).call(L"Initialize", sink.get());
+            if (!element) {
+                const Text subject = concatenate({u"no class has the element type code ", decimal(code)});
+                throw RuntimeError(ErrorNumber::ObjectNotSet, descriptionOf(ErrorNumber::ObjectNotSet, subject));
+            }
+            LateBoundObject(element.get(), u"the element").call(L"Initialize", sink.get());
             return element;
         });
     });

@@ -52,8 +52,7 @@ TEST_F(Citation, IsWrittenFromTheHostsModelAndReadIntoIt) {
     citation.call(L"Parse", {L"(Kuhn, 1970, p. 52)"});
     EXPECT_EQ(textOf(citation.get(L"Year")), L"1970");
     citation.put(L"Year", L"1996");
-    citation.call(L"MergeFieldsWithModel",
-                  {cited.get(), 0, static_cast<IDispatch*>(nullptr), static_cast<IDispatch*>(nullptr)});
+    citation.call(L"MergeFieldsWithModel", {cited.get()});
     EXPECT_EQ(cited->value(1) + L"|" + cited->value(3) + L"|" + cited->value(4), L"Kuhn|1996|p. 52");
     EXPECT_EQ(service.takenErrors(), L"");
 }

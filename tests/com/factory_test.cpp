@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "import_patch.h"
 #include "recording_service.h"
 
 namespace comtests {
@@ -38,6 +39,30 @@ TEST_F(Factory, BuildMakesTheElementOfACodeOrReportsAnEmptyReference) {
             EXPECT_TRUE(booleanOf(built.get(L"Supports", {0}))) << code;
         }
     }
+}
+
+HRESULT WINAPI loadNothing(LPCOLESTR, REGKIND, ITypeLib**) {
+    return TYPE_E_CANTLOADLIBRARY;
+}
+HRESULT WINAPI loadNothingRegistered(REFGUID, WORD, WORD, LCID, ITypeLib**) {
+    return TYPE_E_LIBNOTREGISTERED;
+}
+
+TEST_F(Factory, BuildWithoutTypeInformationReportsAnEmptyReference) {
+    const LateBoundObject main = library.main2();
+    const auto sink = makeObject<FormattedText>();
+    {
+        const ImportPatch patches[] = {{library.module(), "LoadTypeLibEx", loadNothing},
+                                       {library.module(), "LoadRegTypeLib", loadNothingRegistered}};
+        ASSERT_TRUE(patches[0] && patches[1]);
+        for (const CreatableClass& creatable : allClasses()) {
+            if (creatable.codes.empty()) continue;
+            EXPECT_FALSE(objectOf(main.call(L"build", {creatable.codes.front(), sink.get()}))) << creatable.name;
+            EXPECT_EQ(service.takenErrors(), L"429 Main2.build") << creatable.name;
+        }
+    }
+    EXPECT_TRUE(objectOf(main.call(L"build", {kYear, sink.get()})));
+    EXPECT_EQ(service.takenErrors(), L"");
 }
 
 TEST_F(Factory, BuildTakesItsCodeInAnyForm) {

@@ -270,7 +270,8 @@ TEST_F(HostileHost, CallsThatNestWithoutEndAreErrors) {
     service.taken();
     EXPECT_EQ(model->Add(0, VARIANT_FALSE, nullptr, Variant(script.get()).get()), S_OK);
     EXPECT_EQ(deepest, 200);
-    EXPECT_GT(errorsOfNesting(service), 0U);
+    // Arrays that got through are too short, too.
+    EXPECT_NE(service.takenErrors().find(L"28 "), std::wstring::npos);
     script->addMethod(L"length", nullptr);
 }
 

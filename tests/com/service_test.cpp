@@ -318,5 +318,60 @@ TEST(Trace, IsSetOnceALoadByTheSettingOrTheCommandLine) {
     }
 }
 
+TEST_F(Service, AnErrorSaysWhatIsWrong) {
+    const LateBoundObject main = library.main2(), year = library.build(kYear), volumes = library.build(10);
+    const LateBoundObject model(objectOf(main.call(L"buildModelTemplate")));
+    const auto sink = makeObject<FormattedText>();
+    const auto empty = makeObject<DispatchObject>(), raising = makeObject<DispatchObject>();
+    raising->addMethod(L"Add", [](const Arguments&, VARIANT&) -> HRESULT { throw ComError{E_FAIL, L"full"}; });
+    raising->addMethod(L"Clone",
+                       [](const Arguments&, VARIANT& result) { return result = Variant(L"me").release(), S_OK; });
+    model.call(L"Initialize", {sink.get(), empty.get()});
+    model.call(L"Reset", {2});
+    struct Case {
+        std::function<void()> call;
+        const wchar_t* error;
+    };
+    const auto array = [](std::initializer_list<Variant> values) { return Variant::array(values); };
+    const Case cases[] = {
+        {[&] {
+             year.call(L"Reset", {true, true, L"perhaps"});
+         },
+         L"13: Type mismatch: argument 3, supportYearGuess in"},
+        {[&] { year.put(L"yearType", L"two"); }, L"13: Type mismatch: argument 1, the new value in"},
+        {[&] { main.call(L"build", {6}); }, L"449: Argument not optional: argument 2, formattedString in"},
+        {[&] {
+             main.call(L"build", {6, sink.get(), 1});
+         },
+         L"450: Wrong number of arguments: 3 given, 2 taken in"},
+        {[&] {
+             main.call(L"build", {18, sink.get()});
+         },
+         L"91: Object variable not set: no class has the element type code 18"},
+        {[&] { year.call(L"ToFormattedString", {empty.get()}); }, L"method: Add of the formatted text in"},
+        {[&] { year.call(L"ToFormattedString", {raising.get()}); },
+         L"440: full (SampleHost): Add of the formatted text in"},
+        {[&] { library.build(kDateTime, raising.get()); },
+         L"13: Type mismatch: the answer of Clone of the formatted text"},
+        {[&] {
+             volumes.call(L"Reset", {array({true, L"odd"})});
+         },
+         L"13: Type mismatch: element 1 of the array in"},
+        {[&] {
+             model.call(L"Add", {0, false, L"", array({L"", L"."})});
+         },
+         L"slot 0 has 2 separators; a list of it is 4 in"},
+        {[&] {
+             model.call(L"Add", {2, false, L"", array({L"", L"."})});
+         },
+         L"slot 2 comes where slot 1 is due in"},
+    };
+    for (const Case& c : cases) {
+        service.taken();
+        c.call();
+        EXPECT_NE(service.taken().find(c.error), std::wstring::npos) << testing::PrintToString(std::wstring(c.error));
+    }
+}
+
 }  // namespace
 }  // namespace comtests

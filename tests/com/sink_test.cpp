@@ -32,6 +32,9 @@ public:
                 return call(member, arguments, result);
             });
         }
+        addSetter(L"PageIndex", [this](const Arguments&, VARIANT&) {
+            return ++mTrouble->calls == mTrouble->failAt ? mTrouble->failure : S_OK;
+        });
     }
 
 private:
@@ -198,6 +201,120 @@ TEST_F(Sink, WithoutWhatItShouldHave) {
         element.call(L"ToFormattedString", {text.get()});
         EXPECT_EQ(text->toString(), L"1990");
         text->reset();
+    }
+}
+
+TEST_F(Sink, NoFailureInAModelGoesUnreported) {
+    const LateBoundObject model(objectOf(library.main2().call(L"buildModelTemplate")));
+    const auto fields = makeObject<DispatchObject>();
+    fields->addMethod(L"value", [](const Arguments& arguments, VARIANT& result) {
+        result = Variant(arguments.number(0) == 7 ? L"True" : L"See Laudan").release();
+        return S_OK;
+    });
+    const auto implementor = makeObject<DispatchObject>();
+    implementor->addMethod(L"ToFormattedStringImpl", [&](const Arguments& arguments, VARIANT& result) {
+        assignElement(arguments[1], 0, L"Kuhn");
+        assignElement(arguments[1], 2, L"1970");
+        LateBoundObject(objectOf(elementsOf(arguments[2])[1])).call(L"Add", {L"\u201CWhat \u2018Is\u2019\u201D", 1});
+        return result = Variant(false).release(), S_OK;
+    });
+    for (const bool isFootnote : {false, true}) {
+        for (int n = 0; n == 0 || trouble->calls >= n; ++n) {
+            *trouble = Trouble{n, E_FAIL, false, 0, L"", 0, nullptr};
+            model.call(L"Initialize", {sink.get(), LateBoundObject::create(L"Scripting.Dictionary").dispatch()});
+            model.call(L"Reset", {2, L"x"});
+            model.call(L"Add", {0, false, L"", Variant::array({L"", L". ", L" ", L"."})});
+            model.call(L"Add", {1, true, L"", Variant::array({L"", L", ", L"."})});
+            model.call(L"Add", {2, false, L"", Variant::array({L"", L"."})});
+            model.call(L"ToFormattedString", {sink.get(), implementor.get(), fields.get(), false, isFootnote});
+            EXPECT_EQ(service.takenErrors().empty(), n == 0 || trouble->calls < n) << n << " " << isFootnote;
+        }
+        EXPECT_GT(trouble->calls, 15);
+    }
+}
+
+/// A host's object as a compiled language makes it: the interface of the type library is not its own first one.
+class EarlyBound final : public DispatchObject, public IFormattedText {
+public:
+    std::wstring written;
+
+    STDMETHODIMP QueryInterface(REFIID id, void** object) override {
+        if (id != __uuidof(IFormattedText)) return DispatchObject::QueryInterface(id, object);
+        *object = static_cast<IFormattedText*>(this);
+        return DispatchObject::AddRef(), S_OK;
+    }
+    STDMETHODIMP_(ULONG) AddRef() override { return DispatchObject::AddRef(); }
+    STDMETHODIMP_(ULONG) Release() override { return DispatchObject::Release(); }
+    STDMETHODIMP GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+        return DispGetIDsOfNames(type().get(), names, count, ids);
+    }
+    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD kinds, DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* error,
+                        UINT* argument) override {
+        return DispInvoke(static_cast<IFormattedText*>(this), type().get(), id, kinds, parameters, result, error,
+                          argument);
+    }
+    STDMETHODIMP Add(BSTR text, LONG font) override { return written += text + std::to_wstring(font), S_OK; }
+    STDMETHODIMP addFormattedString(IDispatch*) override { return E_NOTIMPL; }
+    STDMETHODIMP Clone(IDispatch** result) override {
+        return QueryInterface(IID_IDispatch, reinterpret_cast<void**>(result));
+    }
+    STDMETHODIMP BuildNewFormattedString(IDispatch**) override { return E_NOTIMPL; }
+    STDMETHODIMP Reset() override { return written.clear(), S_OK; }
+    STDMETHODIMP IsEmpty(VARIANT_BOOL*) override { return E_NOTIMPL; }
+    STDMETHODIMP toString(BSTR* result) override { return *result = SysAllocString(written.c_str()), S_OK; }
+    STDMETHODIMP toRTFString(BSTR*) override { return E_NOTIMPL; }
+    STDMETHODIMP removeQuoteFromLastPhrase(short*) override { return E_NOTIMPL; }
+    STDMETHODIMP put_PageIndex(LONG) override { return E_NOTIMPL; }
+
+private:
+    static ComPointer<ITypeInfo> type() {
+        ComPointer<ITypeLib> library;
+        ComPointer<ITypeInfo> info;
+        EXPECT_EQ(LoadTypeLibEx(Library::path().c_str(), REGKIND_NONE, library.put()), S_OK);
+        EXPECT_EQ(library->GetTypeInfoOfGuid(__uuidof(IFormattedText), info.put()), S_OK);
+        return info;
+    }
+};
+
+TEST_F(Sink, MayImplementTheInterfaceOfTheTypeLibrary) {
+    const auto early = makeObject<EarlyBound>();
+    auto* const object = static_cast<DispatchObject*>(early.get());
+    const LateBoundObject author = library.build(0, object);
+    author.call(L"Parse", {L"A, and B"});
+    author.call(L"ToFormattedString", {object});
+    EXPECT_EQ(early->written, L"0A0, 0B00");
+    EXPECT_EQ(textOf(author.call(L"toString")), L"0A0, 0B00");
+    EXPECT_EQ(service.takenErrors(), L"");
+}
+
+TEST_F(Sink, IsCalledWithTheNumberOfArgumentsThatItTakes) {
+    constexpr HRESULT kOwn = MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, 450);
+    // How many arguments each call had: the other number once, and nothing again that failed while it ran.
+    struct Case {
+        std::size_t taken;
+        HRESULT refusal;
+        const wchar_t* counts;
+        const wchar_t* text;
+    };
+    for (const Case& c : {Case{1, DISP_E_BADPARAMCOUNT, L"112111", L"A, B"},
+                          {2, DISP_E_PARAMNOTOPTIONAL, L"122222", L"A, B"},
+                          {2, kOwn, L"1212", L", "},
+                          {3, DISP_E_BADPARAMCOUNT, L"12211221", L""}}) {
+        std::wstring counts, written;
+        const auto strict = makeObject<DispatchObject>();
+        strict->addMethod(L"Add", [&](const Arguments& arguments, VARIANT&) -> HRESULT {
+            counts += std::to_wstring(arguments.size());
+            if (arguments.size() != c.taken && c.refusal == kOwn) throw ComError{kOwn, L"mine"};
+            if (arguments.size() != c.taken) return c.refusal;
+            written += arguments.text(0);
+            return S_OK;
+        });
+        const LateBoundObject author = library.build(0, text.get());
+        author.call(L"Parse", {L"A, and B"});
+        author.call(L"ToFormattedString", {strict.get()});
+        EXPECT_EQ(counts + written, std::wstring(c.counts) + c.text);
     }
 }
 

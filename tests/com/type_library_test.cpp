@@ -60,6 +60,8 @@ std::wstring typeName(const TYPEDESC& type, const std::wstring& name) {
         case VT_BOOL: return L"boolean";
         case VT_VARIANT: return L"variant";
         case VT_DISPATCH: return L"object";
+        case VT_SAFEARRAY: return L"array of " + typeName(*type.lptdesc, {});
+        case VT_USERDEFINED: return L"object";
         default: return L"type " + std::to_wstring(type.vt);
     }
 }
@@ -109,8 +111,12 @@ protected:
             TYPEATTR* attributes = nullptr;
             EXPECT_EQ(mLibrary->GetTypeInfo(i, info.put()), S_OK);
             EXPECT_EQ(info->GetTypeAttr(&attributes), S_OK);
-            attributes->typekind == TKIND_COCLASS ? addClass(info.get(), *attributes)
-                                                  : addInterface(info.get(), *attributes);
+            switch (attributes->typekind) {
+                case TKIND_COCLASS: addClass(info.get(), *attributes); break;
+                case TKIND_ENUM: addEnumeration(info.get(), *attributes); break;
+                case TKIND_ALIAS: break;
+                default: addInterface(info.get(), *attributes);
+            }
             info->ReleaseTypeAttr(attributes);
         }
     }
@@ -136,6 +142,17 @@ private:
             EXPECT_EQ(info->GetRefTypeInfo(reference, face.put()), S_OK);
             line += L" raises " + documentation(face.get()).name;
         }
+        mLines.push_back(line);
+    }
+    void addEnumeration(ITypeInfo* info, const TYPEATTR& attributes) {
+        std::wstring line = L"codes " + documentation(info).name;
+        for (UINT i = 0; i < attributes.cVars; ++i) {
+            VARDESC* constant = nullptr;
+            ASSERT_EQ(info->GetVarDesc(i, &constant), S_OK);
+            line += L" " + documentation(info, constant->memid).name + L"=" + shown(*constant->lpvarValue);
+            info->ReleaseVarDesc(constant);
+        }
+        EXPECT_NE(documentation(info).help, L"");
         mLines.push_back(line);
     }
     void addInterface(ITypeInfo* info, const TYPEATTR& attributes) {

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <regex>
 #include <vector>
 
 #include "support/style_file.h"
@@ -96,6 +97,57 @@ TEST(HostGuide, ShowsTheOptionsOfTheStyleFiles) {
                                             [&](const auto& option) { return option.first.starts_with(name + "."); }))
             << heading;
     }
+}
+
+std::string contentOf(const char* file) {
+    std::ifstream stream(std::string(QUORVEL_PROJECT_DIR "/") + file);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+/// docs/members.md as the interface description has it: members by name, classes that say the same in one row.
+std::string memberIndex(const std::string& idl) {
+    const std::regex part(
+        R"re(interface _?(\w+) : IDispatch|\[id\(\d+\)(, prop(get|put))?[^"]*"([^"]*)"\)\]\s*HRESULT (\w+)\()re");
+    struct Row {
+        std::string classes, kinds;
+    };
+    const auto order = [](const auto& left, const auto& right) {
+        const auto lower = [](std::string text) {
+            std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
+            return text;
+        };
+        return std::pair(lower(left.first), left) < std::pair(lower(right.first), right);
+    };
+    std::map<std::pair<std::string, std::string>, Row, decltype(order)> rows(order);
+    std::string className;
+    for (std::sregex_iterator found(idl.begin(), idl.end(), part), end; found != end; ++found) {
+        if ((*found)[1].matched) {
+            className = std::regex_replace((*found)[1].str(), std::regex("^OutputTemplate"), "");
+            continue;
+        }
+        Row& row = rows[{(*found)[5].str(), std::regex_replace((*found)[4].str(), std::regex(R"(\|)"), R"(\|)")}];
+        row.classes += row.classes.ends_with(className) ? "" : (row.classes.empty() ? "" : ", ") + className;
+        row.kinds += (*found)[3].str();
+    }
+    std::string text =
+        "# Members\n\nWhat the library's objects offer, and what a host's objects do (classes named I...), by name. "
+        "Classes stand without\n\"OutputTemplate\". The [host guide](host-guide.md) has the contract and "
+        "the options.\n\n| member | of | what |\n|---|---|---|\n";
+    for (const auto& [key, row] : rows) {
+        const bool isRead = row.kinds.find("get") != std::string::npos,
+                   isPut = row.kinds.find("put") != std::string::npos;
+        text += "| `" + key.first + "`" + (isPut ? isRead ? ", also written" : ", written" : "") + " | " + row.classes +
+                " | " + key.second + " |\n";
+    }
+    return text;
+}
+
+TEST(HostGuide, HasEveryMemberInItsIndex) {
+    const std::string expected = memberIndex(contentOf("src/host/idl/QuorvelTemplate.idl"));
+    EXPECT_GT(std::count(expected.begin(), expected.end(), '\n'), 200);
+    const bool isSame = contentOf("docs/members.md") == expected;
+    EXPECT_TRUE(isSame) << "members.md as it should be is in the folder of this test";
+    if (!isSame) std::ofstream("members.md") << expected;
 }
 
 }  // namespace

@@ -24,6 +24,12 @@ std::wstring classIdKey() {
     return L"Software\\Classes\\CLSID\\" + textOfGuid(kBridgeClass);
 }
 
+/// Whether a host like this one was ended before it could take its class name back.
+bool isLeftBehind(const CLSID& classId) {
+    ComPointer<IUnknown> running;
+    return classId == kBridgeClass && FAILED(GetActiveObject(classId, nullptr, running.put()));
+}
+
 bool writeKey(HKEY root, const std::wstring& path, const std::wstring& value) {
     HKEY key = nullptr;
     if (RegCreateKeyExW(root, path.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr, &key, nullptr) != ERROR_SUCCESS) {
@@ -38,14 +44,16 @@ bool writeKey(HKEY root, const std::wstring& path, const std::wstring& value) {
 
 }  // namespace
 
-RunningBridgeToVB::RunningBridgeToVB(IDispatch* errorReportService) : mBridge(makeObject<DispatchObject>()) {
-    const ComPointer<IDispatch> service(errorReportService);
-    mBridge->addMethod(L"ErrorParams", [service](const Arguments&, VARIANT& result) {
-        result = Variant(service.get()).release();
+RunningBridgeToVB::RunningBridgeToVB(IDispatch* errorReportService)
+    : RunningBridgeToVB([service = ComPointer<IDispatch>(errorReportService)] { return service; }) {}
+
+RunningBridgeToVB::RunningBridgeToVB(const GiveService& giveService) : mBridge(makeObject<DispatchObject>()) {
+    mBridge->addMethod(L"ErrorParams", [giveService](const Arguments&, VARIANT& result) {
+        result = Variant(giveService().get()).release();
         return S_OK;
     });
     // The name may belong to an installed host already; then its class id serves.
-    if (FAILED(CLSIDFromProgID(kClassName, &mClassId))) registerClassName();
+    if (FAILED(CLSIDFromProgID(kClassName, &mClassId)) || isLeftBehind(mClassId)) registerClassName();
     const HRESULT code = RegisterActiveObject(mBridge.get(), mClassId, ACTIVEOBJECT_STRONG, &mRunning);
     if (FAILED(code)) {
         deleteClassName();

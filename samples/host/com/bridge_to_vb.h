@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "com/dispatch_object.h"
@@ -16,11 +17,19 @@ class RunningBridgeToVB {
 public:
     static constexpr const wchar_t* kClassName = L"QuorvelDot.BridgeToVB";
 
+    /// Gives the service to who asks for it: one for all, or one for each.
+    using GiveService = std::function<ComPointer<IDispatch>()>;
+
     /// @throws ComError when the class name or the object cannot be registered
     explicit RunningBridgeToVB(IDispatch* errorReportService);
+    explicit RunningBridgeToVB(const GiveService& giveService);
     RunningBridgeToVB(const RunningBridgeToVB&) = delete;
     RunningBridgeToVB& operator=(const RunningBridgeToVB&) = delete;
     ~RunningBridgeToVB();
+
+    /// Whether the class name stands where every process looks. Those with an administrator's rights do not look among
+    /// the current user's classes.
+    bool isFoundByEverybody() const { return mClassesRoot != HKEY_CURRENT_USER; }
 
 private:
     void registerClassName();

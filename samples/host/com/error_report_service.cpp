@@ -75,9 +75,14 @@ std::wstring valueText(const VARIANT& value) {
 
 }  // namespace
 
-ErrorReportService::ErrorReportService(std::shared_ptr<std::ostream> report) : mReport(std::move(report)) {
+ErrorReportService::ErrorReportService(std::shared_ptr<std::ostream> report, Level level)
+    : mReport(std::move(report)), mLevel(level) {
     addMethod(L"vbwProcIn", [this](const Arguments& arguments, VARIANT&) {
         ++mProcedures;
+        if (mLevel == Level::kProcedures) {
+            writeLine(std::wstring(2 * mCallStack.size(), L' ') + arguments.text(0) + arguments.text(1));
+            mReport->flush();
+        }
         mCallStack.push_back({arguments.text(0), arguments.has(1) ? arguments.text(1) : L""});
         return S_OK;
     });

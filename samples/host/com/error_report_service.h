@@ -26,7 +26,10 @@ namespace sample {
 /// The report is UTF-8. An error that happens while another one is dumped stands indented below it.
 class ErrorReportService final : public DispatchObject {
 public:
-    explicit ErrorReportService(std::shared_ptr<std::ostream> report);
+    /// What is written: errors, or every procedure with its parameters, as a tree, too.
+    enum class Level { kErrors, kProcedures };
+
+    explicit ErrorReportService(std::shared_ptr<std::ostream> report, Level level = Level::kErrors);
 
     long procedures() const { return mProcedures; }
     long errors() const { return mErrors; }
@@ -48,6 +51,7 @@ private:
     void writeLine(const std::wstring& text);
 
     std::shared_ptr<std::ostream> mReport;
+    Level mLevel;
     std::vector<Call> mCallStack;
     int mIndentation = 0;
     long mProcedures = 0;

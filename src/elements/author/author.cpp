@@ -48,12 +48,53 @@ void OutputTemplateAuthor::Reset(const AuthorOptions& options) {
         if (options == before->options && assembly()) {
             return;
         }
-        const AuthorStyleRef style = std::make_shared<AuthorStyle>(*this, options);
+        const auto style = std::make_shared<AuthorStyle>(*this, options);
+        style->use(before->wording);
         mStyle = style;
         if (!assembly() || !style->hasSeparatorsOf(*before)) {
             layOut();
         }
     });
+}
+
+void OutputTemplateAuthor::andSeparatorHasComma(bool value) {
+    procedure(*this, u"andSeparatorHasComma[Let]", {{u"value", value}}, [&] {
+        AuthorWording wording = mStyle->wording;
+        wording.andSeparatorHasComma = value;
+        use(wording);
+    });
+}
+
+void OutputTemplateAuthor::etAlText(TextView value) {
+    procedure(*this, u"etAlText[Let]", {{u"value", value}}, [&] {
+        AuthorWording wording = mStyle->wording;
+        wording.etAlText = value;
+        use(wording);
+    });
+}
+
+void OutputTemplateAuthor::use(const AuthorWording& wording) {
+    const AuthorStyleRef before = mStyle;
+    const auto style = std::make_shared<AuthorStyle>(*before);
+    style->use(wording);
+    mStyle = style;
+    if (assembly() && !style->hasSeparatorsOf(*before)) {
+        layOut();
+    }
+}
+
+/// Puts the usual "et al." in the place of the style's own words, for the reader.
+void OutputTemplateAuthor::useUsualEtAl(Text& text) const {
+    const Text& own = mStyle->wording.etAlText;
+    if (own == kUsualEtAl || own.empty()) {
+        return;
+    }
+    const std::size_t at = text.rfind(own);
+    const bool isWord = at != Text::npos && at > 0 && text[at - 1] == u' ' &&
+                        (at + own.size() == text.size() || contains(u" ,.;()", text.substr(at + own.size(), 1)));
+    if (isWord) {
+        text.replace(at, own.size(), kUsualEtAl);
+    }
 }
 
 void OutputTemplateAuthor::layOut() {
@@ -114,6 +155,7 @@ void OutputTemplateAuthor::Parse(Text& text, TextView previousStr, bool residueA
               {{u"text", text}, {u"previousStr", previousStr}, {u"residueAlreadyRemoved", residueAlreadyRemoved}}, [&] {
                   mPreviousStr = previousStr;
                   ClearAuthors();
+                  useUsualEtAl(text);
                   // Held, and set again, since the host may have another text read in the middle of this one.
                   const std::shared_ptr<AuthorPersons> persons = mPersons;
                   readPersons(reader(), text, previousStr, residueAlreadyRemoved, *persons);
@@ -124,6 +166,7 @@ void OutputTemplateAuthor::Parse(Text& text, TextView previousStr, bool residueA
 std::shared_ptr<AuthorPersons> OutputTemplateAuthor::personsIn(TextView text) const {
     auto persons = std::make_shared<AuthorPersons>();
     Text remainder(text);
+    useUsualEtAl(remainder);
     procedure(*this, u"Parse", {{u"text", remainder}, {u"previousStr", TextView()}, {u"residueAlreadyRemoved", false}},
               [&] { readPersons(reader(), remainder, {}, false, *persons); });
     return persons;
@@ -215,7 +258,7 @@ Text OutputTemplateAuthor::collapsePseudoToFirstName(TextView firstAuthor) const
 
 Text OutputTemplateAuthor::convertCommaToSemicolon(TextView text) const {
     const std::shared_ptr<const AuthorPersons> persons = mPersons;
-    return quorvel::convertCommaToSemicolon(*this, *persons, text);
+    return quorvel::convertCommaToSemicolon(*this, *persons, mStyle->wording, text);
 }
 
 void OutputTemplateAuthor::ClearAuthors() {
@@ -356,6 +399,8 @@ void OutputTemplateAuthor::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mOutputTemplate", HostObjectRef());
     report.vbwReportVariable(u"mFormattedStr", formattedStr);
     report.vbwReportVariable(u"mYearTemplate", HostObjectRef());
+    report.vbwReportVariable(u"mAndSeparatorHasComma", style->wording.andSeparatorHasComma);
+    report.vbwReportVariable(u"mEtAlText", style->wording.etAlText);
 }
 
 }  // namespace quorvel

@@ -108,6 +108,14 @@ public:
     bool SupportAnonAndPseudoAuthors() const;
     bool SquareBracketIsForFirstName() const;
 
+    /// Whether a comma stands before the and-word of three persons and more; True at first. `Reset` leaves it, as it
+    /// does the next one, and clones have both.
+    bool andSeparatorHasComma() const { return mStyle->wording.andSeparatorHasComma; }
+    void andSeparatorHasComma(bool value);
+    /// What stands for the persons that are left out; "et al." at first. It is read like that, too.
+    Text etAlText() const { return mStyle->wording.etAlText; }
+    void etAlText(TextView value);
+
     /// The first person's text with the name behind the pseudonym in brackets: "Le Carré, John [David
     /// Cornwell]".
     Text collapsePseudoToFirstName(TextView firstAuthor) const;
@@ -135,6 +143,8 @@ private:
     bool fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& formattedItems,
                    bool shortenedVersion) override;
     void layOut();
+    void use(const AuthorWording& wording);
+    void useUsualEtAl(Text& text) const;
     Text getEditorTags() const;
     AuthorReader reader() const { return {*this, mStyle->options.SquareBracketIsForFirstName}; }
     AuthorWriter writer() const { return {*this, mStyle, mPersons, assembly(), mFormattedStr}; }

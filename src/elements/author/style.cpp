@@ -41,8 +41,14 @@ AuthorStyle::AuthorStyle(const Instrumented& element, const AuthorOptions& setti
     }
 }
 
+void AuthorStyle::use(const AuthorWording& words) {
+    wording = words;
+    const bool hasComma = words.andSeparatorHasComma || trim(andSeparator).empty();
+    commaForm = hasComma ? concatenate({kComma, andSeparator}) : andSeparator;
+}
+
 bool AuthorStyle::hasSeparatorsOf(const AuthorStyle& other) const {
-    return andSeparator == other.andSeparator && twoPersonForm == other.twoPersonForm &&
+    return andSeparator == other.andSeparator && commaForm == other.commaForm && twoPersonForm == other.twoPersonForm &&
            etAlSeparator == other.etAlSeparator && etAlCitationSeparator == other.etAlCitationSeparator &&
            options.editorSeparator == other.options.editorSeparator;
 }

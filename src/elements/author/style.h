@@ -87,9 +87,23 @@ inline constexpr std::tuple kAuthorOptions{
     Option{u"supportsCompilerAndEditor", &AuthorOptions::supportsCompilerAndEditor},
 };
 
+inline constexpr TextView kUsualEtAl = u"et al.";
+
+/// What the settings of `Reset` cannot say: properties of the element, which stay when these change.
+struct AuthorWording {
+    /// A comma stands before the and-word where there are three persons and more. A style without and-word has it
+    /// in any case.
+    bool andSeparatorHasComma = true;
+    /// What stands for the persons that are left out.
+    Text etAlText = Text(kUsualEtAl);
+
+    bool operator==(const AuthorWording&) const = default;
+};
+
 /// The settings, and the texts that are made of them once.
 struct AuthorStyle {
     AuthorOptions options;
+    AuthorWording wording;
     /// By role, for one person and for several.
     std::vector<Text> editorTagsSingular;
     std::vector<Text> editorTagsPlural;
@@ -105,6 +119,7 @@ struct AuthorStyle {
     /// @param element reports how its tags are made
     AuthorStyle(const Instrumented& element, const AuthorOptions& settings);
 
+    void use(const AuthorWording& words);
     /// Whether the same texts stand between the persons.
     bool hasSeparatorsOf(const AuthorStyle& other) const;
 };

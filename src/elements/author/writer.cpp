@@ -12,8 +12,6 @@ namespace quorvel {
 
 namespace {
 
-constexpr TextView kEtAlText = u"et al.";
-constexpr TextView kEtAlGroup = u"et al; ";
 constexpr TextView kOmission = u" . . . ";
 constexpr TextView kPseudonymMark = u"pseud.";
 constexpr std::size_t kUsualName = 48;
@@ -88,7 +86,7 @@ void AuthorWriter::write(const OutputSinkRef& formattedStr, bool isFootnote, boo
     const OutputSinkRef assembled = object(mMaker).BuildNewFormattedString();
     object(assembled).Reset();
     AssembledElement::write(assembled, isFootnote, shortenedVersion);
-    const Text text = convertCommaToSemicolon(mElement, *mPersons, assembled->toString());
+    const Text text = convertCommaToSemicolon(mElement, *mPersons, mStyle->wording, assembled->toString());
     object(formattedStr).Add(text, OutputSink::kPlain);
 }
 
@@ -102,6 +100,11 @@ bool AuthorWriter::reversesFirst(bool isFootnote) const {
     return !isFootnote || (options().ReverseFirstOnFootnote && !readsOn);
 }
 
+/// APA 6 6.27: an ellipsis stands in a reference list; a citation has "et al." all the same (6.12).
+bool AuthorWriter::writesEllipses() const {
+    return options().etAlUsesElipses && !mIsMinimal && !mIsCitation;
+}
+
 bool AuthorWriter::fillSlots(bool isFootnote, std::vector<Text>& items, std::vector<OutputSinkRef>& /*formattedItems*/,
                              bool shortenedVersion) {
     using namespace authorlayout;
@@ -111,27 +114,29 @@ bool AuthorWriter::fillSlots(bool isFootnote, std::vector<Text>& items, std::vec
         items.at(kEditor) = editorTag(mElement, *mStyle, persons);
     }
     const bool isWithinLimit = (!isFootnote && !options().etAlInReferenceList) || all < mTrigger;
-    if (isWithinLimit && (!persons.hasEtAl || options().etAlUsesElipses)) {
+    if (isWithinLimit && (!persons.hasEtAl || writesEllipses())) {
         ToArray(isFootnote, items, shortenedVersion);
         return false;
     }
     if (mKept < 1) {
-        items.at(kEtAl) = kEtAlText;
+        items.at(kEtAl) = mStyle->wording.etAlText;
         ToArray(isFootnote, items, shortenedVersion);
         return false;
     }
     const std::int16_t last = std::min(all, mKept);
     writePersons(isFootnote, items, shortenedVersion, last);
-    if (options().etAlUsesElipses && !mIsMinimal && !mIsCitation && all > mKept) {
-        // APA 6 6.27: the first six, an ellipsis, the last; a citation has "et al." all the same.
+    if (writesEllipses() && all > mKept) {
+        // The first six, an ellipsis, the last.
         const TextView comma = last > 1 || !options().twoAuthorsIsOnlyCaseHaveNoComma ? u"," : u"";
         const Text& name = toStringAuthor(before(all), options().reverseSecondaryAuthors, !shortenedVersion);
         items.at(at(std::min<std::int16_t>(last, kSixthPerson))).append(comma).append(kOmission).append(name);
     } else if (persons.firstGroup >= last && options().semicolonBetweenGroupAuthors) {
         const Text& group = toStringAuthor(persons.firstGroup, options().reverseSecondaryAuthors, !shortenedVersion);
-        items.at(kEtAl).assign(kEtAlGroup).append(group);
+        Text& etAl = items.at(kEtAl) = mStyle->wording.etAlText;
+        removeSuffix(etAl, u".");
+        etAl.append(u"; ").append(group);
     } else {
-        items.at(kEtAl) = kEtAlText;
+        items.at(kEtAl) = mStyle->wording.etAlText;
     }
     return false;
 }
@@ -148,7 +153,7 @@ void AuthorWriter::ToArray(bool isFootnote, std::vector<Text>& items, bool short
                       return;
                   }
                   const Text& last = toStringAuthor(before(all), options().reverseSecondaryAuthors, !shortenedVersion);
-                  if (mPersons->hasEtAl && options().etAlUsesElipses) {
+                  if (mPersons->hasEtAl && writesEllipses()) {
                       // The ellipsis takes the place of the and-word that the layout would write, and of no
                       // other: an "and" inside a name stays.
                       const bool isPair = all == 2;
@@ -299,10 +304,11 @@ Text editorTag(const Instrumented& element, const AuthorStyle& style, const Auth
     });
 }
 
-Text convertCommaToSemicolon(const Instrumented& element, const AuthorPersons& persons, TextView text) {
+Text convertCommaToSemicolon(const Instrumented& element, const AuthorPersons& persons, const AuthorWording& wording,
+                             TextView text) {
     return procedure(element, u"convertCommaToSemicolon", {{u"text", text}}, [&] {
         Text result(text);
-        if (contains(toLower(text), u"et al")) {
+        if (contains(toLower(text), u"et al") || (!wording.etAlText.empty() && contains(text, wording.etAlText))) {
             return result;
         }
         for (std::int16_t i = std::max<std::int16_t>(persons.firstGroup, 0); i < persons.size(); ++i) {

@@ -46,6 +46,7 @@ private:
     const AuthorOptions& options() const { return mStyle->options; }
     bool writesSemicolons() const;
     bool reversesFirst(bool isFootnote) const;
+    bool writesEllipses() const;
     void ToArray(bool isFootnote, std::vector<Text>& items, bool shortenedVersion);
     void writePersons(bool isFootnote, std::vector<Text>& items, bool shortenedVersion, std::int16_t last);
     // The text of a person; it stands until the next one is asked for.
@@ -73,7 +74,8 @@ private:
 /// The tag that tells what the persons are: "eds.", "ed. and trans."; empty for authors.
 Text editorTag(const Instrumented& element, const AuthorStyle& style, const AuthorPersons& persons);
 
-/// Commas beside a group author become semicolons, unless the text holds "et al".
-Text convertCommaToSemicolon(const Instrumented& element, const AuthorPersons& persons, TextView text);
+/// Commas beside a group author become semicolons, unless the text holds "et al" or the style's words for that.
+Text convertCommaToSemicolon(const Instrumented& element, const AuthorPersons& persons, const AuthorWording& wording,
+                             TextView text);
 
 }  // namespace quorvel

@@ -150,6 +150,12 @@ void OutputTemplateCitation::Initialize(const OutputSinkRef& formattedStr, bool 
                   mCallback = nullptr;
                   mFormattedStr = object(formattedStr).Clone();
                   mIndexes = CitationFieldIndexes(object(held(keyToInternalIndex)));
+                  if (!authorModelOutputTemplate) {
+                      throw RuntimeError(
+                          ErrorNumber::ObjectNotSet,
+                          descriptionOf(ErrorNumber::ObjectNotSet,
+                                        u"authorModelOutputTemplate; authors stand as the model has them"));
+                  }
               });
 }
 
@@ -191,8 +197,13 @@ void OutputTemplateCitation::layOut() {
 
 void OutputTemplateCitation::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
+        if (mNoDateString != citationtext::kNoDate && !mNoDateString.empty()) {
+            constexpr TextView kComma = u", ";
+            text = replaceAll(text, concatenate({kComma, mNoDateString}), concatenate({kComma, citationtext::kNoDate}));
+        }
+        Text rest = citationtext::takeLaterCitations(text);
         mFields = citationtext::read(text, previousStr);
-        text.clear();
+        text = std::move(rest);
     });
 }
 
@@ -265,8 +276,7 @@ void OutputTemplateCitation::write(const OutputSinkRef& formattedStr, const Refe
     if (isCommunication(fields) && namesCommunications) {
         const bool isEmail = fields.email == kTrue && mOptions.useEmailKey;
         slots.add(kCommunicator, isNamed ? Text() : communicatorOf(fields));
-        slots.add(isEmail ? kDateOfEmail : kDateOfLetter,
-                  fields.date.empty() ? citationtext::kNoDate : TextView(fields.date));
+        slots.add(isEmail ? kDateOfEmail : kDateOfLetter, fields.date.empty() ? mNoDateString : fields.date);
     } else if (citesWebsite) {
         slots.add(kWebsite, fields.website);
     } else {
@@ -374,7 +384,7 @@ Text OutputTemplateCitation::yearOf(const CitationFields& fields) {
     year->Parse(remainder, {});
     Text result;
     switch (year->yearType) {
-        case OutputTemplateYear::kNoDate: result = mOptions.useNoDate ? citationtext::kNoDate : TextView(); break;
+        case OutputTemplateYear::kNoDate: result = mOptions.useNoDate ? mNoDateString : Text(); break;
         case OutputTemplateYear::kCirca: result = concatenate({kCirca, u" ", trim(year->Year)}); break;
         case OutputTemplateYear::kNotYetPublished: result = kInPress; break;
         default: result = year->toString(false, true); break;
@@ -393,7 +403,8 @@ void OutputTemplateCitation::addTitle(Slots& slots, std::int16_t slot, const Cit
     if (!isOfPart) {
         slots.add(slot, text, OutputSink::kItalic);
     } else if (mOptions.titleIsQuoted && !text.empty()) {
-        slots.add(slot, titlequotes::quoted(text));
+        const std::shared_ptr<OutputTemplateTitle> style = mTitleModelOutputTemplate;
+        slots.add(slot, style ? style->quoted(text) : titlequotes::quoted(text));
     } else {
         slots.add(slot, text);
     }
@@ -484,6 +495,7 @@ void OutputTemplateCitation::dumpVariables(VBWPROTECTOR& report) const {
     for (const CitationKey& key : kCitationKeys) {
         report.vbwReportVariable(Name(key.key), fields.*key.field);
     }
+    report.vbwReportVariable(u"mNoDateString", mNoDateString);
 }
 
 }  // namespace quorvel

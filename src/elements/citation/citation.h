@@ -14,6 +14,7 @@
 #include "core/text.h"
 #include "elements/author/author.h"
 #include "elements/citation/fields.h"
+#include "elements/citation/text.h"
 #include "elements/title/title.h"
 #include "elements/year.h"
 
@@ -164,6 +165,10 @@ public:
     Text Year() const;
     void Year(TextView theVal);
 
+    /// The citation's own text for a missing date; "n.d." at first. It is read, too, and `Reset` leaves it.
+    Text noDateString() const { return mNoDateString; }
+    void noDateString(TextView value) { mNoDateString = value; }
+
     /// Registers the next slot of a layout begun with `ResetLikeModelTemplate`, as `OutputTemplateModel::Add`.
     void Add(std::int16_t Index, bool isFormatted, TextView checkingKey, const std::vector<Text>& separators);
 
@@ -201,6 +206,7 @@ private:
     bool mIsLikeModelTemplate = false;
     ImplementorRef mCallback;
     CitationFields mFields;
+    Text mNoDateString = Text(citationtext::kNoDate);
 };
 
 }  // namespace quorvel

@@ -206,11 +206,54 @@ CitationFields readIbid(TextView text, TextView previous) {
     return fields;
 }
 
+/// "291(20):2432" behind "JAMA. 2004; " is no other work.
+bool isVolumeOfJournal(TextView text) {
+    const TextView digits = text.substr(0, text.find_first_of(u"(:"));
+    return digits.size() < text.size() && isDigits(digits);
+}
+
+/// "Kuhn (1970, p. 52)", as a sentence has it, in the form of a citation; any other text as it is.
+Text withoutInnerParentheses(TextView text) {
+    const std::size_t open = text.rfind(u" (");
+    if (open == TextView::npos || open == 0 || !endsWith(text, u")")) {
+        return Text(text);
+    }
+    const TextView inside = text.substr(open + 2, text.size() - open - 3);
+    const TextView first = before(inside, kBetweenPieces);
+    if (!isYear(first) && !isLocator(first)) {
+        return Text(text);
+    }
+    return concatenate({trim(text.substr(0, open), u" ,"), kBetweenPieces, inside});
+}
+
 }  // namespace
+
+Text takeLaterCitations(Text& citation) {
+    bool isQuoted = false;
+    std::size_t begin = 0;
+    for (std::size_t i = 0; i + 1 < citation.size(); ++i) {
+        const char16_t unit = citation[i];
+        isQuoted = unit == u'"' ? !isQuoted : unit == u'\u201C' || (isQuoted && unit != u'\u201D');
+        if (unit != u';' || isQuoted || !isSpace(citation[i + 1])) {
+            continue;
+        }
+        const CitationFields first = read(TextView(citation).substr(begin, i - begin), {});
+        const TextView rest = trim(TextView(citation).substr(i + 1), u" ,");
+        begin = i + 1;
+        if ((first.year.empty() && first.page.empty()) || isVolumeOfJournal(rest)) {
+            continue;
+        }
+        const bool isBracketed = startsWith(citation, u"(");
+        Text later(isBracketed ? trim(rest, u"().") : rest);
+        citation = Text(trim(TextView(citation).substr(isBracketed ? 1 : 0, i - (isBracketed ? 1 : 0))));
+        return later;
+    }
+    return {};
+}
 
 CitationFields read(TextView citation, TextView previous) {
     Text text = cleanUp(citation);
-    text = Text(bare(text));
+    text = withoutInnerParentheses(bare(text));
     CitationFields fields;
     if (startsWithIgnoringCase(text, kIbid)) {
         return readIbid(text, previous);

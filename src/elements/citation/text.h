@@ -24,9 +24,14 @@ inline constexpr TextView kNoDate = u"n.d.";
 ///   (T. K. Lutes, personal communication, April 18, 2001)
 ///   (JAMA. 2004;291(20):2432)                          periodical, year, volume, issue, page
 ///   Ibid., 57                                          what `previous` cites, with this page
+///   Kuhn (1970, p. 52)                                 as it stands in a sentence
 ///
 /// A name without anything else is an author.
 /// @param previous the citation before, for "Ibid."
 CitationFields read(TextView citation, TextView previous);
+
+/// Cuts a citation of several works, "(Kuhn, 1970; Smith, 1990)", behind the first of them.
+/// @return the others, "Smith, 1990"; empty when there are none
+Text takeLaterCitations(Text& citation);
 
 }  // namespace quorvel::citationtext

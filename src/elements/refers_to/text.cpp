@@ -19,7 +19,8 @@ constexpr TextView kPagePrefixes[] = {u"pp. ", u"p. "};
 constexpr TextView kSignsOfRange = u"0123456789-\u2013";
 
 // Behind a full stop, where a year would stand.
-constexpr TextView kWordsForYears[] = {u"In press", u"in press", u"forthcoming", u"n.d.", u"date unknown"};
+constexpr TextView kWordsForYears[] = {u"In press",    u"In Press", u"in press",    u"Forthcoming",
+                                       u"forthcoming", u"n.d.",     u"date unknown"};
 constexpr TextView kSeasons[] = {u"Spring", u"Summer", u"Fall", u"Autumn", u"Winter"};
 // What may belong to a date in front of its year: "12 Jan.", "January 3,", "July/August".
 constexpr int kMostWordsOfDate = 3;

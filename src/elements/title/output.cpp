@@ -83,6 +83,10 @@ Text OutputTemplateTitle::wholeTitle(bool shortenedVersion) const {
     return concatenate({title, isQuestionOrExclamation(title.back()) ? u" " : u": ", subtitle});
 }
 
+Text OutputTemplateTitle::quoted(TextView title) const {
+    return concatenate({mOpeningQuotationMark, titlequotes::withSingleQuotationMarks(title), mClosingQuotationMark});
+}
+
 bool OutputTemplateTitle::isPart() const {
     return mIsChapterOrWebsite || titletypes::isPart(mTitleType);
 }
@@ -115,6 +119,11 @@ bool OutputTemplateTitle::fillSlots(bool /*isFootnote*/, std::vector<Text>& item
         items.at(kTranslationSlot) = std::move(translation);
         items.at(kDescriptionSlot) = description;
         movePunctuation(items, title);
+        if (titletypes::isSentence(text, mFormat)) {
+            title += endsWithPunctuation(title) ? u"" : u".";
+            items.at(kDescriptionSlot).clear();
+            items.at(kAfterMarkSlot) = description;
+        }
     }
     // A copy: the host may ask for a new layout while it is written to.
     const OutputSinkRef fragment = formattedItems.at(kTitleSlot);
@@ -146,7 +155,7 @@ void OutputTemplateTitle::addTitleImpl(const OutputSinkRef& formattedStr, Text& 
     procedure(*this, u"addTitleImpl", {{u"formattedStr", formattedStr}, {u"text", text}, {u"isPart", isPart}}, [&] {
         OutputSink& sink = object(formattedStr);
         if (isPart) {
-            sink.Add(titletypes::quotesParts(mFormat) ? titlequotes::quoted(text) : text, OutputSink::kPlain);
+            sink.Add(titletypes::quotesParts(mFormat) ? quoted(text) : text, OutputSink::kPlain);
             return;
         }
         std::vector<Range> roman;

@@ -14,10 +14,31 @@ namespace {
 
 constexpr TextView kSubtitleSeparator = u": ";
 
+bool isClosingQuotationMark(char16_t unit) {
+    return unit == kRightDoubleQuotationMark || unit == u'"';
+}
+
 /// "Phys. Rev. Lett.": the last two words have stops.
 bool isAbbreviated(TextView text) {
     const std::size_t blank = text.find_last_of(u' ');
     return blank != TextView::npos && blank > 0 && text[blank - 1] == u'.';
+}
+
+// What MLA and Turabian write behind a title in quotation marks.
+constexpr TextView kLetterTexts[] = {u" Letter", u" letter", u" letter to the editor"};
+
+/// Takes the text that describes a letter off the end of its title, and returns the type; empty when there is none.
+Text removeDescribingText(Text& text) {
+    const TextView title = trim(text, u".");
+    for (const TextView description : kLetterTexts) {
+        const bool isBehindQuote = endsWith(title, description) && title.size() > description.size() &&
+                                   isClosingQuotationMark(title[title.size() - description.size() - 1]);
+        if (isBehindQuote) {
+            text.resize(title.size() - description.size());
+            return titletypes::typeOfDescribingText(trim(description));
+        }
+    }
+    return {};
 }
 
 }  // namespace
@@ -87,6 +108,8 @@ void OutputTemplateTitle::CloneImpl(OutputTemplateTitle& clone) const {
         clone.mUsesSubtitle = mUsesSubtitle;
         clone.mTitleSubtypes = mTitleSubtypes;
         clone.mPunctuation = mPunctuation;
+        clone.mOpeningQuotationMark = mOpeningQuotationMark;
+        clone.mClosingQuotationMark = mClosingQuotationMark;
         if (mFormattedStr) {
             clone.Initialize(OutputSinkRef(mFormattedStr));
         }
@@ -99,7 +122,7 @@ void OutputTemplateTitle::CloneImpl(OutputTemplateTitle& clone) const {
 void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"secondaryStr", secondaryStr}}, [&] {
         text = cleanUp(text);
-        mTitleType = secondaryStr;
+        mTitleType = titletypes::spelled(secondaryStr);
         for (Text& value : mValues) {
             value.clear();
         }
@@ -107,12 +130,26 @@ void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
         if (mAuthorTemplate) {
             held(mAuthorTemplate)->ClearAuthors();
         }
-        parseAndRemovePrematter(text, secondaryStr);
+        // A copy: the reports reach the host, which may give another type.
+        const Text type = mTitleType;
+        parseAndRemovePrematter(text, type);
         parseAndRemoveTranslation(text);
+        if (const Text behind = removeDescribingText(text); mTitleType.empty()) {
+            mTitleType = behind;
+        }
         // The full stop of the reference, but not one of the title's own: "U.S.", "What Is Art? . . .".
         if (endsWith(text, u".") && !endsWith(text, u"..") && !endsWith(text, u". .") && !isAbbreviated(text) &&
             !titlecase::isStopOfWord(text, text.size() - 1)) {
             text.pop_back();
+        }
+        const bool hasOwnMarks = text.size() >= mOpeningQuotationMark.size() + mClosingQuotationMark.size() &&
+                                 !mOpeningQuotationMark.empty() && startsWith(text, mOpeningQuotationMark) &&
+                                 endsWith(text, mClosingQuotationMark);
+        if (hasOwnMarks) {
+            const TextView title =
+                TextView(text).substr(mOpeningQuotationMark.size(),
+                                      text.size() - mOpeningQuotationMark.size() - mClosingQuotationMark.size());
+            text = titlequotes::quoted(title);
         }
         const bool isQuoted = text.size() > 1 && (text.front() == kLeftDoubleQuotationMark || text.front() == u'"') &&
                               (text.back() == kRightDoubleQuotationMark || text.back() == u'"') &&
@@ -222,7 +259,7 @@ Text OutputTemplateTitle::TitleType() const {
 }
 
 void OutputTemplateTitle::TitleType(TextView value) {
-    procedure(*this, u"TitleType[Let]", {{u"value", value}}, [&] { mTitleType = value; });
+    procedure(*this, u"TitleType[Let]", {{u"value", value}}, [&] { mTitleType = titletypes::spelled(value); });
 }
 
 bool OutputTemplateTitle::IsChapterOrWebsite() const {
@@ -313,6 +350,8 @@ void OutputTemplateTitle::dumpVariables(VBWPROTECTOR& report) const {
     report.vbwReportVariable(u"mPunctuation", mPunctuation);
     report.vbwReportVariable(u"mPrematterTypes", mPrematterTypes);
     report.vbwReportVariable(u"mAuthorTemplate", mAuthorTemplate);
+    report.vbwReportVariable(u"mOpeningQuotationMark", mOpeningQuotationMark);
+    report.vbwReportVariable(u"mClosingQuotationMark", mClosingQuotationMark);
 }
 
 }  // namespace quorvel

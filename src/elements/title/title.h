@@ -117,6 +117,15 @@ public:
     /// Whether the prematter that was read names the work that it belongs to.
     bool prematterHasTitle() const;
 
+    /// The marks around the titles of parts, in citations, too; U+201C and U+201D at first. Titles that stand in them
+    /// are read. `Reset` leaves them, and clones have them. Only behind U+201D do a full stop and a comma move inside.
+    Text openingQuotationMark() const { return mOpeningQuotationMark; }
+    void openingQuotationMark(TextView value) { mOpeningQuotationMark = value; }
+    Text closingQuotationMark() const { return mClosingQuotationMark; }
+    void closingQuotationMark(TextView value) { mClosingQuotationMark = value; }
+    /// For the library's own use: a title in these marks.
+    Text quoted(TextView title) const;
+
     /// The rule that the form tells: that of parts and web sites or that of books and articles.
     Text CapitalizationRule() const;
     /// A text in the style's capitalisation. Foreign, old and preformatted titles stay as they are.
@@ -220,6 +229,8 @@ private:
     std::shared_ptr<OutputTemplateAuthor> mAuthorTemplate;
     // A clone of the host's sink, from which clones of the element are initialised.
     OutputSinkRef mFormattedStr;
+    Text mOpeningQuotationMark = Text(1, kLeftDoubleQuotationMark);
+    Text mClosingQuotationMark = Text(1, kRightDoubleQuotationMark);
 };
 
 }  // namespace quorvel

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 
 #include "core/letter_case.h"
 #include "elements/captions.h"
@@ -39,6 +40,8 @@ const std::vector<Description>& descriptions() {
         {u"Abridged", {kAma, kApa, kMla, kTurabian}, kEither, u"abridged"},
         {u"Video", {kAma, kApa, kMla, kTurabian}, kEither, u"video"},
         {u"Letter", {kTurabian}, kEither, u"letter to the editor"},
+        // MLA 7 5.4.10: a sentence of its own.
+        {u"Letter", {kMla}, kEither, u"Letter"},
         {u"Letter", {kApa, kAma}, kEither, u"letter"},
         // MLA 7 5.4.10: "Letter" is the title of a letter that has none.
         {u"Letter", {kMlaWithoutEd}, kUntitled, u"Letter"},
@@ -55,6 +58,31 @@ const std::vector<Description>& descriptions() {
 
 Text captionOf(TextView type) {
     return quorvel::captionOf(type, kCaptions);
+}
+
+Text spelled(TextView type) {
+    if (type.empty()) {
+        return {};
+    }
+    for (const Caption& row : kCaptions) {
+        if (equalsIgnoringCase(row.type, type)) {
+            return Text(row.type);
+        }
+    }
+    for (const std::span<const TextView> names :
+         {std::span<const TextView>(kPrematterTypes), std::span<const TextView>(kParts)}) {
+        for (const TextView name : names) {
+            if (equalsIgnoringCase(name, type)) {
+                return Text(name);
+            }
+        }
+    }
+    for (const Description& row : descriptions()) {
+        if (equalsIgnoringCase(row.type, type)) {
+            return Text(row.type);
+        }
+    }
+    return Text(type);
 }
 
 Text typeOf(TextView caption) {
@@ -88,6 +116,10 @@ TextView describingText(TextView type, std::int16_t format, bool hasTitle) {
 
 bool isLeadIn(TextView describingText) {
     return endsWith(describingText, u" ");
+}
+
+bool isSentence(TextView describingText, std::int16_t format) {
+    return format == kMla && describingText == u"Letter";
 }
 
 Text typeOfDescribingText(TextView text) {

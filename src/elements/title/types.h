@@ -11,6 +11,9 @@ namespace quorvel::titletypes {
 Text captionOf(TextView type);
 Text typeOf(TextView caption);
 
+/// A type in the spelling of the tables, in whatever letter case it came; any other text as it is.
+Text spelled(TextView type);
+
 /// Foreword, Introduction, Preface, Afterword.
 std::vector<Text> prematterTypes();
 bool isPrematter(TextView type);
@@ -23,6 +26,8 @@ bool isPart(TextView type);
 TextView describingText(TextView type, std::int16_t format, bool hasTitle);
 /// Whether the describing text stands before the person it is about: "obituary for ".
 bool isLeadIn(TextView describingText);
+/// Whether the describing text is a sentence behind the title: "Letter" in MLA.
+bool isSentence(TextView describingText, std::int16_t format);
 /// The type that a describing text in square brackets stands for: "Letter" for "letter"; empty for none.
 Text typeOfDescribingText(TextView text);
 

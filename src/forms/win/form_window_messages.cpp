@@ -184,7 +184,8 @@ void FormWindow::hearAfter(ChildWindow& child, HWND window, UINT message) {
         case WM_LBUTTONUP:
         case WM_MOUSEMOVE:
             if (isBox(child)) {
-                tell([&](Form& form) { form.userSelectedText(control); });
+                const SelectedBy by = message == WM_KEYUP ? SelectedBy::Key : SelectedBy::Mouse;
+                tell([&](Form& form) { form.userSelectedText(control, by); });
             }
             break;
         default: break;

@@ -162,6 +162,18 @@ public:
     STDMETHODIMP put_Discussant(BSTR Discussant) override {
         return call([&] { mElement->Discussant(view(Discussant)); });
     }
+    STDMETHODIMP get_andSeparatorHasComma(VARIANT_BOOL* result) override {
+        return call(result, [&] { return mElement->andSeparatorHasComma(); });
+    }
+    STDMETHODIMP put_andSeparatorHasComma(VARIANT_BOOL andSeparatorHasComma) override {
+        return call([&] { mElement->andSeparatorHasComma(asBool(andSeparatorHasComma)); });
+    }
+    STDMETHODIMP get_etAlText(BSTR* result) override {
+        return call(result, [&] { return mElement->etAlText(); });
+    }
+    STDMETHODIMP put_etAlText(BSTR etAlText) override {
+        return call([&] { mElement->etAlText(view(etAlText)); });
+    }
 
 private:
     /// One role for an index, all three without.

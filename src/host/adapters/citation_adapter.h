@@ -88,6 +88,12 @@ public:
                     [&] { mCitation.Add(Index, asBool(isFormatted), view(checkingKey), textsOf(separators)); });
         });
     }
+    STDMETHODIMP get_noDateString(BSTR* result) override {
+        return call(result, [&] { return mCitation.noDateString(); });
+    }
+    STDMETHODIMP put_noDateString(BSTR noDateString) override {
+        return call([&] { mCitation.noDateString(view(noDateString)); });
+    }
 
 private:
     OutputTemplateCitation mCitation;

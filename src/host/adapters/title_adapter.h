@@ -174,6 +174,18 @@ public:
     STDMETHODIMP UnItalicizeShipNames(BSTR text, IDispatch* formattedStr) override {
         return call([&] { mElement->UnItalicizeShipNames(view(text), HostSink::of(formattedStr)); });
     }
+    STDMETHODIMP get_openingQuotationMark(BSTR* result) override {
+        return call(result, [&] { return mElement->openingQuotationMark(); });
+    }
+    STDMETHODIMP put_openingQuotationMark(BSTR openingQuotationMark) override {
+        return call([&] { mElement->openingQuotationMark(view(openingQuotationMark)); });
+    }
+    STDMETHODIMP get_closingQuotationMark(BSTR* result) override {
+        return call(result, [&] { return mElement->closingQuotationMark(); });
+    }
+    STDMETHODIMP put_closingQuotationMark(BSTR closingQuotationMark) override {
+        return call([&] { mElement->closingQuotationMark(view(closingQuotationMark)); });
+    }
 };
 
 }  // namespace quorvel::host

@@ -18,6 +18,23 @@ Variant converted(const VARIANT& argument, VARTYPE type) {
     return value;
 }
 
+/// What each element of an array is read as; an error says which one it is.
+template <class T>
+std::vector<T> eachOf(const VARIANT& array, T (*read)(const VARIANT&)) {
+    std::vector<T> values;
+    for (const Variant& element : elementsOf(array)) {
+        try {
+            values.push_back(read(element));
+        } catch (const RuntimeError& error) {
+            const Text place = decimal(static_cast<std::int64_t>(values.size()));
+            throw RuntimeError(error.number(),
+                               concatenate({error.description(), u": element ", place, u" of the array"}),
+                               error.object());
+        }
+    }
+    return values;
+}
+
 }  // namespace
 
 bool isMissing(const VARIANT& argument) {
@@ -37,19 +54,11 @@ Text textOf(const VARIANT& argument) {
 }
 
 std::vector<Text> textsOf(const VARIANT& array) {
-    std::vector<Text> texts;
-    for (const Variant& element : elementsOf(array)) {
-        texts.push_back(textOf(element));
-    }
-    return texts;
+    return eachOf(array, textOf);
 }
 
 std::vector<bool> flagsOf(const VARIANT& array) {
-    std::vector<bool> flags;
-    for (const Variant& element : elementsOf(array)) {
-        flags.push_back(flagOf(element));
-    }
-    return flags;
+    return eachOf(array, flagOf);
 }
 
 }  // namespace quorvel::host

@@ -173,7 +173,7 @@ std::vector<Variant> elementsOf(const VARIANT& array) {
         return elements;
     }
     if (IDispatch* script = objectOf(direct)) {
-        const LateBoundObject object(script);
+        const LateBoundObject object(script, u"an array");
         Variant length;
         check(convert(object.get(L"length"), VT_I4, length));
         // The length is what the object says it is, and its elements have 16-bit indexes everywhere.
@@ -202,7 +202,7 @@ void assignElements(VARIANT& array, const std::vector<Variant>& values) {
     }
     auto& direct = const_cast<VARIANT&>(dereferenced(array));
     if (IDispatch* script = objectOf(direct)) {
-        const LateBoundObject object(script);
+        const LateBoundObject object(script, u"an array");
         for (std::size_t i = 0; i < values.size(); ++i) {
             Variant copy;
             check(VariantCopy(&copy, const_cast<Variant*>(&values[i])));

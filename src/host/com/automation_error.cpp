@@ -31,20 +31,6 @@ constexpr KnownFailure kKnownFailures[] = {
     {HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE), ErrorNumber::ServerUnavailable},
 };
 
-/// The number that a host raised itself: Visual Basic hands it over as a code of the control facility.
-std::int32_t numberOf(HRESULT failure, const EXCEPINFO& exception) {
-    if (failure == DISP_E_EXCEPTION) {
-        if (exception.wCode != 0) {
-            return exception.wCode;
-        }
-        if (HRESULT_FACILITY(exception.scode) == FACILITY_CONTROL) {
-            return HRESULT_CODE(exception.scode);
-        }
-        failure = exception.scode;
-    }
-    return static_cast<std::int32_t>(errorNumberOf(failure));
-}
-
 }  // namespace
 
 ErrorNumber errorNumberOf(HRESULT failure) {
@@ -56,19 +42,35 @@ ErrorNumber errorNumberOf(HRESULT failure) {
     return ErrorNumber::AutomationError;
 }
 
-RuntimeError automationError(HRESULT failure, EXCEPINFO& exception, IDispatch* object) {
-    if (failure == DISP_E_EXCEPTION && exception.pfnDeferredFillIn != nullptr) {
-        exception.pfnDeferredFillIn(&exception);
+void ExceptionInfo::complete() {
+    if (pfnDeferredFillIn != nullptr) {
+        pfnDeferredFillIn(this);
+        pfnDeferredFillIn = nullptr;
     }
+}
+
+std::int32_t numberOf(HRESULT failure, const ExceptionInfo& exception) {
+    if (failure == DISP_E_EXCEPTION) {
+        if (exception.wCode != 0) {
+            return exception.wCode;
+        }
+        failure = exception.scode;
+    }
+    // Visual Basic hands its numbers over as codes of the control facility.
+    return HRESULT_FACILITY(failure) == FACILITY_CONTROL ? HRESULT_CODE(failure)
+                                                         : static_cast<std::int32_t>(errorNumberOf(failure));
+}
+
+RuntimeError automationError(HRESULT failure, const ExceptionInfo& exception, IDispatch* object, TextView subject) {
     const std::int32_t number = numberOf(failure, exception);
     Text description(view(exception.bstrDescription));
-    SysFreeString(exception.bstrSource);
-    SysFreeString(exception.bstrDescription);
-    SysFreeString(exception.bstrHelpFile);
     if (description.empty()) {
         description = descriptionOf(static_cast<ErrorNumber>(number));
     }
-    return {number, std::move(description), std::make_shared<HostReference>(object)};
+    if (const TextView source = view(exception.bstrSource); !source.empty()) {
+        description += concatenate({u" (", source, u")"});
+    }
+    return {number, concatenate({description, u": ", subject}), std::make_shared<HostReference>(object)};
 }
 
 }  // namespace quorvel::host

@@ -12,7 +12,25 @@ inline constexpr HRESULT kStackOverflow = HRESULT_FROM_WIN32(ERROR_STACK_OVERFLO
 /// The classic error number for a failed platform or late-bound call.
 ErrorNumber errorNumberOf(HRESULT failure);
 
-/// The error that a late-bound call to `object` left behind. Frees the texts of `exception`.
-RuntimeError automationError(HRESULT failure, EXCEPINFO& exception, IDispatch* object);
+/// What a failed late-bound call says of its failure; frees its texts.
+struct ExceptionInfo : EXCEPINFO {
+    ExceptionInfo() : EXCEPINFO{} {}
+    ExceptionInfo(const ExceptionInfo&) = delete;
+    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+    ~ExceptionInfo() {
+        SysFreeString(bstrSource);
+        SysFreeString(bstrDescription);
+        SysFreeString(bstrHelpFile);
+    }
+    /// Has the callee fill in what it put off.
+    void complete();
+};
+
+/// The classic number of a failure that a late-bound call left behind, or the one that the host raised itself.
+std::int32_t numberOf(HRESULT failure, const ExceptionInfo& exception);
+
+/// That failure as an error of `object`, with the host's own description and source where it gave them.
+/// @param subject what failed: "Add of the formatted text"
+RuntimeError automationError(HRESULT failure, const ExceptionInfo& exception, IDispatch* object, TextView subject);
 
 }  // namespace quorvel::host

@@ -55,6 +55,23 @@ Text documentedName(ITypeInfo* info, MEMBERID member) {
     return result;
 }
 
+/// The names of a member's parameters. A property's new value has none: what is found there is another's.
+std::vector<Text> parameterNames(ITypeInfo* info, const FUNCDESC& function) {
+    std::vector<BSTR> found(static_cast<std::size_t>(function.cParams) + 1, nullptr);
+    UINT count = 0;
+    info->GetNames(function.memid, found.data(), static_cast<UINT>(found.size()), &count);
+    std::vector<Text> names;
+    for (std::size_t i = 1; i < found.size(); ++i) {
+        const bool isNewValue =
+            function.invkind != INVOKE_FUNC && function.invkind != INVOKE_PROPERTYGET && i + 1 == found.size();
+        names.emplace_back(i < count && !isNewValue ? view(found[i]) : TextView(u"the new value"));
+    }
+    for (const BSTR name : found) {
+        SysFreeString(name);
+    }
+    return names;
+}
+
 /// "OutputTemplateYear" for _OutputTemplateYear.
 Text classNameOf(ITypeInfo* info) {
     Text name = documentedName(info, MEMBERID_NIL);
@@ -142,17 +159,20 @@ public:
         assignSources(parameters);
     }
 
-    /// Whether an argument that is not optional is missing.
-    bool lacksArguments() const {
+    /// The arguments that are missing and not optional; empty when there are none.
+    Text lackedArguments() const {
+        Text lacked;
         for (std::size_t i = 0; i < mValues.size(); ++i) {
             if (mSources[i] == nullptr && !mMember.parameters[i].isOptional) {
-                return true;
+                lacked += concatenate({lacked.empty() ? TextView() : TextView(u"; "), nameOfArgument(i)});
             }
         }
-        return false;
+        return lacked;
     }
     /// Whether an argument was left over that no parameter takes.
     bool hasSurplus() const { return mHasSurplus; }
+    /// The argument that `bringArguments` failed at; empty when it did not.
+    Text unfitArgument() const { return mUnfit < mValues.size() ? nameOfArgument(mUnfit) : Text(); }
 
     HRESULT bringArguments() {
         for (std::size_t i = 0; i < mValues.size(); ++i) {
@@ -166,6 +186,7 @@ public:
                 makeEmpty(declared.type, mValues[i]);
             }
             if (FAILED(outcome)) {
+                mUnfit = i;
                 return outcome;
             }
         }
@@ -215,6 +236,12 @@ public:
     }
 
 private:
+    /// "argument 7, andSeparator".
+    Text nameOfArgument(std::size_t i) const {
+        return concatenate(
+            {u"argument ", decimal(static_cast<std::int64_t>(i) + 1), u", ", mMember.parameters[i].name});
+    }
+
     void assignSources(const DISPPARAMS& parameters) {
         // Named arguments stand first; the others follow from the last to the first. A property's new value
         // is named too.
@@ -292,6 +319,7 @@ private:
     // The values as the member got them, without owning them.
     std::vector<VARIANT> mBrought;
     bool mHasSurplus = false;
+    std::size_t mUnfit = SIZE_MAX;
 };
 
 DispatchTable::DispatchTable(ComPtr<ITypeInfo> dispatchInfo) : mDispatchInfo(std::move(dispatchInfo)) {}
@@ -342,6 +370,7 @@ bool DispatchTable::readMembers() {
         member.kind = function->invkind;
         member.procedure = procedureName(info.get(), *function);
         member.vtableOffset = static_cast<std::size_t>(function->oVft);
+        std::vector<Text> names = parameterNames(info.get(), *function);
         for (SHORT p = 0; p < function->cParams; ++p) {
             const ELEMDESC& element = function->lprgelemdescParam[p];
             if ((element.paramdesc.wParamFlags & PARAMFLAG_FRETVAL) != 0) {
@@ -349,6 +378,7 @@ bool DispatchTable::readMembers() {
                 continue;
             }
             Parameter parameter;
+            parameter.name = std::move(names[static_cast<std::size_t>(p)]);
             parameter.type = valueType(element.tdesc);
             parameter.isByReference = isPointerTo(element.tdesc);
             parameter.isOptional = isOptional(element.paramdesc);
@@ -387,16 +417,17 @@ HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DI
     makeEmpty(member->resultType == VT_VOID || member->resultType == VT_VARIANT ? static_cast<VARTYPE>(VT_EMPTY)
                                                                                 : member->resultType,
               value);
-    const auto fail = [&](ErrorNumber number) {
+    const auto fail = [&](ErrorNumber number, TextView subject) {
         procedure(StandardModule(Name(mClassName)), Name(member->procedure), kNoParameters,
-                  [&] { throw RuntimeError(number); });
+                  [&] { throw RuntimeError(number, descriptionOf(number, subject)); });
     };
     Call call(*member, parameters);
     if (call.hasSurplus()) {
-        fail(ErrorNumber::WrongNumberOfArguments);
+        fail(ErrorNumber::WrongNumberOfArguments,
+             concatenate({decimal(parameters.cArgs), u" given, ", decimal(member->parameters.size()), u" taken"}));
     }
-    if (call.lacksArguments()) {
-        fail(ErrorNumber::ArgumentNotOptional);
+    if (const Text lacked = call.lackedArguments(); !lacked.empty()) {
+        fail(ErrorNumber::ArgumentNotOptional, lacked);
     }
     // To read an argument may run the host's code already.
     HRESULT outcome = VBWPROTECTOR::ofThisApartment().isTooDeep() ? kStackOverflow : call.bringArguments();
@@ -405,7 +436,7 @@ HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DI
         call.writeBack();
     }
     if (FAILED(outcome)) {
-        fail(errorNumberOf(outcome));
+        fail(errorNumberOf(outcome), call.unfitArgument());
     }
     if (result != nullptr) {
         *result = value.detach();

@@ -27,12 +27,14 @@ public:
     /// positional, null, missing, too many. An argument is brought to its declared type; a null one is the
     /// empty value, a missing one its default or the empty value. That a missing one is not optional, or
     /// that there are surplus ones, is reported, and the member runs. An argument that does not convert is
-    /// a run-time error of the member, which then does not run and returns the empty value of its type.
+    /// a run-time error of the member, which then does not run and returns the empty value of its type. Reports say
+    /// which argument it is.
     /// @return S_OK whenever the interface has the member
     HRESULT invoke(IDispatch* object, DISPID id, WORD flags, const DISPPARAMS& parameters, VARIANT* result) const;
 
 private:
     struct Parameter {
+        Text name;
         VARTYPE type = VT_EMPTY;
         bool isByReference = false;
         bool isOptional = false;

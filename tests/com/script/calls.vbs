@@ -15,6 +15,14 @@ Class Sink
     End Sub
 End Class
 
+Class OneArgument
+    Public Text
+
+    Public Sub Add(newText)
+        Text = Text & newText
+    End Sub
+End Class
+
 Class Deaf
     Public Sub Add(one, two, three)
     End Sub
@@ -105,5 +113,18 @@ list = author.Anthologies
 Check "roles", list(0) & list(1) & list(2) & author.Anthologies(2), "TrueFalseTrueTrue"
 author.authors = 5
 Check "no list", UBound(author.authors) & "", "1"
+
+' A Sub takes exactly what it declares: an author's separators come with a font, all else without one.
+Dim narrow, publisher
+For Each narrow In Array(New Sink, New OneArgument)
+    Set author = main.build(0, narrow)
+    author.Reset False, True, "(Ed.)", "&", False, True, True, True, True, 8, 6, 3, 6, 1, True, True, True, False, " "
+    author.Parse "Kuhn, Thomas, and Popper, Karl"
+    author.ToFormattedString narrow
+    Set publisher = main.build(5, narrow)
+    publisher.Parse "Vintage-Knopf; London: Random"
+    publisher.ToFormattedString narrow
+    Check TypeName(narrow), narrow.Text, "Kuhn, Thomas, & Popper, KarlVintage-Knopf; London: Random"
+Next
 
 WScript.Echo "done"

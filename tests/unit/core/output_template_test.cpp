@@ -191,7 +191,11 @@ TEST_F(OutputTemplate, AFaultyLayoutIsReportedAndTheRestIsWritten) {
 
     element.assembly.Add(1, false, false, {u"<", u"-"});
     EXPECT_EQ(output(), u"b00|A|b01|B||C|b2.");
-    EXPECT_EQ(errors(), std::vector<Text>{missing}) << "two entries are two lists of one";
+    EXPECT_EQ(output(), u"b00|A|b01|B||C|b2.");
+    const Text add = u" in QuorvelTemplate.OutputTemplate.Add";
+    EXPECT_EQ(errors(),
+              std::vector<Text>{u"9: Subscript out of range: slot 1 has 2 separators; a list of it is 3" + add})
+        << "two entries are two lists of one, which is said once";
 
     layOut(2, u"b", false);
     element.checks = {false, true};
@@ -202,8 +206,10 @@ TEST_F(OutputTemplate, AFaultyLayoutIsReportedAndTheRestIsWritten) {
         call();
         EXPECT_EQ(errors(), std::vector<Text>{replaceAll(error, u" in ", u" in QuorvelTemplate.OutputTemplate.")});
     };
-    reports(u"9: Subscript out of range in Add", [&] { element.assembly.Add(3, false, false, {}); });
-    reports(u"9: Subscript out of range in Add", [&] { element.assembly.Add(-1, false, false, {}); });
+    reports(u"9: Subscript out of range: slot 3 is beyond the last, 2 in Add",
+            [&] { element.assembly.Add(3, false, false, {}); });
+    reports(u"9: Subscript out of range: slot -1 is beyond the last, 2 in Add",
+            [&] { element.assembly.Add(-1, false, false, {}); });
     reports(u"9: Subscript out of range in Reset", [&] { element.assembly.Reset(-1); });
     reports(u"9: Subscript out of range in Reset", [&] { element.assembly.Reset(0, {1, 2, 3}); });
     reports(u"9: Subscript out of range in isBlank", [&] { element.assembly.isBlank(-1); });

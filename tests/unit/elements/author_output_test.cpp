@@ -110,6 +110,24 @@ TEST(AuthorOutput, EtAl) {
     }
 }
 
+TEST(AuthorOutput, OwnWordsStayWithTheElementAndItsClones) {
+    Options options = plainOptions();
+    options.numAuthorsToTriggerEtAlCitation = 3;
+    options.numAuthorsToTriggerEtAl = 9;
+    const auto author = authorOf(options, 3);
+    author->andSeparatorHasComma(false);
+    author->etAlText(u"u. a.");
+    options.etAlHasComma = true;
+    author->Reset(options);
+    for (const auto& each : {author, author->Clone(), author->CloneForEditors()}) {
+        Text text = u"Ason, Ann, Bert Bson, Carl Cson, u. a.";
+        each->Parse(text, u"");
+        EXPECT_EQ(each->toString(true, true, false, true), u"Ason u. a.");
+        each->HasEtAl(false);
+        EXPECT_EQ(each->toString(false, true), u"Ason, Bson and Cson");
+    }
+}
+
 TEST(AuthorOutput, EllipsisInThePlaceOfTheAndWord) {
     struct Case {
         std::size_t persons;
@@ -119,7 +137,7 @@ TEST(AuthorOutput, EllipsisInThePlaceOfTheAndWord) {
     };
     constexpr Case kCases[] = {
         {3, false, u"Ason, Bson, and Cson", u"Ason et al."},  {3, true, u"Ason, Bson, . . . Cson", u"Ason et al."},
-        {2, true, u"Ason, . . . Bson", u"Ason, . . . Bson"},  {4, false, u"Ason, Bson, . . . Dson", u"Ason et al."},
+        {2, true, u"Ason, . . . Bson", u"Ason et al."},       {4, false, u"Ason, Bson, . . . Dson", u"Ason et al."},
         {4, true, u"Ason, Bson, . . . Dson", u"Ason et al."},
     };
     for (const Case& c : kCases) {

@@ -105,6 +105,8 @@ TEST_F(Citation, IsWhatTheManualsAskFor) {
         {u"editor=Gilman, Sander, Helen King, and Roy Porter, eds.|title=Hysteria beyond Freud",
          u"(Gilman, King, and Porter)", u"(Gilman, King, & Porter, n.d.)",
          u"(Gilman, King, and Porter, _Hysteria beyond Freud_)", u"(Gilman et al.)"},
+        {u"author=Lauter, Paul, et al.|title=Heath Anthology|year=2006", u"(Lauter et al.)", u"(Lauter et al., 2006)",
+         u"(Lauter et al., _Heath Anthology_)", u"(Lauter et al., 2006)"},
         // Volumes, years of all kinds.
         {u"author=Wellek, René|title=A History of Modern Criticism|year=1955|citedVolume=2|citedPage=1-10",
          u"(Wellek 2: 1-10)", u"(Wellek, 1955, Vol. 2, 1-10)", u"(Wellek, _History of Modern Criticism_, 2:1-10)",
@@ -189,6 +191,7 @@ TEST_F(Citation, ReadsWhatItWrites) {
         TextView citation;
         TextView fields;
         TextView previous = u"";
+        TextView rest = u"";
     };
     constexpr Case kCases[] = {
         {u"(Smith & Jones, 2005, p. 12)", u"author=Smith & Jones|year=2005|citedPage=p. 12"},
@@ -217,12 +220,19 @@ TEST_F(Citation, ReadsWhatItWrites) {
         {u"", u""},
         {u"()", u""},
         {u"(Smith, :12)", u"author=Smith|title=:12"},
+        // As it stands in a sentence; of several works the first.
+        {u"Kuhn (1970, p. 52)", u"author=Kuhn|year=1970|citedPage=p. 52"},
+        {u"Smith and Jones (12).", u"author=Smith and Jones|citedPage=12"},
+        {u"(Kuhn, 1970; Smith, 1990; Li, 1991)", u"author=Kuhn|year=1970", u"", u"Smith, 1990; Li, 1991"},
+        {u"(“A; B,” 1970; JAMA. 2004;291(20):2432)", u"subwork=A; B|year=1970", u"", u"JAMA. 2004;291(20):2432"},
+        {u"(JAMA. 2004; 291(20):2432)", u"periodical=JAMA|year=2004|citedVolume= 291|issue=20|citedPage=2432"},
+        {u"(Smith; Jones, 2005)", u"author=Smith; Jones|year=2005"},
     };
     use(apa());
     for (const Case& c : kCases) {
         Text text(c.citation);
         citation.Parse(text, c.previous);
-        EXPECT_EQ(text, u"");
+        EXPECT_EQ(text, c.rest);
         setFields(c.fields);
         const std::map<std::int16_t, Text> expected = model->fields;
         setFields(u"");
@@ -310,10 +320,20 @@ TEST_F(Citation, SurvivesWhatIsMissingOrActs) {
     citation.Initialize(std::make_shared<RecordingSink>(), true, nullptr, nullptr, nullptr, nullptr);
     EXPECT_EQ(service().errors().size(), 4u);
     service().forget();
+    citation.Initialize(std::make_shared<RecordingSink>(), true, keys, nullptr, title, nullptr);
+    EXPECT_EQ(service().errors().at(0).substr(0, 51), u"91: Object variable not set: authorModelOutputTempl");
+    service().forget();
 
     use(apa());
     setFields(u"author=Kuhn, Thomas|title=Structure|year=1970|citedPage=p. 5");
     const Text whole = output();
+    citation.noDateString(u"o. J.");
+    Text noDate = u"(Kuhn, o. J., p. 5)";
+    citation.Parse(noDate, u"");
+    EXPECT_EQ(citation.Year(), u"n.d.");
+    setFields(u"author=Kuhn");
+    EXPECT_EQ(output(), u"(Kuhn, o. J.)");
+    setFields(u"author=Kuhn, Thomas|title=Structure|year=1970|citedPage=p. 5");
     // The model may do as it likes with the citation.
     model->onRead = [&] { use(mla()); };
     output();

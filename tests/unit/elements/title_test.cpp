@@ -67,7 +67,10 @@ TEST(Title, WritesEachTypeAsTheStyleAsks) {
         {u"A Life", u"Video", 0, u"_A life_ [video]"},
         {u"A Life", u"Letter", 3, u"\u201CA Life,\u201D letter to the editor"},
         {u"A Life", u"Letter", 1, u"A life [letter]"},
-        {u"A Life", u"Letter", 2, u"\u201CA Life\u201D"},
+        {u"A Life", u"Letter", 2, u"\u201CA Life.\u201D Letter"},
+        {u"\u201CWhy Me?\u201D Letter.", u"", 2, u"\u201CWhy Me?\u201D Letter"},
+        {u"A Life [letter]", u"", 2, u"\u201CA Life.\u201D Letter"},
+        {u"", u"LETTER", 2, u"Letter"},
         {u"", u"Letter", -1, u"Letter"},
         {u"A Life", u"Letter", -1, u"\u201CA Life,\u201D letter"},
         {u"A Life", u"Monograph", 1, u"_A life_ [Monograph]"},
@@ -75,7 +78,7 @@ TEST(Title, WritesEachTypeAsTheStyleAsks) {
         {u"", u"Obituary", 3, u"obituary for "},
         {u"", u"Reply to letter", 2, u"Reply to letter of "},
         {u"A Life", u"Reply to letter", 2, u"\u201CA Life\u201D"},
-        {u"A Life", u"interview", -1, u"_A Life_"},
+        {u"A Life", u"interview", -1, u"\u201CA Life,\u201D interview"},
         {u"Drug Allergy [Letter].", u"", 1, u"Drug allergy [letter]"},
         {u"The E. coli Strains of the U.S.S. Enterprise", u"", 2, u"_The _E. coli_ Strains of the _U.S.S. Enterprise"},
         {u"", u"", 2, u""},
@@ -93,6 +96,13 @@ TEST(Title, WritesEachTypeAsTheStyleAsks) {
 
 TEST(Title, ShortensAndQuotesParts) {
     const auto title = titleIn(2);
+    title->openingQuotationMark(u"\u00AB");
+    title->closingQuotationMark(u"\u00BB");
+    Text own = u"\u00ABWhy \u201CMe\u201D\u00BB";
+    title->Parse(own, u"Article");
+    EXPECT_EQ(title->Clone()->toString(false, false), u"\u00ABWhy \u2018Me\u2019\u00BB");
+    title->openingQuotationMark(u"\u201C");
+    title->closingQuotationMark(u"\u201D");
     Text text = u"Guns, Germs, and Steel: The Fates of Human Societies";
     title->Parse(text, u"");
     EXPECT_EQ(title->value(0), u"Guns, Germs, and Steel");

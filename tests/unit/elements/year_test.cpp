@@ -51,7 +51,8 @@ TEST(Year, ReadsAndWritesEachVariant) {
         {u"[1990", 4, u"1990", u"1990", u"[1990]", u"[1990]", u"[1990]"},
         {u"forthcoming", 5, u"", u"", u"forthcoming", u"In press", u"In press"},
         {u"In press.", 5, u"", u"", u"forthcoming", u"In press", u"In press"},
-        {u"in press", 0, u"in press", u"in press", u"in press", u"in press", u"in press"},
+        {u"in press", 5, u"", u"", u"forthcoming", u"In press", u"In press"},
+        {u"Forthcoming.", 5, u"", u"", u"forthcoming", u"In press", u"In press"},
         {u"", 0, u"", u"", u"", u"", u""},
         {u"[", 4, u"", u"", u"[]", u"[]", u"[]"},
     };
