@@ -55,21 +55,30 @@ private:
     VBWPROTECTOR& mProtector;
 };
 
+constinit thread_local VBWPROTECTOR* VBWPROTECTOR::instance = nullptr;
+
 VBWPROTECTOR::VBWPROTECTOR() {
     const std::scoped_lock lock(startUpState().mutex);
     mSwitches = startUpState().switches;
     mFinder = startUpState().finder;
+    noteConcern();
 }
 
-VBWPROTECTOR& VBWPROTECTOR::ofThisApartment() {
+VBWPROTECTOR& VBWPROTECTOR::makeInstance() {
     // Never destroyed at thread end: by then COM is closed for the thread, and a service that is
     // still held can only be left alone. Every regular way out releases it before.
     alignas(VBWPROTECTOR) static thread_local std::byte storage[sizeof(VBWPROTECTOR)];
-    static thread_local VBWPROTECTOR* protector = nullptr;
-    if (protector == nullptr) {
-        protector = new (&storage) VBWPROTECTOR();
-    }
-    return *protector;
+    instance = new (&storage) VBWPROTECTOR();
+    return *instance;
+}
+
+void VBWPROTECTOR::noteConcern() noexcept {
+    mIsConcerned = mErrorParams != nullptr || (mFinder != nullptr && !mServiceIsAbsent) || isTooDeep();
+}
+
+void VBWPROTECTOR::releaseService() noexcept {
+    mErrorParams.reset();
+    noteConcern();
 }
 
 void VBWPROTECTOR::startUp(TraceSwitches switches, ErrorReportServiceFinder* finder) {
@@ -90,6 +99,7 @@ void VBWPROTECTOR::beginHostCall(const void* bracket) noexcept {
     } else {
         mHostCalls[mDepth++] = placeOf(bracket);
     }
+    noteConcern();
 }
 
 void VBWPROTECTOR::forgetHostCallsUpTo(const void* bracket) noexcept {
@@ -103,6 +113,7 @@ void VBWPROTECTOR::forgetHostCallsUpTo(const void* bracket) noexcept {
     if (placeOf(mReporting) <= placeOf(bracket)) {
         mReporting = nullptr;
     }
+    noteConcern();
 }
 
 bool VBWPROTECTOR::findService() noexcept {
@@ -116,6 +127,7 @@ bool VBWPROTECTOR::findService() noexcept {
         }
     }
     mServiceIsAbsent = mErrorParams == nullptr && mDepth > 0;
+    noteConcern();
     return mErrorParams != nullptr;
 }
 

@@ -62,6 +62,11 @@ inline std::uint8_t kindOf(char16_t unit, char16_t lowered) {
     return unit < 0x80 ? kAsciiKinds[unit] : kindBeyondAscii(unit, lowered);
 }
 
+/// A small letter that is no foreign sign either.
+bool isPlainLetter(char16_t unit) {
+    return unit >= u'a' && unit < u'z';
+}
+
 bool isWordUnit(char16_t unit) {
     return (kindOf(unit, unit) & kLetterOrDigit) != 0;
 }
@@ -152,6 +157,19 @@ private:
         std::size_t coreEnd = begin + 1;
         std::size_t end = begin + 1;
         for (; end < mText.size(); ++end) {
+            // Nearly all are small letters, which say nothing more.
+            const std::size_t letters = end;
+            while (end < mText.size() && isPlainLetter(mText[end])) {
+                ++end;
+            }
+            if (end > letters) {
+                others |= kLetterOrDigit;
+                othersOfCore = others;
+                coreEnd = end;
+            }
+            if (end == mText.size()) {
+                break;
+            }
             const unsigned kind = kindOf(mText[end], mTitle.lowered[end]);
             if ((kind & kBetweenWords) != 0) {
                 break;
