@@ -144,10 +144,12 @@ bool closesTwoQuotations(TextView phrase) {
         return false;
     }
     const TextView inside = phrase.substr(0, phrase.size() - 1);
+    if (inside.back() != kRightSingleQuotationMark) {
+        return false;
+    }
     // The last single mark but one opens, or the last is an apostrophe.
     const std::size_t mark = inside.substr(0, inside.size() - 1).find_last_of(u"\u2018\u2019");
-    return inside.back() == kRightSingleQuotationMark && mark != TextView::npos &&
-           inside[mark] == kLeftSingleQuotationMark;
+    return mark != TextView::npos && inside[mark] == kLeftSingleQuotationMark;
 }
 
 bool isPunctuation(TextView text) {

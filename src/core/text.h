@@ -105,5 +105,7 @@ Text concatenate(std::initializer_list<TextView> parts);
 /// spaces become blanks, zero-width characters and soft hyphens are dropped, runs of blanks become
 /// one, and the ends are trimmed.
 Text cleanUp(TextView text);
+/// The same to a text that is nearly always clean, which then costs a look.
+void cleanUpInPlace(Text& text);
 
 }  // namespace quorvel

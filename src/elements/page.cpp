@@ -204,7 +204,7 @@ bool OutputTemplatePage::supportsNotes() const {
 
 void OutputTemplatePage::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         Note = kNoNote;
         if (doi::isDoi(text)) {
             pageType = kPage;
