@@ -14,6 +14,8 @@ namespace quorvel {
 namespace {
 
 constexpr TextView kClosingMark(&kRightDoubleQuotationMark, 1);
+// The memory of a longer one is not kept.
+constexpr std::size_t kLongestKeptPhrase = 1'000;
 // So many need no memory of the heap to be held.
 constexpr std::size_t kUsualFragments = 20;
 
@@ -193,7 +195,9 @@ void outputTemplate::writeSlots(const OutputSinkRef& formattedStr, bool isFootno
         }
         i = j;
     }
-    mPhrase = std::move(phrase);
+    if (phrase.capacity() <= kLongestKeptPhrase) {
+        mPhrase = std::move(phrase);
+    }
 }
 
 Text outputTemplate::toString(Implementor& implementor, bool shortenedVersion, bool isFootnote, bool isRTF) {

@@ -75,7 +75,12 @@ bool endsWith(TextView text, TextView suffix) {
 }
 
 bool contains(TextView text, TextView part) {
-    return text.find(part) != TextView::npos;
+    if (part.empty()) {
+        return true;
+    }
+    // Most texts do not hold what is looked for, and many not even its first character.
+    const char16_t first = part.front();
+    return anyUnit(text, [first](char16_t unit) { return unit == first; }) && text.find(part) != TextView::npos;
 }
 
 bool removePrefix(Text& text, TextView prefix) {
@@ -123,8 +128,18 @@ bool isSpace(char16_t unit) {
 }
 
 TextView trim(TextView text, TextView signs) {
-    const std::size_t first = text.find_first_not_of(signs);
-    return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(signs) - first + 1);
+    const auto isSign = [signs](char16_t unit) {
+        return unit == signs.front() || (signs.size() > 1 && signs.find(unit) != TextView::npos);
+    };
+    std::size_t begin = 0;
+    std::size_t end = text.size();
+    while (begin < end && isSign(text[begin])) {
+        ++begin;
+    }
+    while (end > begin && isSign(text[end - 1])) {
+        --end;
+    }
+    return begin == end ? TextView() : text.substr(begin, end - begin);
 }
 
 bool consistsOf(TextView text, TextView units) {

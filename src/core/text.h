@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 #include <iterator>
 #include <string>
@@ -90,9 +91,21 @@ bool endsWithOneOf(TextView text, const TextView (&suffixes)[N]) {
                        [text](TextView suffix) { return endsWith(text, suffix); });
 }
 
+/// Which characters a text holds, one bit for those that are equal but for multiples of 64.
+constexpr std::uint64_t characterBits(TextView text) {
+    std::uint64_t bits = 0;
+    for (const char16_t unit : text) {
+        bits |= std::uint64_t{1} << (unit % 64U);
+    }
+    return bits;
+}
+
 template <std::size_t N>
 bool containsOneOf(TextView text, const TextView (&parts)[N]) {
-    return std::any_of(std::begin(parts), std::end(parts), [text](TextView part) { return contains(text, part); });
+    // Most parts have a character that the text does not.
+    const std::uint64_t held = characterBits(text);
+    return std::any_of(std::begin(parts), std::end(parts),
+                       [=](TextView part) { return (characterBits(part) & ~held) == 0 && contains(text, part); });
 }
 
 /// What stands before the first occurrence of the separator; the whole text when there is none.

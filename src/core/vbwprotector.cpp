@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <mutex>
 #include <new>
+#include <utility>
 
 #include "core/instrumented.h"
 
@@ -78,6 +79,8 @@ void VBWPROTECTOR::noteConcern() noexcept {
 
 void VBWPROTECTOR::releaseService() noexcept {
     mErrorParams.reset();
+    // Nothing is left behind where the thread ends.
+    mProcedure = Text();
     noteConcern();
 }
 
@@ -168,7 +171,13 @@ void VBWPROTECTOR::reportEntry(const Instrumented& self, TextView procedure, con
     try {
         const Text list = parameterList(parameters);
         if (hasService()) {
-            forward([&](ErrorReportService& service) { service.vbwProcIn(nameOf(self, procedure), list); });
+            // In the memory of the name before, unless a report is under way in spite of all.
+            Text name = std::exchange(mProcedure, Text());
+            name.assign(kLibraryPrefix).append(self.className()).append(u".").append(procedure);
+            forward([&](ErrorReportService& service) { service.vbwProcIn(name, list); });
+            if (mErrorParams) {
+                mProcedure = std::move(name);
+            }
         }
     } catch (...) {  // NOLINT(bugprone-empty-catch): no memory is left for the list
     }

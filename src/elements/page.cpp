@@ -101,7 +101,8 @@ bool isNumbers(TextView text) {
 /// Hyphens for dashes, and no full stop behind the last number.
 void normalise(Text& text) {
     std::replace_if(
-        text.begin(), text.end(), [](char16_t unit) { return kDashes.find(unit) != TextView::npos; }, kHyphen[0]);
+        text.begin(), text.end(),
+        [](char16_t unit) { return unit >= kDashes.front() && kDashes.find(unit) != TextView::npos; }, kHyphen[0]);
     if (text.size() > 1 && text.back() == u'.' && isDigit(text[text.size() - 2])) {
         text.pop_back();
     }

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -29,6 +30,11 @@ public:
     Variant call(const wchar_t* member, Arguments&&... arguments) const {
         std::array<Variant, sizeof...(Arguments)> values = {Variant(std::forward<Arguments>(arguments))...};
         return invoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, values.data(), values.size());
+    }
+
+    /// The same with arguments that the caller keeps.
+    Variant callWith(const wchar_t* member, std::span<const Variant> arguments) const {
+        return invoke(member, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments.data(), arguments.size());
     }
 
     /// Reads a property without arguments.
