@@ -91,11 +91,13 @@ bool endsWithOneOf(TextView text, const TextView (&suffixes)[N]) {
                        [text](TextView suffix) { return endsWith(text, suffix); });
 }
 
-/// Which characters a text holds, one bit for those that are equal but for multiples of 64.
+/// Which characters a text holds: one bit each for the letters of ASCII, whatever their case, and for its signs and
+/// digits; the others share these.
 constexpr std::uint64_t characterBits(TextView text) {
     std::uint64_t bits = 0;
     for (const char16_t unit : text) {
-        bits |= std::uint64_t{1} << (unit % 64U);
+        const unsigned isNoLetter = ~static_cast<unsigned>(unit) & 64U;
+        bits |= std::uint64_t{1} << (unit % 32U + isNoLetter / 2U);
     }
     return bits;
 }
