@@ -1,5 +1,7 @@
 #include "core/assembled_element.h"
 
+#include <array>
+
 #include "core/procedure.h"
 #include "core/run_time_error.h"
 
@@ -28,18 +30,21 @@ std::int16_t lastSlot(std::span<const SlotRow> rows) {
 }  // namespace
 
 void AssembledElement::ToFormattedString(const OutputSinkRef& formattedStr, bool isFootnote, bool shortenedVersion) {
-    procedure(*this, u"ToFormattedString",
-              {{u"formattedStr", formattedStr}, {u"isFootnote", isFootnote}, {u"shortenedVersion", shortenedVersion}},
-              [&] { write(formattedStr, isFootnote, shortenedVersion); });
+    const auto parameters = [&] {
+        return std::array{Parameter{u"formattedStr", formattedStr}, Parameter{u"isFootnote", isFootnote},
+                          Parameter{u"shortenedVersion", shortenedVersion}};
+    };
+    procedure(*this, u"ToFormattedString", parameters, [&] { write(formattedStr, isFootnote, shortenedVersion); });
 }
 
 bool AssembledElement::ToFormattedStringImpl(bool isFootnote, std::vector<Text>& items,
                                              std::vector<OutputSinkRef>& formattedItems, bool shortenedVersion) {
-    return procedure(*this, u"ToFormattedStringImpl",
-                     {{u"isFootnote", isFootnote},
-                      {u"items", items},
-                      {u"formattedItems", formattedItems},
-                      {u"shortenedVersion", shortenedVersion}},
+    const auto parameters = [&] {
+        return std::array{Parameter{u"isFootnote", isFootnote}, Parameter{u"items", items},
+                          Parameter{u"formattedItems", formattedItems},
+                          Parameter{u"shortenedVersion", shortenedVersion}};
+    };
+    return procedure(*this, u"ToFormattedStringImpl", parameters,
                      [&] { return fillSlots(isFootnote, items, formattedItems, shortenedVersion); });
 }
 

@@ -1,6 +1,7 @@
 #include "core/common_model_processing_functions.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <optional>
 #include <string>
@@ -117,26 +118,25 @@ Text removeDoublePeriodsOnly(TextView phrase, TextView separator) {
 }
 
 Text removeDoublePeriods(TextView phrase, TextView separator, bool& removeQuoteFromPreviousPhrase) {
-    return procedure(
-        kModule, u"removeDoublePeriods",
-        {{u"phrase", phrase},
-         {u"separator", separator},
-         {u"removeQuoteFromPreviousPhrase", removeQuoteFromPreviousPhrase}},
-        [&]() -> Text {
-            removeQuoteFromPreviousPhrase = false;
-            const bool movesIntoQuotation = separator.starts_with(u'.') || separator.starts_with(u',');
-            if (!movesIntoQuotation || phrase.empty() || !isClosingQuotationMark(phrase.back())) {
-                // Nothing moves in front of a blank either, where moving the mark would change nothing.
-                return removeDoublePeriodsOnly(phrase, separator);
-            }
-            const std::size_t marks = closesTwoQuotations(phrase) ? 2 : 1;
-            const bool quotationHasItsOwnEnd = endsWithSentencePunctuation(phrase.substr(0, phrase.size() - marks));
-            if (quotationHasItsOwnEnd && separator.starts_with(u'.')) {
-                return Text(separator.substr(1));
-            }
-            removeQuoteFromPreviousPhrase = true;
-            return concatenate({separator.substr(0, 1), TextView(&kRightDoubleQuotationMark, 1), separator.substr(1)});
-        });
+    const auto parameters = [&] {
+        return std::array{Parameter{u"phrase", phrase}, Parameter{u"separator", separator},
+                          Parameter{u"removeQuoteFromPreviousPhrase", removeQuoteFromPreviousPhrase}};
+    };
+    return procedure(kModule, u"removeDoublePeriods", parameters, [&]() -> Text {
+        removeQuoteFromPreviousPhrase = false;
+        const bool movesIntoQuotation = separator.starts_with(u'.') || separator.starts_with(u',');
+        if (!movesIntoQuotation || phrase.empty() || !isClosingQuotationMark(phrase.back())) {
+            // Nothing moves in front of a blank either, where moving the mark would change nothing.
+            return removeDoublePeriodsOnly(phrase, separator);
+        }
+        const std::size_t marks = closesTwoQuotations(phrase) ? 2 : 1;
+        const bool quotationHasItsOwnEnd = endsWithSentencePunctuation(phrase.substr(0, phrase.size() - marks));
+        if (quotationHasItsOwnEnd && separator.starts_with(u'.')) {
+            return Text(separator.substr(1));
+        }
+        removeQuoteFromPreviousPhrase = true;
+        return concatenate({separator.substr(0, 1), TextView(&kRightDoubleQuotationMark, 1), separator.substr(1)});
+    });
 }
 
 bool closesTwoQuotations(TextView phrase) {
@@ -144,15 +144,21 @@ bool closesTwoQuotations(TextView phrase) {
         return false;
     }
     const TextView inside = phrase.substr(0, phrase.size() - 1);
+    if (inside.back() != kRightSingleQuotationMark) {
+        return false;
+    }
     // The last single mark but one opens, or the last is an apostrophe.
     const std::size_t mark = inside.substr(0, inside.size() - 1).find_last_of(u"\u2018\u2019");
-    return inside.back() == kRightSingleQuotationMark && mark != TextView::npos &&
-           inside[mark] == kLeftSingleQuotationMark;
+    return mark != TextView::npos && inside[mark] == kLeftSingleQuotationMark;
 }
 
 bool isPunctuation(TextView text) {
-    return procedure(kModule, u"isPunctuation", {{u"text", text}},
-                     [&] { return !text.empty() && (text[0] == u'!' || text[0] == u'.' || text[0] == u'?'); });
+    return procedure(
+        kModule, u"isPunctuation",
+        [&] {
+            return std::array{Parameter{u"text", text}};
+        },
+        [&] { return !text.empty() && (text[0] == u'!' || text[0] == u'.' || text[0] == u'?'); });
 }
 
 Text spinNumToStr(TextView spin) {

@@ -59,6 +59,10 @@ char16_t lowerBeyondAscii(char16_t unit) {
     return mappedByPlatform<&LetterCase::toLower>(unit);
 }
 
+bool haveSameLetters(TextView left, TextView right) {
+    return std::equal(left.begin(), left.end(), right.begin(), areSameIgnoringCase);
+}
+
 }  // namespace lettercase
 
 Text toUpper(TextView text) {
@@ -71,10 +75,6 @@ Text toLower(TextView text) {
                          : mapped(text, [](char16_t unit) { return toLower(unit); });
 }
 
-bool equalsIgnoringCase(TextView left, TextView right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(), areSameIgnoringCase);
-}
-
 bool endsWithIgnoringCase(TextView text, TextView suffix) {
     return text.size() >= suffix.size() && equalsIgnoringCase(text.substr(text.size() - suffix.size()), suffix);
 }
@@ -83,8 +83,12 @@ std::size_t findIgnoringCase(TextView text, TextView part, std::size_t from) {
     if (part.empty()) {
         return from <= text.size() ? from : TextView::npos;
     }
-    // Most positions fall at the first letter.
+    // Most texts and most positions fall at the first letter. Of the letters beyond ASCII some are ASCII in lower case.
     const char16_t first = toLower(part[0]);
+    const char16_t capital = toUpper(first);
+    if (!anyUnit(text, [=](char16_t unit) { return unit == first || unit == capital || unit >= u'\u0080'; })) {
+        return TextView::npos;
+    }
     const TextView rest = part.substr(1);
     for (std::size_t at = from; at + part.size() <= text.size(); ++at) {
         if (toLower(text[at]) == first && equalsIgnoringCase(text.substr(at + 1, rest.size()), rest)) {

@@ -63,8 +63,19 @@ inline bool isCasedLetter(char16_t unit) {
     return isCapital(unit) || isSmallLetter(unit);
 }
 
+namespace lettercase {
+
+/// The same letters in two texts of one length.
+bool haveSameLetters(TextView left, TextView right);
+
+}  // namespace lettercase
+
 /// Equal but for letter case.
-bool equalsIgnoringCase(TextView left, TextView right);
+inline bool equalsIgnoringCase(TextView left, TextView right) {
+    // Most texts differ in their length or their first letter.
+    return left.size() == right.size() && (left.empty() || (toLower(left.front()) == toLower(right.front()) &&
+                                                            lettercase::haveSameLetters(left, right)));
+}
 inline bool startsWithIgnoringCase(TextView text, TextView prefix) {
     // Most texts differ in their first letter.
     return prefix.empty() || (text.size() >= prefix.size() && toLower(text.front()) == toLower(prefix.front()) &&

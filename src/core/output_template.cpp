@@ -1,7 +1,10 @@
 #include "core/output_template.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <memory_resource>
+#include <utility>
 
 #include "core/common_model_processing_functions.h"
 #include "core/procedure.h"
@@ -11,6 +14,10 @@ namespace quorvel {
 namespace {
 
 constexpr TextView kClosingMark(&kRightDoubleQuotationMark, 1);
+// The memory of a longer one is not kept.
+constexpr std::size_t kLongestKeptPhrase = 1'000;
+// So many need no memory of the heap to be held.
+constexpr std::size_t kUsualFragments = 20;
 
 std::size_t at(std::int32_t index) {
     if (index < 0) {
@@ -57,7 +64,7 @@ void outputTemplate::Initialize(const OutputSinkRef& formattedStr) {
 void outputTemplate::Reset(std::int16_t maxReferenceItems, const std::vector<std::int16_t>& separatorFonts) {
     procedure(*this, u"Reset", {{u"maxReferenceItems", maxReferenceItems}, {u"separatorFonts", separatorFonts}}, [&] {
         mReferenceItemsInitialized = false;
-        mIndexToFormatted.clear();
+        mIndexToFormatted = std::make_shared<const std::vector<std::int16_t>>();
         mReferenceItems.assign(at(maxReferenceItems) + 1, {});
         mMaxReferenceItems = maxReferenceItems;
         mSeparatorFonts.assign(at(maxReferenceItems) + 2, static_cast<std::int16_t>(OutputSink::kPlain));
@@ -78,12 +85,13 @@ void outputTemplate::Add(std::int16_t Index, bool isFormatted, bool isChecking, 
             mReferenceItems[at(Index)] = ReferenceItem();
             mReferenceItems[at(Index)].isFormatted = isFormatted;
             if (Index == mMaxReferenceItems) {
-                mIndexToFormatted.clear();
+                std::vector<std::int16_t> indexToFormatted;
                 for (std::int16_t i = 0; i <= mMaxReferenceItems; ++i) {
                     if (mReferenceItems[at(i)].isFormatted) {
-                        mIndexToFormatted.push_back(i);
+                        indexToFormatted.push_back(i);
                     }
                 }
+                mIndexToFormatted = std::make_shared<const std::vector<std::int16_t>>(std::move(indexToFormatted));
             }
             const std::int16_t ubound = upperBound(separators);
             const bool isOneList = ubound == mMaxReferenceItems + 1 - Index;
@@ -134,13 +142,17 @@ void outputTemplate::ResetReferenceItems() {
         for (Text& item : mItems) {
             item.clear();
         }
-        // By value: the host's answer to a call below may be a new layout.
-        const std::vector<std::int16_t> indexToFormatted = mIndexToFormatted;
-        if (!mReferenceItemsInitialized) {
+        // Held: the host's answer to a call below may be a new layout.
+        const Slots indexToFormatted = mIndexToFormatted;
+        // A row without fragments is as good as a new one.
+        const bool hasRow = indexToFormatted->empty() && mFormattedItems.size() == mReferenceItems.size() &&
+                            std::none_of(mFormattedItems.begin(), mFormattedItems.end(),
+                                         [](const OutputSinkRef& fragment) { return fragment != nullptr; });
+        if (!mReferenceItemsInitialized && !hasRow) {
             // By a swap, so that the old fragments go when the new row is already in place.
             std::vector<OutputSinkRef>(mReferenceItems.size()).swap(mFormattedItems);
         }
-        for (const std::int16_t i : indexToFormatted) {
+        for (const std::int16_t i : *indexToFormatted) {
             OutputSinkRef fragment = mFormattedItems.at(at(i));
             if (!mReferenceItemsInitialized) {
                 const OutputSinkRef maker = mFormattedStr;
@@ -150,64 +162,76 @@ void outputTemplate::ResetReferenceItems() {
             object(fragment).Reset();
         }
         // A layout that the host called for meanwhile gets fragments of its own, unless these fit it.
-        mReferenceItemsInitialized = !indexToFormatted.empty() && indexToFormatted == mIndexToFormatted &&
+        mReferenceItemsInitialized = !indexToFormatted->empty() && *indexToFormatted == *mIndexToFormatted &&
                                      mFormattedItems.size() == mReferenceItems.size();
     });
 }
 
 void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implementor& implementor,
                                        bool shortenedVersion, bool isFootnote, const std::vector<bool>& checkingArray) {
-    procedure(*this, u"ToFormattedString",
-              {{u"formattedStr", formattedStr},
-               {u"implementor", implementor.hostObject()},
-               {u"shortenedVersion", shortenedVersion},
-               {u"isFootnote", isFootnote},
-               {u"checkingArray", checkingArray}},
-              [&] {
-                  // Held, since the host may call for new ones while they are being written.
-                  const std::vector<OutputSinkRef> fragments =
-                      mIndexToFormatted.empty() ? std::vector<OutputSinkRef>() : mFormattedItems;
-                  if (implementor.ToFormattedStringImpl(isFootnote, mItems, mFormattedItems, shortenedVersion)) {
-                      return;
-                  }
-                  std::int16_t i = nextFilled(0);
-                  if (i > mMaxReferenceItems) {
-                      return;
-                  }
-                  Separators list = getSeparators(i, checkingArray, isFootnote);
-                  Text phrase;
-                  bool noQuote = false;
-                  const Text prefix = getSeparator(*list, i, i, formattedStr, noQuote, phrase);
-                  buildReferenceStringFirst(i, formattedStr, prefix, phrase);
-                  while (i <= mMaxReferenceItems) {
-                      const std::int16_t j = nextFilled(static_cast<std::int16_t>(i + 1));
-                      addSeparator(*list, i, j, formattedStr, mSeparatorFonts.at(at(j)), phrase);
-                      if (j <= mMaxReferenceItems) {
-                          list = getSeparators(j, checkingArray, isFootnote);
-                          buildReferenceString(j, formattedStr, phrase);
-                      }
-                      i = j;
-                  }
-              });
+    const auto parameters = [&] {
+        return std::array{Parameter{u"formattedStr", formattedStr}, Parameter{u"implementor", implementor.hostObject()},
+                          Parameter{u"shortenedVersion", shortenedVersion}, Parameter{u"isFootnote", isFootnote},
+                          Parameter{u"checkingArray", checkingArray}};
+    };
+    procedure(*this, u"ToFormattedString", parameters, [&] {
+        // Held, since the host may call for new ones while they are being written.
+        std::array<std::byte, kUsualFragments * sizeof(OutputSinkRef)> room;
+        std::pmr::monotonic_buffer_resource memory(room.data(), room.size());
+        std::pmr::vector<OutputSinkRef> fragments(&memory);
+        fragments.reserve(mIndexToFormatted->size());
+        for (const std::int16_t slot : *mIndexToFormatted) {
+            fragments.push_back(mFormattedItems.at(at(slot)));
+        }
+        if (!implementor.ToFormattedStringImpl(isFootnote, mItems, mFormattedItems, shortenedVersion)) {
+            writeSlots(formattedStr, isFootnote, checkingArray);
+        }
+    });
+}
+
+void outputTemplate::writeSlots(const OutputSinkRef& formattedStr, bool isFootnote,
+                                const std::vector<bool>& checkingArray) {
+    std::int16_t i = nextFilled(0);
+    if (i > mMaxReferenceItems) {
+        return;
+    }
+    Separators list = getSeparators(i, checkingArray, isFootnote);
+    Text phrase = std::exchange(mPhrase, Text());
+    bool noQuote = false;
+    const Text prefix = getSeparator(*list, i, i, formattedStr, noQuote, phrase);
+    buildReferenceStringFirst(i, formattedStr, prefix, phrase);
+    while (i <= mMaxReferenceItems) {
+        const std::int16_t j = nextFilled(static_cast<std::int16_t>(i + 1));
+        addSeparator(*list, i, j, formattedStr, mSeparatorFonts.at(at(j)), phrase);
+        if (j <= mMaxReferenceItems) {
+            list = getSeparators(j, checkingArray, isFootnote);
+            buildReferenceString(j, formattedStr, phrase);
+        }
+        i = j;
+    }
+    if (phrase.capacity() <= kLongestKeptPhrase) {
+        mPhrase = std::move(phrase);
+    }
 }
 
 Text outputTemplate::toString(Implementor& implementor, bool shortenedVersion, bool isFootnote, bool isRTF) {
-    return procedure(*this, u"toString",
-                     {{u"implementor", implementor.hostObject()},
-                      {u"shortenedVersion", shortenedVersion},
-                      {u"isFootnote", isFootnote},
-                      {u"isRTF", isRTF}},
-                     [&] {
-                         // Held on its own: the host may release the owner while it is being written to.
-                         const OutputSinkRef sink = mFormattedStr;
-                         object(sink).Reset();
-                         implementor.ToFormattedString(sink, isFootnote, shortenedVersion);
-                         return isRTF ? sink->toRTFString() : sink->toString();
-                     });
+    const auto parameters = [&] {
+        return std::array{Parameter{u"implementor", implementor.hostObject()},
+                          Parameter{u"shortenedVersion", shortenedVersion}, Parameter{u"isFootnote", isFootnote},
+                          Parameter{u"isRTF", isRTF}};
+    };
+    return procedure(*this, u"toString", parameters, [&] {
+        // Held on its own: the host may release the owner while it is being written to.
+        const OutputSinkRef sink = mFormattedStr;
+        object(sink).Reset();
+        implementor.ToFormattedString(sink, isFootnote, shortenedVersion);
+        return isRTF ? sink->toRTFString() : sink->toString();
+    });
 }
 
 bool outputTemplate::isBlank(std::int16_t Index) const {
-    return procedure(*this, u"isBlank", {{u"Index", Index}}, [&] {
+    const auto parameters = [&] { return std::array{Parameter{u"Index", Index}}; };
+    return procedure(*this, u"isBlank", parameters, [&] {
         if (mReferenceItems.at(at(Index)).isFormatted) {
             const OutputSinkRef fragment = mFormattedItems.at(at(Index));
             return object(fragment).IsEmpty();
@@ -219,71 +243,76 @@ bool outputTemplate::isBlank(std::int16_t Index) const {
 outputTemplate::Separators outputTemplate::getSeparators(std::int16_t Index, const std::vector<bool>& checkingArray,
                                                          bool isFootnote) const {
     static const auto kNone = std::make_shared<const std::vector<Text>>();
-    Separators result = kNone;
-    procedure(*this, u"getSeparators",
-              {{u"Index", Index}, {u"checkingArray", checkingArray}, {u"isFootnote", isFootnote}}, [&] {
-                  const ReferenceItem& item = mReferenceItems.at(at(Index));
-                  const bool isChecked = at(Index) < checkingArray.size() && checkingArray[at(Index)];
-                  const Separators& list =
-                      isChecked ? (isFootnote ? item.checkFootnoteSeparators : item.checkBibliographySeparators)
-                                : (isFootnote ? item.footnoteSeparators : item.bibliographySeparators);
-                  if (list) {
-                      result = list;
-                  }
-              });
+    const auto parameters = [&] {
+        return std::array{Parameter{u"Index", Index}, Parameter{u"checkingArray", checkingArray},
+                          Parameter{u"isFootnote", isFootnote}};
+    };
+    Separators result = procedure(*this, u"getSeparators", parameters, [&] {
+        const ReferenceItem& item = mReferenceItems.at(at(Index));
+        const bool isChecked = at(Index) < checkingArray.size() && checkingArray[at(Index)];
+        return isChecked ? (isFootnote ? item.checkFootnoteSeparators : item.checkBibliographySeparators)
+                         : (isFootnote ? item.footnoteSeparators : item.bibliographySeparators);
+    });
+    if (!result) {
+        result = kNone;
+    }
     return result;
 }
 
 Text outputTemplate::getSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j,
                                   const OutputSinkRef& formattedStr, bool& removeQuoteFromPreviousPhrase,
                                   Text& phrase) const {
-    return procedure(*this, u"getSeparator",
-                     {{u"list", list},
-                      {u"i", i},
-                      {u"j", j},
-                      {u"formattedStr", formattedStr},
-                      {u"removeQuoteFromPreviousPhrase", removeQuoteFromPreviousPhrase}},
-                     [&]() -> Text {
-                         if (at(j - i) >= list.size() && mReferenceItems.at(at(i)).isShort) {
-                             return {};
-                         }
-                         const Text& entry = list.at(at(j - i));
-                         readPhrase(i, phrase);
-                         if (i == j) {
-                             // The opening text looks at the end of its own slot, which is deliberate; no
-                             // quotation stands before it.
-                             return CommonModelProcessingFunctions::removeDoublePeriodsOnly(phrase, entry);
-                         }
-                         return CommonModelProcessingFunctions::removeDoublePeriods(phrase, entry,
-                                                                                    removeQuoteFromPreviousPhrase);
-                     });
+    const auto parameters = [&] {
+        return std::array{Parameter{u"list", list}, Parameter{u"i", i}, Parameter{u"j", j},
+                          Parameter{u"formattedStr", formattedStr},
+                          Parameter{u"removeQuoteFromPreviousPhrase", removeQuoteFromPreviousPhrase}};
+    };
+    return procedure(*this, u"getSeparator", parameters, [&]() -> Text {
+        if (at(j - i) >= list.size() && mReferenceItems.at(at(i)).isShort) {
+            return {};
+        }
+        const Text& entry = list.at(at(j - i));
+        const bool looksAtPhrase = entry.starts_with(u'.') || entry.starts_with(u',');
+        if (!looksAtPhrase && !VBWPROTECTOR::ofThisApartment().isConcerned()) {
+            // Which comes to the same where nobody is told.
+            removeQuoteFromPreviousPhrase = false;
+            return entry;
+        }
+        readPhrase(i, phrase);
+        if (i == j) {
+            // The opening text looks at the end of its own slot, which is deliberate; no quotation stands before it.
+            return CommonModelProcessingFunctions::removeDoublePeriodsOnly(phrase, entry);
+        }
+        return CommonModelProcessingFunctions::removeDoublePeriods(phrase, entry, removeQuoteFromPreviousPhrase);
+    });
 }
 
 void outputTemplate::addSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j,
                                   const OutputSinkRef& formattedStr, std::int16_t separatorFont, Text& phrase) const {
-    procedure(
-        *this, u"addSeparator",
-        {{u"list", list}, {u"i", i}, {u"j", j}, {u"formattedStr", formattedStr}, {u"separatorFont", separatorFont}},
-        [&] {
-            OutputSink& sink = object(formattedStr);
-            bool removeQuote = false;
-            Text separator = getSeparator(list, i, j, formattedStr, removeQuote, phrase);
-            std::int16_t font = separatorFont;
-            if (removeQuote && separatorFont == OutputSink::kPlain) {
-                const std::int16_t phraseFont = sink.removeQuoteFromLastPhrase();
-                if (CommonModelProcessingFunctions::closesTwoQuotations(phrase) && removesSingleMark(sink)) {
-                    separator.insert(separator.find(kClosingMark), 1, kRightSingleQuotationMark);
-                }
-                if (phraseFont != OutputSink::kPlain) {
-                    // The mark keeps the font of the phrase that it closes.
-                    const std::size_t behindMark = separator.find(kClosingMark) + kClosingMark.size();
-                    sink.Add(TextView(separator).substr(0, behindMark), phraseFont);
-                    separator.erase(0, behindMark);
-                    font = OutputSink::kPlain;
-                }
+    const auto parameters = [&] {
+        return std::array{Parameter{u"list", list}, Parameter{u"i", i}, Parameter{u"j", j},
+                          Parameter{u"formattedStr", formattedStr}, Parameter{u"separatorFont", separatorFont}};
+    };
+    procedure(*this, u"addSeparator", parameters, [&] {
+        OutputSink& sink = object(formattedStr);
+        bool removeQuote = false;
+        Text separator = getSeparator(list, i, j, formattedStr, removeQuote, phrase);
+        std::int16_t font = separatorFont;
+        if (removeQuote && separatorFont == OutputSink::kPlain) {
+            const std::int16_t phraseFont = sink.removeQuoteFromLastPhrase();
+            if (CommonModelProcessingFunctions::closesTwoQuotations(phrase) && removesSingleMark(sink)) {
+                separator.insert(separator.find(kClosingMark), 1, kRightSingleQuotationMark);
             }
-            sink.Add(separator, font);
-        });
+            if (phraseFont != OutputSink::kPlain) {
+                // The mark keeps the font of the phrase that it closes.
+                const std::size_t behindMark = separator.find(kClosingMark) + kClosingMark.size();
+                sink.Add(TextView(separator).substr(0, behindMark), phraseFont);
+                separator.erase(0, behindMark);
+                font = OutputSink::kPlain;
+            }
+        }
+        sink.Add(separator, font);
+    });
 }
 
 void outputTemplate::buildReferenceStringFirst(std::int16_t Index, const OutputSinkRef& formattedStr, TextView prefix,
@@ -296,7 +325,10 @@ void outputTemplate::buildReferenceStringFirst(std::int16_t Index, const OutputS
 }
 
 void outputTemplate::buildReferenceString(std::int16_t Index, const OutputSinkRef& formattedStr, Text& phrase) const {
-    procedure(*this, u"buildReferenceString", {{u"Index", Index}, {u"formattedStr", formattedStr}}, [&] {
+    const auto parameters = [&] {
+        return std::array{Parameter{u"Index", Index}, Parameter{u"formattedStr", formattedStr}};
+    };
+    procedure(*this, u"buildReferenceString", parameters, [&] {
         if (mReferenceItems.at(at(Index)).isFormatted) {
             const OutputSinkRef fragment = mFormattedItems.at(at(Index));
             object(formattedStr).addFormattedString(object(fragment));
@@ -321,7 +353,24 @@ void outputTemplate::readPhrase(std::int16_t Index, Text& phrase) const {
 /// The first slot from `from` on that is not blank; the virtual slot behind the last when there is none.
 std::int16_t outputTemplate::nextFilled(std::int16_t from) const {
     std::int16_t slot = from;
-    while (slot <= mMaxReferenceItems && isBlank(slot)) {
+    while (slot <= mMaxReferenceItems) {
+        const std::size_t known = std::min(mItems.size(), mReferenceItems.size());
+        if (!VBWPROTECTOR::ofThisApartment().isConcerned() && at(slot) < known) {
+            // A look at a plain slot that nobody is told needs no report.
+            const ReferenceItem* const layout = mReferenceItems.data();
+            const Text* const items = mItems.data();
+            std::size_t i = at(slot);
+            while (i < known && !layout[i].isFormatted && items[i].empty()) {
+                ++i;
+            }
+            slot = static_cast<std::int16_t>(i);
+            if (i == known || !layout[i].isFormatted) {
+                return slot;
+            }
+        }
+        if (!isBlank(slot)) {
+            return slot;
+        }
         ++slot;
     }
     return slot;
@@ -340,7 +389,7 @@ void outputTemplate::dumpVariables(VBWPROTECTOR& report) const {
     const std::vector<OutputSinkRef> fragments = mFormattedItems;
     report.vbwReportVariable(u"mMaxReferenceItems", mMaxReferenceItems);
     report.vbwReportVariable(u"mReferenceItems", referenceItems);
-    report.vbwReportVariable(u"mIndexToFormatted", mIndexToFormatted);
+    report.vbwReportVariable(u"mIndexToFormatted", *mIndexToFormatted);
     report.vbwReportVariable(u"mReferenceItemsInitialized", mReferenceItemsInitialized);
     report.vbwReportVariable(u"mItems", mItems);
     report.vbwReportVariable(u"mSeparatorFonts", mSeparatorFonts);

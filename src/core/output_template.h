@@ -63,6 +63,7 @@ public:
 private:
     // Shared, since a host object may call for a new layout while the old one is being written.
     using Separators = std::shared_ptr<const std::vector<Text>>;
+    using Slots = std::shared_ptr<const std::vector<std::int16_t>>;
 
     struct ReferenceItem {
         bool isFormatted = false;
@@ -74,6 +75,7 @@ private:
         Separators checkBibliographySeparators;
     };
 
+    void writeSlots(const OutputSinkRef& formattedStr, bool isFootnote, const std::vector<bool>& checkingArray);
     Separators getSeparators(std::int16_t Index, const std::vector<bool>& checkingArray, bool isFootnote) const;
     Text getSeparator(const std::vector<Text>& list, std::int16_t i, std::int16_t j, const OutputSinkRef& formattedStr,
                       bool& removeQuoteFromPreviousPhrase, Text& phrase) const;
@@ -89,12 +91,14 @@ private:
 
     std::int16_t mMaxReferenceItems = 0;
     std::vector<ReferenceItem> mReferenceItems;
-    std::vector<std::int16_t> mIndexToFormatted;
+    Slots mIndexToFormatted = std::make_shared<const std::vector<std::int16_t>>();
     bool mReferenceItemsInitialized = false;
     std::vector<Text> mItems;
     std::vector<std::int16_t> mSeparatorFonts;
     OutputSinkRef mFormattedStr;
     std::vector<OutputSinkRef> mFormattedItems;
+    // The memory of the texts that are written, kept for the next output; no state.
+    Text mPhrase;
 };
 
 /// Registers a whole layout.

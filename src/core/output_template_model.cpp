@@ -1,6 +1,7 @@
 #include "core/output_template_model.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/procedure.h"
 
@@ -82,26 +83,26 @@ void OutputTemplateModel::Add(std::int16_t Index, bool isFormatted, TextView che
 
 void OutputTemplateModel::ToFormattedString(const OutputSinkRef& formattedStr, const ImplementorRef& implementor,
                                             const ReferenceModelRef& model, bool shortenedVersion, bool isFootnote) {
-    procedure(*this, u"ToFormattedString",
-              {{u"formattedStr", formattedStr},
-               {u"implementor", implementor ? implementor->hostObject() : nullptr},
-               {u"model", model},
-               {u"shortenedVersion", shortenedVersion},
-               {u"isFootnote", isFootnote}},
-              [&] {
-                  const std::shared_ptr<outputTemplate> assembly = held(mOutputTemplate);
-                  OutputSink& sink = object(formattedStr);
-                  const std::vector<bool> checking = checkingArray(object(implementor), model, isFootnote);
-                  assembly->ResetReferenceItems();
-                  assembly->ToFormattedString(formattedStr, *implementor, shortenedVersion, isFootnote, checking);
-                  const Text notes = getNotes(model, isFootnote);
-                  if (!notes.empty() && notes != kFullStop) {
-                      sink.Add(concatenate({kBeforeNotes, notes}));
-                  } else if (!mBlankStrings.empty() && isBlankString(sink.toString())) {
-                      sink.Reset();
-                  }
-                  sink.PageIndex(2 * std::int32_t{mPageIndex});
-              });
+    const auto parameters = [&] {
+        return std::array{Parameter{u"formattedStr", formattedStr},
+                          Parameter{u"implementor", implementor ? implementor->hostObject() : nullptr},
+                          Parameter{u"model", model}, Parameter{u"shortenedVersion", shortenedVersion},
+                          Parameter{u"isFootnote", isFootnote}};
+    };
+    procedure(*this, u"ToFormattedString", parameters, [&] {
+        const std::shared_ptr<outputTemplate> assembly = held(mOutputTemplate);
+        OutputSink& sink = object(formattedStr);
+        const std::vector<bool> checking = checkingArray(object(implementor), model, isFootnote);
+        assembly->ResetReferenceItems();
+        assembly->ToFormattedString(formattedStr, *implementor, shortenedVersion, isFootnote, checking);
+        const Text notes = getNotes(model, isFootnote);
+        if (!notes.empty() && notes != kFullStop) {
+            sink.Add(concatenate({kBeforeNotes, notes}));
+        } else if (!mBlankStrings.empty() && isBlankString(sink.toString())) {
+            sink.Reset();
+        }
+        sink.PageIndex(2 * std::int32_t{mPageIndex});
+    });
 }
 
 /// Which slots take their checking separators.
@@ -109,12 +110,12 @@ std::vector<bool> OutputTemplateModel::checkingArray(Implementor& implementor, c
                                                      bool isFootnote) const {
     std::vector<bool> checking(static_cast<std::size_t>(mUboundCheckingValues) + 1);
     bool asksImplementor = false;
-    for (std::size_t k = 0; k < mCheckingValues.size(); ++k) {
-        // A copy, since the model's answer may be a new layout.
-        const CheckingValue condition = mCheckingValues[k];
-        if (condition.value.empty()) {
+    for (std::size_t k = 0; k < std::min(mCheckingValues.size(), checking.size()); ++k) {
+        if (mCheckingValues[k].value.empty()) {
             continue;
         }
+        // A copy, since the model's answer may be a new layout.
+        const CheckingValue condition = mCheckingValues[k];
         if (condition.value == kCallbackForChecking) {
             asksImplementor = true;
         } else {

@@ -15,19 +15,46 @@ namespace detail {
 
 class ProcedureReport {
 public:
-    ProcedureReport(const Instrumented& self, TextView name, const ParameterList& parameters)
+    template <class Parameters>
+    ProcedureReport(const Instrumented& self, TextView name, const Parameters& parameters)
         : mProtector(VBWPROTECTOR::ofThisApartment()) {
-        mProtector.vbwProcIn(self, name, parameters);
+        if (mProtector.isConcerned()) {
+            if constexpr (std::is_invocable_v<const Parameters&>) {
+                mProtector.vbwProcIn(self, name, parameters());
+            } else {
+                mProtector.vbwProcIn(self, name, parameters);
+            }
+        }
     }
     ProcedureReport(const ProcedureReport&) = delete;
     ProcedureReport& operator=(const ProcedureReport&) = delete;
-    ~ProcedureReport() { mProtector.vbwProcOut(); }
+    ~ProcedureReport() {
+        if (mProtector.isConcerned()) {
+            mProtector.vbwProcOut();
+        }
+    }
 
-    bool isTooDeep() const { return mProtector.isTooDeep(); }
+    bool isTooDeep() const { return mProtector.isConcerned() && mProtector.isTooDeep(); }
 
 private:
     VBWPROTECTOR& mProtector;
 };
+
+template <class Parameters, class Body>
+std::invoke_result_t<Body&> run(const Instrumented& self, const Name& name, const Parameters& parameters,
+                                Body& body) noexcept {
+    using Result = std::invoke_result_t<Body&>;
+    const ProcedureReport report(self, name, parameters);
+    try {
+        if (report.isTooDeep()) {
+            throw RuntimeError(ErrorNumber::OutOfStackSpace);
+        }
+        return body();
+    } catch (...) {
+        reportCurrentException(self, name);
+    }
+    return Result();
+}
 
 }  // namespace detail
 
@@ -38,17 +65,18 @@ private:
 template <class Body>
 std::invoke_result_t<Body&> procedure(const Instrumented& self, const Name& name, const ParameterList& parameters,
                                       Body&& body) noexcept {
-    using Result = std::invoke_result_t<Body&>;
-    const detail::ProcedureReport report(self, name, parameters);
-    try {
-        if (report.isTooDeep()) {
-            throw RuntimeError(ErrorNumber::OutOfStackSpace);
-        }
-        return body();
-    } catch (...) {
-        reportCurrentException(self, name);
-    }
-    return Result();
+    return detail::run(self, name, parameters, body);
+}
+
+/// The same for a procedure that is called so often that its list is made only where somebody reads it.
+/// @param parameters makes the list: an array of them
+template <class Parameters, class Body>
+requires std::is_invocable_v<const Parameters&> std::invoke_result_t<Body&> procedure(const Instrumented& self,
+                                                                                      const Name& name,
+                                                                                      const Parameters& parameters,
+                                                                                      Body&& body)
+noexcept {
+    return detail::run(self, name, parameters, body);
 }
 
 }  // namespace quorvel

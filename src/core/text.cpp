@@ -34,23 +34,23 @@ bool isIn(const CodeUnitRange (&ranges)[N], char16_t unit) {
                        [unit](const CodeUnitRange& range) { return range.first <= unit && unit <= range.last; });
 }
 
-bool hasDoubleBlank(TextView text) {
-    char16_t any = 0;
-    for (std::size_t i = 1; i < text.size(); ++i) {
-        // No "&&", and as wide as the characters are, so that the compiler can take several at once.
-        const int isDouble = static_cast<int>(text[i - 1] == u' ') & static_cast<int>(text[i] == u' ');
-        any = static_cast<char16_t>(any | isDouble);
-    }
-    return any != 0;
+/// Up to U+1680 only the controls and the signs up to U+00AD can be spaces or invisible.
+bool mayNeedCleanUp(char16_t unit) {
+    return unit < u' ' || (unit >= u'\u007F' && unit <= u'\u00AD') || unit >= u'\u1680';
 }
 
 /// Nothing for the clean-up to do, which is so for nearly every text. May answer no without need.
 bool isClean(TextView text) {
-    // Up to U+1680 only the controls and the signs up to U+00AD can be spaces or invisible.
-    const bool isOrdinary = !anyUnit(text, [](char16_t unit) {
-        return unit < u' ' || (unit >= u'\u007F' && unit <= u'\u00AD') || unit >= u'\u1680';
-    });
-    return text.empty() || (isOrdinary && text.front() != u' ' && text.back() != u' ' && !hasDoubleBlank(text));
+    if (text.empty()) {
+        return true;
+    }
+    // No "&&", and as wide as the characters are, so that the compiler can take several at once.
+    char16_t any = 0;
+    for (std::size_t i = 1; i < text.size(); ++i) {
+        const int isDouble = static_cast<int>(text[i - 1] == u' ') & static_cast<int>(text[i] == u' ');
+        any = static_cast<char16_t>(any | isDouble | static_cast<int>(mayNeedCleanUp(text[i])));
+    }
+    return any == 0 && text.front() != u' ' && text.back() != u' ' && !mayNeedCleanUp(text.front());
 }
 
 }  // namespace
@@ -76,7 +76,12 @@ bool endsWith(TextView text, TextView suffix) {
 }
 
 bool contains(TextView text, TextView part) {
-    return text.find(part) != TextView::npos;
+    if (part.empty()) {
+        return true;
+    }
+    // Most texts do not hold what is looked for, and many not even its first character.
+    const char16_t first = part.front();
+    return anyUnit(text, [first](char16_t unit) { return unit == first; }) && text.find(part) != TextView::npos;
 }
 
 bool removePrefix(Text& text, TextView prefix) {
@@ -124,8 +129,18 @@ bool isSpace(char16_t unit) {
 }
 
 TextView trim(TextView text, TextView signs) {
-    const std::size_t first = text.find_first_not_of(signs);
-    return first == TextView::npos ? TextView() : text.substr(first, text.find_last_not_of(signs) - first + 1);
+    const auto isSign = [signs](char16_t unit) {
+        return unit == signs.front() || (signs.size() > 1 && signs.find(unit) != TextView::npos);
+    };
+    std::size_t begin = 0;
+    std::size_t end = text.size();
+    while (begin < end && isSign(text[begin])) {
+        ++begin;
+    }
+    while (end > begin && isSign(text[end - 1])) {
+        --end;
+    }
+    return begin == end ? TextView() : text.substr(begin, end - begin);
 }
 
 bool consistsOf(TextView text, TextView units) {
@@ -176,6 +191,12 @@ Text cleanUp(TextView text) {
     }
     removeSuffix(result, u" ");
     return result;
+}
+
+void cleanUpInPlace(Text& text) {
+    if (!isClean(text)) {
+        text = cleanUp(text);
+    }
 }
 
 }  // namespace quorvel

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <mutex>
 #include <new>
+#include <utility>
 
 #include "core/instrumented.h"
 
@@ -48,21 +49,32 @@ private:
     VBWPROTECTOR& mProtector;
 };
 
+constinit thread_local VBWPROTECTOR* VBWPROTECTOR::instance = nullptr;
+
 VBWPROTECTOR::VBWPROTECTOR() {
     const std::scoped_lock lock(startUpState().mutex);
     mSwitches = startUpState().switches;
     mFinder = startUpState().finder;
+    noteConcern();
 }
 
-VBWPROTECTOR& VBWPROTECTOR::ofThisApartment() {
+VBWPROTECTOR& VBWPROTECTOR::makeInstance() {
     // Never destroyed at thread end: by then COM is closed for the thread, and a service that is
     // still held can only be left alone. Every regular way out releases it before.
     alignas(VBWPROTECTOR) static thread_local std::byte storage[sizeof(VBWPROTECTOR)];
-    static thread_local VBWPROTECTOR* protector = nullptr;
-    if (protector == nullptr) {
-        protector = new (&storage) VBWPROTECTOR();
-    }
-    return *protector;
+    instance = new (&storage) VBWPROTECTOR();
+    return *instance;
+}
+
+void VBWPROTECTOR::noteConcern() noexcept {
+    mIsConcerned = mErrorParams != nullptr || (mFinder != nullptr && !mServiceIsAbsent) || isTooDeep();
+}
+
+void VBWPROTECTOR::releaseService() noexcept {
+    mErrorParams.reset();
+    // Nothing is left behind where the thread ends.
+    mProcedure = Text();
+    noteConcern();
 }
 
 void VBWPROTECTOR::startUp(TraceSwitches switches, ErrorReportServiceFinder* finder) {
@@ -83,6 +95,7 @@ void VBWPROTECTOR::beginHostCall(const void* bracket) noexcept {
     } else {
         mHostCalls[mDepth++] = placeOf(bracket);
     }
+    noteConcern();
 }
 
 void VBWPROTECTOR::forgetHostCallsUpTo(const void* bracket) noexcept {
@@ -96,6 +109,7 @@ void VBWPROTECTOR::forgetHostCallsUpTo(const void* bracket) noexcept {
     if (placeOf(mReporting) <= placeOf(bracket)) {
         mReporting = nullptr;
     }
+    noteConcern();
 }
 
 bool VBWPROTECTOR::findService() noexcept {
@@ -109,6 +123,7 @@ bool VBWPROTECTOR::findService() noexcept {
         }
     }
     mServiceIsAbsent = mErrorParams == nullptr && mDepth > 0;
+    noteConcern();
     return mErrorParams != nullptr;
 }
 
@@ -149,7 +164,13 @@ void VBWPROTECTOR::reportEntry(const Instrumented& self, TextView procedure, con
     try {
         const Text list = parameterList(parameters);
         if (hasService()) {
-            forward([&](ErrorReportService& service) { service.vbwProcIn(nameOf(self, procedure), list); });
+            // In the memory of the name before, unless a report is under way in spite of all.
+            Text name = std::exchange(mProcedure, Text());
+            name.assign(kLibraryPrefix).append(self.className()).append(u".").append(procedure);
+            forward([&](ErrorReportService& service) { service.vbwProcIn(name, list); });
+            if (mErrorParams) {
+                mProcedure = std::move(name);
+            }
         }
     } catch (...) {  // NOLINT(bugprone-empty-catch): no memory is left for the list
     }

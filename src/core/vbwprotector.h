@@ -29,7 +29,7 @@ struct TraceSwitches {
 class VBWPROTECTOR {
 public:
     /// The instance of the calling thread. Costs a thread-local access: ask once per procedure.
-    static VBWPROTECTOR& ofThisApartment();
+    static VBWPROTECTOR& ofThisApartment() { return instance != nullptr ? *instance : makeInstance(); }
 
     /// Start-up, once per load: the switches that every apartment begins with, and where the service
     /// is looked for (null: nowhere). The finder must outlive all calls.
@@ -56,6 +56,9 @@ public:
     /// A procedure that begins then is error 28.
     bool isTooDeep() const { return mIsExhausted && mDepth > kBracketsOfACall; }
 
+    /// Whether there is more to a procedure than its body: somebody may listen, or calls nest too deep.
+    bool isConcerned() const { return mIsConcerned; }
+
     void vbwProcIn(const Instrumented& self, TextView procedure, const ParameterList& parameters) {
         if (mSwitches.vbwTraceProc && hasService()) {
             reportEntry(self, procedure, parameters);
@@ -73,13 +76,18 @@ public:
     /// The last object of the thread is going away: tells the service and lets go of it.
     void vbwExitThread() noexcept;
     /// Lets go of the service without a word.
-    void releaseService() noexcept { mErrorParams.reset(); }
+    void releaseService() noexcept;
 
 private:
     class Reporting;
 
+    // Without a constructor to run, so that a look at it is nothing more.
+    static constinit thread_local VBWPROTECTOR* instance;
+
     VBWPROTECTOR();
 
+    static VBWPROTECTOR& makeInstance();
+    void noteConcern() noexcept;
     void forgetHostCallsUpTo(const void* bracket) noexcept;
 
     bool hasService() noexcept {
@@ -96,6 +104,8 @@ private:
     template <class Report>
     void forward(Report&& report) noexcept;
 
+    // What `isConcerned` says, kept up to date by whatever changes what it depends on.
+    bool mIsConcerned = false;
     TraceSwitches mSwitches;
     ErrorReportServiceFinder* mFinder;
     std::shared_ptr<ErrorReportService> mErrorParams;
@@ -104,6 +114,8 @@ private:
     std::size_t mDepth = 0;
     bool mIsExhausted = false;
     bool mServiceIsAbsent = false;
+    // The name that was reported last; its memory serves the next one.
+    Text mProcedure;
     // The report under way, which has a place on the stack as well.
     const Reporting* mReporting = nullptr;
 };

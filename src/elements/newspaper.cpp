@@ -186,7 +186,7 @@ Text OutputTemplateNewspaper::cityTooltip() const {
 
 void OutputTemplateNewspaper::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         parseAndRemoveCity(text);
         Title = text;
     });

@@ -101,7 +101,8 @@ bool isNumbers(TextView text) {
 /// Hyphens for dashes, and no full stop behind the last number.
 void normalise(Text& text) {
     std::replace_if(
-        text.begin(), text.end(), [](char16_t unit) { return kDashes.find(unit) != TextView::npos; }, kHyphen[0]);
+        text.begin(), text.end(),
+        [](char16_t unit) { return unit >= kDashes.front() && kDashes.find(unit) != TextView::npos; }, kHyphen[0]);
     if (text.size() > 1 && text.back() == u'.' && isDigit(text[text.size() - 2])) {
         text.pop_back();
     }
@@ -204,7 +205,7 @@ bool OutputTemplatePage::supportsNotes() const {
 
 void OutputTemplatePage::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         Note = kNoNote;
         if (doi::isDoi(text)) {
             pageType = kPage;

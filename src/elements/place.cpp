@@ -186,7 +186,7 @@ bool OutputTemplatePlace::Supports(std::int32_t placeType) const {
 
 void OutputTemplatePlace::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         parseAndRemovePlaceType(text);
         Place = text;
     });

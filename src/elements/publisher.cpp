@@ -188,7 +188,7 @@ void OutputTemplatePublisher::Parse(Text& text, TextView previousStr) {
         Imprint({});
         CoPublisher({});
         copublisherPlace.clear();
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         const Text given = text;
         parseAndRemovePublisherType(text);
         if (PublisherType == kSubmitted && !previousStr.empty() && given == kForthcoming) {

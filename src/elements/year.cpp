@@ -138,7 +138,7 @@ bool OutputTemplateYear::Supports(std::int32_t code) const {
 
 void OutputTemplateYear::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         parseAndRemoveYearType(text);
         if (std::optional<Text> year = yearOfDate(text)) {
             Year = std::move(*year);

@@ -1,5 +1,6 @@
 #include "host/host_error_report_service.h"
 
+#include <algorithm>
 #include <chrono>
 
 #include "host/com/arrays.h"
@@ -53,10 +54,31 @@ Variant toVariant(const TraceValue& value) {
     return std::visit(ToVariant(), value.storage());
 }
 
+bool holds(const Variant& variant, TextView text) {
+    return variant.vt == VT_BSTR && view(variant.bstrVal) == text;
+}
+
 }  // namespace
 
+std::span<const Variant> EntryArguments::of(TextView procedure, TextView parameters) {
+    // The ends of the names tell them apart.
+    constexpr std::size_t kUnits = 24;
+    std::size_t place = procedure.size();
+    for (const char16_t unit : procedure.substr(procedure.size() - std::min(kUnits, procedure.size()))) {
+        place = place * 31 + unit;
+    }
+    std::array<Variant, 2>& known = mKnown[place % kPlaces];
+    if (!holds(known[0], procedure)) {
+        known[0] = Variant(procedure);
+    }
+    if (!holds(known[1], parameters)) {
+        known[1] = Variant(parameters);
+    }
+    return known;
+}
+
 void HostErrorReportService::vbwProcIn(TextView procedure, TextView parameters) {
-    mObject.call(L"vbwProcIn", procedure, parameters);
+    mObject.callWith(L"vbwProcIn", mEntries.of(procedure, parameters));
 }
 
 void HostErrorReportService::vbwProcOut() {

@@ -1,13 +1,28 @@
 #pragma once
 
+#include <array>
 #include <atomic>
+#include <cstddef>
 #include <cstdint>
+#include <span>
+#include <vector>
 
 #include "core/error_report_service.h"
 #include "host/com/late_bound_object.h"
 #include "host/interfaces.h"
 
 namespace quorvel::host {
+
+/// The two arguments of `vbwProcIn`, kept for the next time that the same procedure begins.
+class EntryArguments {
+public:
+    std::span<const Variant> of(TextView procedure, TextView parameters);
+
+private:
+    // More than a reference has procedures; two of one place take it in turn.
+    static constexpr std::size_t kPlaces = 512;
+    std::vector<std::array<Variant, 2>> mKnown = std::vector<std::array<Variant, 2>>(kPlaces);
+};
 
 /// The host's error-report service behind the port.
 class HostErrorReportService final : public ErrorReportService {
@@ -29,6 +44,7 @@ public:
 
 private:
     LateBoundObject mObject;
+    EntryArguments mEntries;
 };
 
 /// Finds the service in the running host: the `ErrorParams` of the running object `QuorvelDot.BridgeToVB`.

@@ -111,7 +111,44 @@ bool isTrimmedForLookUp(char16_t unit) {
     return unit == u'.' || unit == u'(' || unit == u')' || unit == u',';
 }
 
+bool isSmallAscii(char16_t unit) {
+    return unit >= u'a' && unit <= u'z';
+}
+
+/// What lists know of a word in lower case.
+void lookUp(Word& word, TextView lower) {
+    while (!lower.empty() && isTrimmedForLookUp(lower.back())) {
+        lower.remove_suffix(1);
+    }
+    while (!lower.empty() && isTrimmedForLookUp(lower.front())) {
+        lower.remove_prefix(1);
+    }
+    if (!lower.empty()) {
+        word.classes = classesOf(lower);
+    }
+}
+
+/// A capital and small letters, all of them ASCII, as most words are.
+bool isPlainName(TextView word) {
+    return word.size() > 1 && word[0] >= u'A' && word[0] <= u'Z' &&
+           std::all_of(word.begin() + 1, word.end(), isSmallAscii);
+}
+
+void classifyPlainName(Word& word) {
+    word.shape = Shape::Name;
+    if (word.text.size() <= kLongestKnownWord) {
+        char16_t lower[kLongestKnownWord];
+        std::copy(word.text.begin(), word.text.end(), lower);
+        lower[0] = static_cast<char16_t>(lower[0] + (u'a' - u'A'));
+        word.classes = classesOf(TextView(lower, word.text.size()));
+    }
+}
+
 void classify(Word& word) {
+    if (isPlainName(word.text)) {
+        classifyPlainName(word);
+        return;
+    }
     char16_t lower[kLongestKnownWord];
     Letters letters;
     bool previousIsLetter = false;
@@ -155,16 +192,7 @@ void classify(Word& word) {
     word.endsWithStop = word.text.back() == u'.';
     word.shape = shapeOf(letters, word.text.size(), word.endsWithStop);
     if (word.text.size() <= kLongestKnownWord) {
-        TextView key(lower, word.text.size());
-        while (!key.empty() && isTrimmedForLookUp(key.back())) {
-            key.remove_suffix(1);
-        }
-        while (!key.empty() && isTrimmedForLookUp(key.front())) {
-            key.remove_prefix(1);
-        }
-        if (!key.empty()) {
-            word.classes = classesOf(key);
-        }
+        lookUp(word, TextView(lower, word.text.size()));
     }
     // "John." ends a sentence, "Wm." and "Card." do not.
     if (word.shape == Shape::Abbreviation && word.is(kFirstName)) {
@@ -250,10 +278,15 @@ std::uint32_t splitIntoWords(TextView text, Words& words) {
             at = bracketsAreBalanced ? closing : at;
             features |= kHasBracket;
         }
-        for (; at < text.size() && !endsWord(text[at]); ++at) {
-            if (text[at] < u'A' || text[at] > u'z' || text[at] == u'[' || text[at] == u']') {
+        while (at < text.size()) {
+            // Letters bring nothing.
+            if (!isAsciiLetter(text[at])) {
+                if (endsWord(text[at])) {
+                    break;
+                }
                 features |= featureOf(text[at]);
             }
+            ++at;
         }
         Word& word = words.emplace_back();
         word.text = text.substr(begin, at - begin);

@@ -149,7 +149,7 @@ Text OutputTemplateEdition::numberedOrNamedText(bool isFootnote) {
 
 void OutputTemplateEdition::Parse(Text& text, TextView previousStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"previousStr", previousStr}}, [&] {
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         mOldAuthor = previousStr;
         forgetPublication();
         mNumberedEdition = {};

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 
 #include "core/letter_case.h"
 #include "elements/date/date_text.h"
@@ -51,6 +52,7 @@ struct WordSpelling {
     TextView text;
 };
 
+// The spellings of a word stand together.
 constexpr WordSpelling kWords[] = {
     {Word::kVersion, u"version "}, {Word::kVersion, u"vers. "}, {Word::kDisc, u"disc "},   {Word::kDisc, u"disk "},
     {Word::kReel, u"rel. "},       {Word::kReel, u"reel "},     {Word::kFiche, u"fiche "}, {Word::kGrids, u"grids "},
@@ -140,10 +142,13 @@ std::optional<Medium> mediumAtStart(TextView text) {
 }
 
 std::optional<Piece> piece(TextView text, Word word) {
+    const auto isOfWord = [word](const WordSpelling& spelling) { return spelling.word == word; };
+    const auto* const first = std::find_if(std::begin(kWords), std::end(kWords), isOfWord);
+    const std::span<const WordSpelling> spellings(first, std::find_if_not(first, std::end(kWords), isOfWord));
     std::size_t lengthOfWord = 0;
     std::optional<Piece> found = findPiece(text, [&](TextView rest) -> std::size_t {
-        for (const WordSpelling& spelling : kWords) {
-            if (spelling.word == word && startsWithIgnoringCase(rest, spelling.text)) {
+        for (const WordSpelling& spelling : spellings) {
+            if (startsWithIgnoringCase(rest, spelling.text)) {
                 lengthOfWord = spelling.text.size();
                 const TextView value = firstPiece(rest.substr(lengthOfWord));
                 return value.empty() || contains(value, u" ") ? 0 : lengthOfWord + value.size();

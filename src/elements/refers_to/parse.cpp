@@ -53,7 +53,7 @@ void OutputTemplateRefersTo::Parse(Text& text, TextView secondaryText) {
         // A copy: the caller's may be one of the values.
         const Text told(trim(secondaryText));
         std::fill(mValues.begin(), mValues.end(), Text());
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         const bool isNewspaper = equalsIgnoringCase(told, kNewspaper);
         if (isNewspaper) {
             ResetFormatSettings(true);

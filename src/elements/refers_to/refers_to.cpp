@@ -38,7 +38,8 @@ std::shared_ptr<Element> newElement(const OutputSinkRef& formattedString) {
 
 }  // namespace
 
-OutputTemplateRefersTo::OutputTemplateRefersTo() : mRefersToType(kRefersTo) {}
+OutputTemplateRefersTo::OutputTemplateRefersTo()
+    : mRefersToType(kRefersTo), mKind(&referstokinds::kindOf(mRefersToType)) {}
 
 void OutputTemplateRefersTo::Initialize(const OutputSinkRef& formattedString) {
     procedure(*this, u"Initialize", {{u"formattedString", formattedString}}, [&] {
@@ -165,6 +166,7 @@ Text OutputTemplateRefersTo::RefersToType() const {
 void OutputTemplateRefersTo::RefersToType(TextView theVal) {
     procedure(*this, u"RefersToType[Let]", {{u"theVal", theVal}}, [&] {
         mRefersToType = typeOf(theVal, kStoredTypes);
+        mKind = &referstokinds::kindOf(mRefersToType);
         noteDate();
     });
 }
@@ -180,7 +182,7 @@ void OutputTemplateRefersTo::noteDate() {
 }
 
 const Kind& OutputTemplateRefersTo::kind() const {
-    return referstokinds::kindOf(mRefersToType);
+    return *mKind;
 }
 
 bool OutputTemplateRefersTo::hasValues() const {

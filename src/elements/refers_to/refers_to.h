@@ -189,6 +189,8 @@ private:
     std::size_t journalValue(std::size_t offset) const;
 
     Text mRefersToType;
+    // The row of that type.
+    const referstokinds::Kind* mKind;
     std::vector<Text> mSupportedTypes;
     std::vector<Text> mSettings;
     std::int32_t mFormat = stylecodes::kAma;

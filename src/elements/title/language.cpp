@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/letter_case.h"
+#include "elements/title/endings.h"
 
 namespace quorvel::titlelanguage {
 
@@ -23,12 +24,6 @@ constexpr TextView kForeignEndings[] = {
     u"iteit",  u"heid",  u"lijk",   u"lijke",   u"schap",  u"atie",   u"aties",  u"ciones", u"idad",
     u"idades", u"idade", u"miento", u"mientos", u"zione",  u"zioni",  u"ismo"};
 constexpr std::size_t kShortestWithEnding = 6;
-
-bool hasForeignEnding(TextView lowered) {
-    const char16_t last = lowered.back();
-    return std::any_of(std::begin(kForeignEndings), std::end(kForeignEndings),
-                       [&](TextView ending) { return last == ending.back() && lowered.ends_with(ending); });
-}
 
 bool isForeignLetter(char16_t unit) {
     return unit >= 0xC0 && unit < 0x250 && unit != u'\u00D7' && unit != u'\u00F7';
@@ -50,7 +45,7 @@ int foreignLook(const TitleText& title, const Word& word) {
     if (word.isLower && (hasLetters || hasElision(lowered))) {
         return 2;
     }
-    const bool hasEnding = lowered.size() >= kShortestWithEnding && hasForeignEnding(lowered);
+    const bool hasEnding = lowered.size() >= kShortestWithEnding && titleshapes::endsWithAny<kForeignEndings>(lowered);
     return hasEnding ? 1 + (hasLetters ? 1 : 0) : 0;
 }
 

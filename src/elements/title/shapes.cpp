@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "core/letter_case.h"
+#include "elements/title/endings.h"
 
 namespace quorvel::titleshapes {
 
@@ -41,26 +42,6 @@ constexpr TextView kSurnameEndings[] = {u"berg",  u"burg",  u"burgh", u"bury", u
                                         u"ham",   u"ini",   u"ius",   u"kov",  u"mann",  u"nov",  u"ov",
                                         u"ski",   u"sky",   u"son",   u"stan", u"stein", u"ucci", u"vich",
                                         u"ville", u"worth", u"shire", u"guez"};
-
-/// The last letters of endings, one bit each.
-template <std::size_t N>
-constexpr std::uint32_t lastLetters(const TextView (&endings)[N]) {
-    std::uint32_t letters = 0;
-    for (const TextView ending : endings) {
-        letters |= 1U << (ending.back() - u'a');
-    }
-    return letters;
-}
-
-template <const auto& endings>
-bool endsWithAny(TextView text) {
-    // Most endings are told by their last letter.
-    constexpr std::uint32_t kLastLetters = lastLetters(endings);
-    const unsigned last = text.empty() ? 0U : static_cast<unsigned>(text.back()) - u'a';
-    return last <= u'z' - u'a' && (kLastLetters >> last & 1U) != 0 && !text.empty() &&
-           std::any_of(std::begin(endings), std::end(endings),
-                       [&](TextView ending) { return text.back() == ending.back() && text.ends_with(ending); });
-}
 
 bool hasPeopleEnding(TextView lowered) {
     if (endsWith(lowered, u"s")) {

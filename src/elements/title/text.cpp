@@ -62,6 +62,11 @@ inline std::uint8_t kindOf(char16_t unit, char16_t lowered) {
     return unit < 0x80 ? kAsciiKinds[unit] : kindBeyondAscii(unit, lowered);
 }
 
+/// A small letter that is no foreign sign either.
+bool isPlainLetter(char16_t unit) {
+    return unit >= u'a' && unit < u'z';
+}
+
 bool isWordUnit(char16_t unit) {
     return (kindOf(unit, unit) & kLetterOrDigit) != 0;
 }
@@ -152,6 +157,19 @@ private:
         std::size_t coreEnd = begin + 1;
         std::size_t end = begin + 1;
         for (; end < mText.size(); ++end) {
+            // Nearly all are small letters, which say nothing more.
+            const std::size_t letters = end;
+            while (end < mText.size() && isPlainLetter(mText[end])) {
+                ++end;
+            }
+            if (end > letters) {
+                others |= kLetterOrDigit;
+                othersOfCore = others;
+                coreEnd = end;
+            }
+            if (end == mText.size()) {
+                break;
+            }
             const unsigned kind = kindOf(mText[end], mTitle.lowered[end]);
             if ((kind & kBetweenWords) != 0) {
                 break;
@@ -217,11 +235,25 @@ TextView wordBefore(TextView text, std::size_t end) {
 
 // Its room is written when a word needs it.
 // NOLINTNEXTLINE(cppcoreguidelines-pro-type-member-init)
-TitleText::TitleText(TextView title) : text(title), lowered(toLower(title)) {
-    if (anyUnit(title, [](char16_t unit) { return unit == words::kApostrophe; })) {
-        std::replace(lowered.begin(), lowered.end(), words::kApostrophe, u'\'');
-    }
+TitleText::TitleText(TextView title) : text(title), lowered(inLowerCase(title)) {
     Reader(*this).run();
+}
+
+TextView TitleText::inLowerCase(TextView title) {
+    const std::size_t size = title.size();
+    auto* const units = static_cast<char16_t*>(mMemory.allocate(size * sizeof(char16_t), alignof(char16_t)));
+    // In a form that the compiler takes several characters at a time of; other letters are rare.
+    char16_t all = 0;
+    for (std::size_t i = 0; i < size; ++i) {
+        units[i] = lettercase::lowerOfAscii(title[i]);
+        all = static_cast<char16_t>(all | title[i]);
+    }
+    if (all >= u'\u0080') {
+        for (std::size_t i = 0; i < size; ++i) {
+            units[i] = title[i] == words::kApostrophe ? u'\'' : toLower(title[i]);
+        }
+    }
+    return {units, size};
 }
 
 std::span<Word> TitleText::pieceFrom(std::size_t word) {

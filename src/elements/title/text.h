@@ -69,8 +69,8 @@ struct Word {
 /// The pieces of a title are what stands between ": ", ". ", "; ", "! " and "? ". A full stop behind an
 /// initial or an abbreviation ends none ("E. coli", "vs. ", "U.S.S. "), and "; or, " is no end of its own.
 class TitleText {
-    // Of most titles all words stand here, where they cost no memory of the heap.
-    static constexpr std::size_t kRoom = 24 * sizeof(Word);
+    // Of most titles the letters and all words stand here, where they cost no memory of the heap.
+    static constexpr std::size_t kRoom = 24 * sizeof(Word) + 160 * sizeof(char16_t);
     std::array<std::byte, kRoom> mRoom;
     std::pmr::monotonic_buffer_resource mMemory{mRoom.data(), mRoom.size()};
 
@@ -79,7 +79,7 @@ public:
 
     TextView text;
     /// The same in lower case and with straight apostrophes, as the lexicon is asked.
-    Text lowered;
+    TextView lowered;
     std::pmr::vector<Word> words{&mMemory};
     /// The classes that any of the words has.
     titlewords::WordClasses classes = 0;
@@ -91,6 +91,9 @@ public:
     words::Known find(Range part) const { return words::Lexicon::instance().find(slice(text, part), lower(part)); }
     /// The words of the piece that begins with this word.
     std::span<Word> pieceFrom(std::size_t word);
+
+private:
+    TextView inLowerCase(TextView title);
 };
 
 inline TitleText readTitle(TextView title) {

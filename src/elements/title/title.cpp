@@ -121,7 +121,7 @@ void OutputTemplateTitle::CloneImpl(OutputTemplateTitle& clone) const {
 
 void OutputTemplateTitle::Parse(Text& text, TextView secondaryStr) {
     procedure(*this, u"Parse", {{u"text", text}, {u"secondaryStr", secondaryStr}}, [&] {
-        text = cleanUp(text);
+        cleanUpInPlace(text);
         mTitleType = titletypes::spelled(secondaryStr);
         for (Text& value : mValues) {
             value.clear();

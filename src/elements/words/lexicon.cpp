@@ -116,7 +116,8 @@ inline std::size_t Lexicon::slotOf(TextView lowered, std::uint32_t hash) const {
 }
 
 Known Lexicon::find(TextView word, TextView lowered) const {
-    const EntryId id = mSlots[slotOf(lowered, hashOf(lowered))].entry;
+    const std::uint32_t hash = hashOf(lowered);
+    const EntryId id = mHashes[hash % kHashes] ? mSlots[slotOf(lowered, hash)].entry : 0;
     if (id == 0) {
         return {};
     }
@@ -226,6 +227,7 @@ EntryId Lexicon::entryOf(TextView lowered) {
     }
     const auto entry = static_cast<EntryId>(mEntries.size());
     slot = {hash, entry};
+    mHashes.set(hash % kHashes);
     mEntries.push_back({lowered});
     if (mEntries.size() * 2 > mSlots.size()) {
         grow();

@@ -102,8 +102,10 @@ private:
     std::vector<Form> mForms = std::vector<Form>(1);
     std::vector<EntryId> mPhraseWords;
     std::vector<Phrase> mPhrases;
-    // Which hashes, cut short, words have that mean something in lists of persons. Most of what is looked up there are
-    // last names, which end at this small table.
+    // Which hashes, cut short, words have, and which those that mean something in lists of persons. Most of what is
+    // looked up is in no list and ends at these small tables, which stay near the processor.
+    static constexpr std::size_t kHashes = std::size_t{1} << 17U;
+    std::bitset<kHashes> mHashes;
     static constexpr std::size_t kHashesInPersons = std::size_t{1} << 15U;
     std::bitset<kHashesInPersons> mHashesInPersons;
     // Open addressing: a power of two, at least half of it free.
