@@ -66,25 +66,6 @@ Text toRTFString(TextView rtfStr) {
     });
 }
 
-Text escaped(TextView text) {
-    Text result;
-    result.reserve(text.size());
-    for (const char16_t unit : text) {
-        if (unit == u'\\' || unit == u'{' || unit == u'}') {
-            result += u'\\';
-            result += unit;
-        } else if (unit == u'\n') {
-            result += u"\\par ";
-        } else if (unit > kLastAscii) {
-            // Units beyond the middle are negative numbers there.
-            result += u"\\u" + Value(static_cast<std::int32_t>(static_cast<std::int16_t>(unit))).asText() + u"?";
-        } else if (unit != u'\r') {
-            result += unit;
-        }
-    }
-    return result;
-}
-
 Text asDocument(TextView text) {
     return startsWith(text, kDocumentBegins) ? Text(text) : toRTFString(escaped(text));
 }

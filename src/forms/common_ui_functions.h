@@ -23,9 +23,6 @@ Text escaped(TextView text);
 /// A one-paragraph document of a text that is RTF already, or escaped.
 Text toRTFString(TextView rtfStr);
 
-/// A text as a part of an RTF document.
-Text escaped(TextView text);
-
 /// What a preview shows: a document as it is, any other text escaped and wrapped.
 Text asDocument(TextView text);
 
