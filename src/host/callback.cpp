@@ -114,13 +114,13 @@ bool isNotHandled(HRESULT outcome) {
 }
 
 void deliver(IDispatch* listener, CallbackEvent event, Arguments arguments) {
-    EXCEPINFO exception = {};
+    ExceptionInfo exception;
     HRESULT outcome = tell(listener, event, arguments, exception);
     if (refusesTypes(outcome) && !arguments.empty()) {
         outcome = tellInVariants(listener, event, arguments, exception);
     }
     if (FAILED(outcome) && !isNotHandled(outcome)) {
-        throw automationError(outcome, exception, listener);
+        throw automationError(outcome, exception, listener, u"an event of a listener");
     }
 }
 

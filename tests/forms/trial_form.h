@@ -51,7 +51,7 @@ protected:
     void choiceClicked(Control& control) override { note("clicked", control); }
     void buttonClicked(Control& button) override;
     void spun(Control& /*upDown*/, Control& buddy, bool isUp) override { note(isUp ? "up" : "down", buddy); }
-    void textSelected(Control& box) override { note("selected", box); }
+    void textSelected(Control& box, SelectedBy /*by*/) override { note("selected", box); }
     void activated() override;
 
 private:
