@@ -90,8 +90,8 @@ void Editing::show(std::int16_t type, const LateBoundObject& element, const Edit
     mAccepted = std::move(accepted);
     mIsShown = true;
     const Variant nothing(static_cast<IDispatch*>(nullptr));
-    mProxy.call(L"ShowForm", {type, kProduct, nothing, mOwner.get(), element.dispatch(), nothing,
-                              text.text, text.secondary});
+    mProxy.call(L"ShowForm",
+                {type, kProduct, nothing, mOwner.get(), element.dispatch(), nothing, text.text, text.secondary});
 }
 
 void Editing::hide() {

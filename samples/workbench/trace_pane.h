@@ -20,10 +20,14 @@ public:
 
     /// @throws ComError when the service cannot be registered
     void listen(bool isOn);
+    /// Shows what came since the last time: to be called now and then, since one list is tens of thousands of lines.
+    void refresh();
 
 private:
+    class Lines;
+
     HWND mEdit;
-    std::shared_ptr<std::ostream> mLines;
+    std::shared_ptr<Lines> mLines;
     ComPointer<ErrorReportService> mService;
     std::unique_ptr<RunningBridgeToVB> mBridge;
 };

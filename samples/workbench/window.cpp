@@ -143,7 +143,8 @@ WorkbenchWindow::~WorkbenchWindow() {
 
 void WorkbenchWindow::run() {
     restorePlace();
-    SetFocus(part(kReferences));
+    mLastFocus = part(kReferences);
+    SetFocus(mLastFocus);
     MSG message = {};
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {
         const bool isOurs = message.hwnd == mWindow || IsChild(mWindow, message.hwnd) != FALSE;
@@ -201,6 +202,14 @@ std::optional<LRESULT> WorkbenchWindow::handle(UINT message, WPARAM wParam, LPAR
                 if (reinterpret_cast<HWND>(lParam) == part(kListing)) chooseListing(static_cast<Listing>(chosen));
             }
             return 0;
+        case WM_ACTIVATE:
+            // Back from a form, the keys go on where they were.
+            if (LOWORD(wParam) == WA_INACTIVE) mLastFocus = GetFocus();
+            return std::nullopt;
+        case WM_SETFOCUS:
+            if (IsChild(mWindow, mLastFocus) != FALSE) SetFocus(mLastFocus);
+            return 0;
+        case WM_TIMER: mTracePane->refresh(); return 0;
         case WM_CLOSE:
             if (mayClose()) {
                 saveSettings();
@@ -476,6 +485,11 @@ void WorkbenchWindow::copyAsRtf() {
 void WorkbenchWindow::showTrace(bool isShown) {
     ShowWindow(part(kTrace), isShown ? SW_SHOW : SW_HIDE);
     tried([&] { mTracePane->listen(isShown); });
+    constexpr UINT kRefreshEvery = 300;
+    if (isShown)
+        SetTimer(mWindow, 1, kRefreshEvery, nullptr);
+    else
+        KillTimer(mWindow, 1);
     CheckMenuItem(mMenu, kShowTrace, MF_BYCOMMAND | (isShown ? MF_CHECKED : MF_UNCHECKED));
     arrange();
 }

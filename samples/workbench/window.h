@@ -78,6 +78,7 @@ private:
     Document& mDocument;
     Settings mSettings;
     HWND mWindow = nullptr;
+    HWND mLastFocus = nullptr;
     std::array<HWND, kParts> mParts{};
     HMENU mMenu = nullptr;
     HACCEL mKeys = nullptr;
