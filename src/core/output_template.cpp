@@ -176,6 +176,7 @@ void outputTemplate::ToFormattedString(const OutputSinkRef& formattedStr, Implem
     };
     procedure(*this, u"ToFormattedString", parameters, [&] {
         // Held, since the host may call for new ones while they are being written.
+        // NOLINTNEXTLINE(*-member-init): room for what is put there, and nothing to read before
         std::array<std::byte, kUsualFragments * sizeof(OutputSinkRef)> room;
         std::pmr::monotonic_buffer_resource memory(room.data(), room.size());
         std::pmr::vector<OutputSinkRef> fragments(&memory);

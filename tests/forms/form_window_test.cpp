@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "forms/handles.h"
 #include "forms/trial_form.h"
 #include "forms/win/density.h"
 
@@ -498,37 +499,6 @@ TEST_F(FormWindowTest, LeavesOtherWindowsKeysAlone) {
     EXPECT_EQ(GetActiveWindow(), owner);
     form->reveal();
     EXPECT_TRUE(form->isVisible());
-}
-
-/// Numbers that grow when handles are not given back.
-struct Handles {
-    DWORD kernel = 0;
-    DWORD drawing = 0;
-    /// Of windows, menus and hooks.
-    DWORD user = 0;
-
-    static Handles now();
-};
-
-Handles Handles::now() {
-    Handles handles;
-    GetProcessHandleCount(GetCurrentProcess(), &handles.kernel);
-    handles.drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    handles.user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    if (handles.drawing == 0) {
-        // A system that does not count: the highest of those that are made next, by their places in its tables.
-        std::vector<HGDIOBJ> pens;
-        std::vector<HMENU> menus;
-        for (int i = 0; i < 64; ++i) {
-            pens.push_back(CreatePen(PS_SOLID, 1, 0));
-            menus.push_back(CreateMenu());
-            handles.drawing = std::max<DWORD>(handles.drawing, LOWORD(reinterpret_cast<UINT_PTR>(pens.back())));
-            handles.user = std::max<DWORD>(handles.user, LOWORD(reinterpret_cast<UINT_PTR>(menus.back())));
-        }
-        std::for_each(pens.begin(), pens.end(), DeleteObject);
-        std::for_each(menus.begin(), menus.end(), DestroyMenu);
-    }
-    return handles;
 }
 
 int cycles() {
