@@ -20,7 +20,7 @@ constexpr ControlName kOutput = u"Output";
 // The foot of every form.
 constexpr ControlRow kPreview[] = {
     label(u"OutputLabel", u"Preview:", {1, 0, kContentWidth}).in(kBottomPane),
-    richText(u"Output", {2, 0, kContentWidth, 34}).in(kBottomPane).readOnly().spoken(u"Preview"),
+    richText(u"Output", {2, 0, kContentWidth, 40}).in(kBottomPane).readOnly().spoken(u"Preview"),
 };
 constexpr std::int16_t kButtonWidth = 50;
 constexpr ControlRow kPane = frame(kBottomPane, u"", {0, 0, kContentWidth});
