@@ -397,8 +397,11 @@ Control& Form::control(const ControlName& which) {
 }
 
 void Form::aspectChanged(Control& control, Aspect aspect) {
-    const bool matters = aspect == Aspect::Visible || aspect == Aspect::Place ||
-                         (aspect == Aspect::Caption && control.kind() == ControlKind::Frame);
+    // A frame has a border with its caption, and a label of several lines is as high as they are.
+    const bool isSizedByCaption = control.kind() == ControlKind::Frame ||
+                                  (control.kind() == ControlKind::Label && control.row().place.height != 0);
+    const bool matters =
+        aspect == Aspect::Visible || aspect == Aspect::Place || (aspect == Aspect::Caption && isSizedByCaption);
     mIsLayoutStale = mIsLayoutStale || (matters && !mIsLayingOut);
     if (mView) {
         mView->aspectChanged(control, aspect);
