@@ -37,7 +37,7 @@ constexpr ControlRow kControls[] = {
     frame(u"PseudoFrame", u"Author kind", {3, 0, kContentWidth}),
     option(u"NormalOption", u"The name is &printed in the work", {1, 7, 212}).in(u"PseudoFrame"),
     option(u"AnonymousOption", u"The work is &anonymous, and the name is attributed", {2, 7, 212}).in(u"PseudoFrame"),
-    option(u"PseudoOption", u"The name is a p&seudonym of:", {3, 7, 100}).in(u"PseudoFrame"),
+    option(u"PseudoOption", u"It is a p&seudonym of:", {3, 7, 100}).in(u"PseudoFrame"),
     textBox(u"Pseudoname", {3, 109, 110})
         .in(u"PseudoFrame")
         .spoken(u"Name behind the pseudonym")
@@ -164,9 +164,9 @@ void AuthorForm::rowsChanged() {
 
 void AuthorForm::positionEtAl() {
     procedure(*this, u"positionEtAl", kNoParameters, [&] {
-        if (lastRow() != 1) {
-            control(u"HasEtAl").setTopBelow(&box(static_cast<std::size_t>(lastRow())), kEtAlBelowRow);
-        }
+        // Below a single row it stands where its line has it.
+        const bool isSingle = lastRow() == 1;
+        control(u"HasEtAl").setTopBelow(isSingle ? nullptr : &box(static_cast<std::size_t>(lastRow())), kEtAlBelowRow);
     });
 }
 

@@ -38,7 +38,8 @@ struct Place {
     std::int16_t line = 0;
     std::int16_t x = 0;
     std::int16_t width = 0;
-    /// 0 for the height that is usual for the kind; a frame is as high as what it holds.
+    /// 0 for the height that is usual for the kind; a frame is as high as what it holds. Of a label, the greatest: it is
+    /// as high as its lines.
     std::int16_t height = 0;
 };
 
@@ -209,5 +210,7 @@ struct FormDesign {
 inline constexpr std::int16_t kFormWidth = 240;
 inline constexpr std::int16_t kMargin = 7;
 inline constexpr std::int16_t kContentWidth = kFormWidth - 2 * kMargin;
+/// What a character of a caption takes at most, on the average.
+inline constexpr std::int16_t kCharacterWidth = 4;
 
 }  // namespace quorvel::forms

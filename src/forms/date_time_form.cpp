@@ -10,7 +10,7 @@ constexpr ControlRow kControls[] = {
     label({u"Label2", 0}, u"eg) September 1, 2011", {2, 46, 180}),
     label({u"Label", 1}, u"&Time:", {3, 0, 44}),
     textBox(u"Time", {3, 46, 180}).hint(u"A time of day, where known with its time zone."),
-    label({u"Label2", 1}, u"eg) 12:57:58 p.m. PDT or 1:47:54 p.m. ET or 10:23 a.m.", {4, 46, 180, 17}),
+    label({u"Label2", 1}, u"eg) 12:57:58 p.m. PDT or 1:47:54 p.m. ET or 10:23 a.m.", {4, 46, 170, 17}),
 };
 constexpr FormDesign kDesign = {
     .className = u"DateTimeForm",

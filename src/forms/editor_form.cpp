@@ -131,14 +131,17 @@ void EditorForm::showAuthorTypeOptions() {
 
 void EditorForm::collect(bool /*isModelPreview*/) {
     const Text type = AuthorType();
+    const std::vector<Text> persons = names();
     for (const EditorType& row : kTypes) {
         if (row.type == type) {
             for (std::size_t role = 0; role < kRoles; ++role) {
-                element().put(u"Anthologies", {Value(static_cast<std::int32_t>(role)), Value(row.roles.at(role))});
+                // A role without a person would be written alone: "ed."
+                const bool hasRole = row.roles.at(role) && !persons.empty();
+                element().put(u"Anthologies", {Value(static_cast<std::int32_t>(role)), Value(hasRole)});
             }
         }
     }
-    element().put(u"authors", names());
+    element().put(u"authors", persons);
     element().put(u"HasEtAl", mHasEtAl);
 }
 

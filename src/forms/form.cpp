@@ -20,7 +20,7 @@ constexpr ControlName kOutput = u"Output";
 // The foot of every form.
 constexpr ControlRow kPreview[] = {
     label(u"OutputLabel", u"Preview:", {1, 0, kContentWidth}).in(kBottomPane),
-    richText(u"Output", {2, 0, kContentWidth, 34}).in(kBottomPane).readOnly().spoken(u"Preview"),
+    richText(u"Output", {2, 0, kContentWidth, 40}).in(kBottomPane).readOnly().spoken(u"Preview"),
 };
 constexpr std::int16_t kButtonWidth = 50;
 constexpr ControlRow kPane = frame(kBottomPane, u"", {0, 0, kContentWidth});
@@ -397,8 +397,11 @@ Control& Form::control(const ControlName& which) {
 }
 
 void Form::aspectChanged(Control& control, Aspect aspect) {
-    const bool matters = aspect == Aspect::Visible || aspect == Aspect::Place ||
-                         (aspect == Aspect::Caption && control.kind() == ControlKind::Frame);
+    // A frame has a border with its caption, and a label of several lines is as high as they are.
+    const bool isSizedByCaption = control.kind() == ControlKind::Frame ||
+                                  (control.kind() == ControlKind::Label && control.row().place.height != 0);
+    const bool matters =
+        aspect == Aspect::Visible || aspect == Aspect::Place || (aspect == Aspect::Caption && isSizedByCaption);
     mIsLayoutStale = mIsLayoutStale || (matters && !mIsLayingOut);
     if (mView) {
         mView->aspectChanged(control, aspect);

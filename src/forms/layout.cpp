@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "core/text.h"
+
 namespace quorvel::forms {
 
 namespace {
@@ -13,12 +15,33 @@ constexpr std::int16_t kFrameTop = 11;
 constexpr std::int16_t kFrameBottom = 5;
 constexpr std::int16_t kUpDownWidth = 10;
 
-/// The usual heights, by kind.
-constexpr std::array<std::int16_t, 10> kHeights = {8, 0, 14, 14, 10, 10, 14, 60, 14, 14};
+constexpr std::int16_t kTextLine = 8;
+/// What stands beside something higher, a list, begins at its top.
+constexpr std::int16_t kHighestLine = 18;
+
+/// The usual heights, by kind. In a text box the text stands in the middle, at the height of the label beside it.
+constexpr std::array<std::int16_t, 10> kHeights = {kTextLine, 0, 12, 14, 10, 10, 14, 60, 12, 12};
+
+/// How many lines a label of that width may need, each paragraph by itself.
+std::int32_t linesOf(TextView caption, std::int16_t width) {
+    const std::size_t inLine = static_cast<std::size_t>(std::max<int>(width / kCharacterWidth, 1));
+    std::size_t lines = 0;
+    for (const Text& paragraph : split(caption, u"\n")) {
+        lines += std::max<std::size_t>((paragraph.size() + inLine - 1) / inLine, 1);
+    }
+    return static_cast<std::int32_t>(lines);
+}
 
 std::int16_t heightOf(const Control& control) {
-    const std::int16_t stated = control.row().place.height;
-    return stated != 0 ? stated : kHeights.at(static_cast<std::size_t>(control.kind()));
+    const Place& place = control.row().place;
+    if (place.height == 0) {
+        return kHeights.at(static_cast<std::size_t>(control.kind()));
+    }
+    // A label has room for its longest text, and takes what the one in it needs.
+    return control.kind() == ControlKind::Label
+               ? static_cast<std::int16_t>(
+                     std::min<std::int32_t>(place.height, kTextLine * linesOf(control.caption(), place.width)))
+               : place.height;
 }
 
 /// One pass over the controls of a form.
@@ -129,8 +152,9 @@ private:
                 bottom = std::max(bottom, placeFrame(control, left, top));
             } else {
                 const Twips own = vertical(heightOf(control));
+                const Twips room = height > vertical(kHighestLine) ? own : height;
                 control.setPlace(
-                    {left + horizontal(control.row().place.x), top + (height - own) / 2, widthOf(control), own});
+                    {left + horizontal(control.row().place.x), top + (room - own) / 2, widthOf(control), own});
             }
         });
         return bottom;

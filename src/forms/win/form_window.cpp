@@ -133,6 +133,18 @@ DialogUnits FormWindow::dialogUnits() const {
 }
 
 Rectangle FormWindow::borders() const {
+    // Those that the window has: what the system draws for a density depends on what the host's process knows of it.
+    RECT client = {};
+    RECT whole = {};
+    if (GetClientRect(mHandle, &client) != FALSE && GetWindowRect(mHandle, &whole) != FALSE && client.right > 0 &&
+        client.bottom > 0) {
+        POINT origin = {};
+        ClientToScreen(mHandle, &origin);
+        return {mDensity.twips(static_cast<int>(origin.x - whole.left)),
+                mDensity.twips(static_cast<int>(origin.y - whole.top)),
+                mDensity.twips(static_cast<int>(whole.right - whole.left - client.right)),
+                mDensity.twips(static_cast<int>(whole.bottom - whole.top - client.bottom))};
+    }
     const RECT frame = mDensity.borders(kStyle, kExtendedStyle);
     return {mDensity.twips(-frame.left), mDensity.twips(-frame.top), mDensity.twips(frame.right - frame.left),
             mDensity.twips(frame.bottom - frame.top)};

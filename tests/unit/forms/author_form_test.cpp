@@ -143,5 +143,14 @@ TEST(EditorForm, TypeComesFromTheSecondTextTheRolesOrIsEditor) {
     }
 }
 
+TEST(EditorForm, NobodyHasNoRole) {
+    const auto element = authorElement();
+    const ShownForm shown(9, element, u"");
+    EXPECT_TRUE(shown.at(u"EditorOption").value());
+    EXPECT_FALSE(element->valueOf(u"Anthologies(0)").asFlag());
+    shown.type({u"editors", 1}, u"A");
+    EXPECT_TRUE(element->valueOf(u"Anthologies(0)").asFlag());
+}
+
 }  // namespace
 }  // namespace quorvel

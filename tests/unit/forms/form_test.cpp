@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/letter_case.h"
 #include "support/recording_service.h"
 #include "support/shown_form.h"
 
@@ -110,30 +111,70 @@ TEST(Form, HelpIsShownOnceAControlIsEntered) {
     EXPECT_EQ(told(shown)[1], "TooltipHide");
 }
 
-// At every density: what is shown lies inside the form and its frame, and boxes and buttons do not overlap.
+/// Whether a caption has the room that its longest text may need.
+bool fits(const forms::Control& control) {
+    constexpr std::int16_t kTextLine = 8;
+    constexpr std::int16_t kMark = 12;
+    const bool hasMark =
+        control.kind() == forms::ControlKind::OptionButton || control.kind() == forms::ControlKind::CheckBox;
+    const forms::Place& place = control.row().place;
+    const int lines = std::max(place.height / kTextLine, 1);
+    const auto letters =
+        std::count_if(control.caption().begin(), control.caption().end(), [](char16_t unit) { return unit != u'&'; });
+    return letters * forms::kCharacterWidth <= lines * (place.width - (hasMark ? kMark : 0));
+}
+
+/// The letters that lead to controls, in the order of reading.
+Text mnemonicsOf(forms::Form& form) {
+    Text letters;
+    for (const forms::Control& control : form.controls()) {
+        const std::size_t mark = control.caption().find(u'&');
+        if (mark != Text::npos && control.isShown()) {
+            letters += toUpper(control.caption().at(mark + 1));
+        }
+    }
+    return letters;
+}
+
+// At every density: what is shown lies inside the form and its frame, captions fit, and nothing overlaps, with all rows
+// shown as with those of an empty text.
 TEST(Form, EveryFormIsLaidOutWithoutOverlaps) {
     int formsSeen = 0;
     for (std::int16_t type = 0; type <= 18; ++type) {
         if (!forms::make(type)) {
             continue;
         }
-        ++formsSeen;
-        const ShownForm shown(type, std::make_shared<RecordingObject>(), u"");
-        const forms::Rectangle client = shown.form->scale();
-        for (forms::Control& control : shown.form->controls()) {
-            if (!control.isShown()) {
-                continue;
+        for (const bool isAllShown : {false, true}) {
+            ++formsSeen;
+            const ShownForm shown(type, std::make_shared<RecordingObject>(), u"");
+            if (isAllShown) {
+                for (forms::Control& control : shown.form->controls()) {
+                    control.setVisible(true);
+                }
+                shown.form->hostChanged();
             }
-            const forms::Rectangle& place = control.place();
-            EXPECT_GE(place.left, 0) << test::utf8Of(control.name());
-            EXPECT_LE(place.left + place.width, client.width + 1) << test::utf8Of(control.name());
-            EXPECT_LE(place.top + place.height, client.height + 1) << test::utf8Of(control.name());
-            for (forms::Control& other : shown.form->controls()) {
-                const forms::Rectangle& there = other.place();
-                const bool overlap = &other != &control && other.isShown() && other.frame() == control.frame() &&
-                                     place.left < there.left + there.width && there.left < place.left + place.width &&
-                                     place.top < there.top + there.height && there.top < place.top + place.height;
-                EXPECT_FALSE(overlap) << test::utf8Of(control.name()) << " and " << test::utf8Of(other.name());
+            Text mnemonics = mnemonicsOf(*shown.form);
+            std::sort(mnemonics.begin(), mnemonics.end());
+            EXPECT_EQ(std::adjacent_find(mnemonics.begin(), mnemonics.end()), mnemonics.end())
+                << type << ": " << test::utf8Of(mnemonics);
+            const forms::Rectangle client = shown.form->scale();
+            for (forms::Control& control : shown.form->controls()) {
+                if (!control.isShown()) {
+                    continue;
+                }
+                EXPECT_TRUE(fits(control)) << type << ": " << test::utf8Of(control.caption());
+                const forms::Rectangle& place = control.place();
+                EXPECT_GE(place.left, 0) << test::utf8Of(control.name());
+                EXPECT_LE(place.left + place.width, client.width + 1) << test::utf8Of(control.name());
+                EXPECT_LE(place.top + place.height, client.height + 1) << test::utf8Of(control.name());
+                for (forms::Control& other : shown.form->controls()) {
+                    const forms::Rectangle& there = other.place();
+                    const bool overlap = &other != &control && other.isShown() && other.frame() == control.frame() &&
+                                         place.left < there.left + there.width &&
+                                         there.left < place.left + place.width &&
+                                         place.top < there.top + there.height && there.top < place.top + place.height;
+                    EXPECT_FALSE(overlap) << test::utf8Of(control.name()) << " and " << test::utf8Of(other.name());
+                }
             }
         }
     }
