@@ -90,7 +90,7 @@ constexpr Twips kEtAlBelowRow = 405;
 AuthorForm::AuthorForm() : NamesForm(kDesign, {u"authors", u"AuthorLabels", u"EnableNextAuthor"}) {}
 
 void AuthorForm::fill(TextView parentText, TextView secondaryText) {
-    element().call(u"Parse", {Value(parentText)});
+    readText(parentText);
     forms::fill(*this, element(), kFlags);
     const std::vector<Text> authors = element().texts(u"authors");
     showPseudo(supports(u"SupportAnonAndPseudoAuthors"));
@@ -138,7 +138,7 @@ void AuthorForm::collect(bool isModelPreview) {
 std::pair<Text, Text> AuthorForm::result() {
     const Control& discussant = control(kDiscussant);
     const bool hasDiscussant = discussant.isVisible() && !discussant.text().empty();
-    return {toString(), Text(hasDiscussant ? kDiscussant : TextView())};
+    return {wholeText(), Text(hasDiscussant ? kDiscussant : TextView())};
 }
 
 void AuthorForm::boxEntered(Control& box) {

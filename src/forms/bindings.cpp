@@ -1,5 +1,7 @@
 #include "forms/bindings.h"
 
+#include <algorithm>
+
 #include "forms/form.h"
 
 namespace quorvel::forms {
@@ -24,22 +26,30 @@ void put(const EditedObject& element, const char16_t* member, std::int16_t membe
     }
 }
 
+Text textOf(const EditedObject& element, const TextBinding& binding) {
+    return binding.memberIndex == kNoIndex ? element.text(binding.member)
+                                           : element.text(binding.member, binding.memberIndex);
+}
+
 }  // namespace
 
-void read(const EditedObject& element, TextView parentText, TextView secondaryText) {
-    if (secondaryText.empty()) {
-        element.call(u"Parse", {Value(parentText)});
-    } else {
-        element.call(u"Parse", {Value(parentText), Value(secondaryText)});
-    }
+Text read(const EditedObject& element, TextView parentText, TextView secondaryText) {
+    const std::optional<Text> second = secondaryText.empty() ? std::nullopt : std::optional<Text>(secondaryText);
+    return element.callWithRest(u"Parse", parentText, second);
 }
 
 void fill(Form& form, const EditedObject& element, std::span<const TextBinding> bindings) {
     for (const TextBinding& binding : bindings) {
-        form.control(binding.box)
-            .setText(binding.memberIndex == kNoIndex ? element.text(binding.member)
-                                                     : element.text(binding.member, binding.memberIndex));
+        form.control(binding.box).setText(textOf(element, binding));
     }
+}
+
+bool isReadBack(Form& form, const EditedObject& element, std::span<const TextBinding> bindings, TextView text,
+                TextView secondaryText) {
+    read(element, text, secondaryText);
+    return std::all_of(bindings.begin(), bindings.end(), [&](const TextBinding& binding) {
+        return form.control(binding.box).text() == textOf(element, binding);
+    });
 }
 
 void fill(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings) {

@@ -33,8 +33,8 @@ struct ChoiceBinding {
     const char16_t* supports = nullptr;
 };
 
-/// Lets the element read the host's text, and the second text where there is one.
-void read(const EditedObject& element, TextView parentText, TextView secondaryText);
+/// Lets the element read the host's text, and the second text where there is one. @return what it left of the text
+Text read(const EditedObject& element, TextView parentText, TextView secondaryText);
 
 void fill(Form& form, const EditedObject& element, std::span<const TextBinding> bindings);
 void fill(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings);
@@ -44,6 +44,10 @@ void fill(Form& form, const EditedObject& element, const ChoiceBinding& binding)
 void collect(Form& form, const EditedObject& element, std::span<const TextBinding> bindings);
 void collect(Form& form, const EditedObject& element, std::span<const FlagBinding> bindings);
 void collect(Form& form, const EditedObject& element, const ChoiceBinding& binding);
+
+/// Whether the element reads from a text what the boxes hold, so that nothing of them is lost in it.
+bool isReadBack(Form& form, const EditedObject& element, std::span<const TextBinding> bindings, TextView text,
+                TextView secondaryText);
 
 /// Gives an array of options, which count from 0, the captions that the element offers, in their order. Those that are
 /// left or have no caption are hidden.

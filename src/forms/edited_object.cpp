@@ -41,6 +41,17 @@ Value EditedObject::call(const char16_t* member, LateObject::Arguments arguments
     return orEmpty(mForm, [&] { return held(mObject)->call(member, arguments); });
 }
 
+Text EditedObject::callWithRest(const char16_t* member, TextView text, const std::optional<Text>& second) const {
+    return orEmpty(mForm, [&] {
+        std::vector<Value> arguments = {Value(text)};
+        if (second) {
+            arguments.emplace_back(*second);
+        }
+        held(mObject)->callInOut(member, arguments);
+        return arguments.front().asText();
+    });
+}
+
 void EditedObject::put(const char16_t* member, std::initializer_list<Value> indexesAndValue) const {
     orEmpty(mForm, [&] { held(mObject)->put(member, spanOf(indexesAndValue)); });
 }

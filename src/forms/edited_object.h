@@ -23,6 +23,8 @@ public:
     Value call(const char16_t* member, std::initializer_list<Value> arguments) const {
         return call(member, LateObject::Arguments(arguments.begin(), arguments.size()));
     }
+    /// Calls a method that takes a text by reference, and a second one. @return what it left of the first
+    Text callWithRest(const char16_t* member, TextView text, const std::optional<Text>& second = std::nullopt) const;
     void put(const char16_t* member, std::initializer_list<Value> indexesAndValue) const;
     template <class T>
     void put(const char16_t* member, const T& value) const {

@@ -134,9 +134,7 @@ std::int16_t EditionForm::EditionType() {
 }
 
 void EditionForm::fill(TextView parentText, TextView secondaryText) {
-    mParentText = parentText;
-    mSecondaryText = secondaryText;
-    read(element(), parentText, secondaryText);
+    mSurroundings = surroundingsOf(parentText, read(element(), parentText, secondaryText));
     mIsWritten = false;
     forms::fill(*this, element(), kType);
     fillNumber();
@@ -241,7 +239,7 @@ void EditionForm::collect(bool /*isModelPreview*/) {
     const Entered now = entered();
     if (now == mRead) {
         if (mIsWritten) {
-            read(element(), mParentText, mSecondaryText);
+            read(element(), parentText(), secondaryText());
             mIsWritten = false;
         }
         return;
@@ -281,7 +279,7 @@ void EditionForm::collectPublication(const Entered& now) {
 std::pair<Text, Text> EditionForm::result() {
     const Text text = toString();
     // A statement of a first publication that nobody changed goes back as it stood: the style may write less of it.
-    return {isPublication(mRead.type) && entered() == mRead ? mParentText : text, Text()};
+    return {isPublication(mRead.type) && entered() == mRead ? parentText() : mSurroundings.around(text), Text()};
 }
 
 }  // namespace quorvel::forms

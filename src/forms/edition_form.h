@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/form.h"
+#include "forms/surroundings.h"
 
 namespace quorvel::forms {
 
@@ -45,8 +46,8 @@ private:
     Control& box(std::size_t part);
     EditedObject publication();
 
-    Text mParentText;
-    Text mSecondaryText;
+    /// What stands round the statement in the host's text.
+    Surroundings mSurroundings;
     /// What stood in the controls when the element had read the text.
     Entered mRead;
     /// The element has been written to since it read the text.

@@ -57,13 +57,11 @@ constexpr FormDesign kDesign = {
     .rtfParameter = 5,
 };
 
-constexpr std::size_t kRoles = 3;
-
 /// The four types, their options and the element's roles that they are: editor, compiler, translator.
 struct EditorType {
     TextView type;
     ControlName option;
-    std::array<bool, kRoles> roles;
+    std::array<bool, EditorForm::kRoles> roles;
 };
 constexpr EditorType kTypes[] = {
     {u"Editor", u"EditorOption", {true, false, false}},
@@ -101,21 +99,21 @@ void EditorForm::setAuthorType(TextView type) {
 }
 
 void EditorForm::fill(TextView parentText, TextView secondaryText) {
-    element().call(u"Parse", {Value(parentText)});
+    readText(parentText);
     mHasEtAl = element().flag(u"HasEtAl");
     showNames(element().texts(u"authors"));
     const Text byRoles = typeOfRoles();
     setAuthorType(isType(secondaryText) ? secondaryText : byRoles.empty() ? TextView(u"Editor") : TextView(byRoles));
+    mShownType = AuthorType();
     showAuthorTypeOptions();
 }
 
 Text EditorForm::typeOfRoles() {
-    std::array<bool, kRoles> roles{};
     for (std::size_t role = 0; role < kRoles; ++role) {
-        roles.at(role) = element().flag(u"Anthologies", static_cast<std::int32_t>(role));
+        mReadRoles.at(role) = element().flag(u"Anthologies", static_cast<std::int32_t>(role));
     }
-    const auto* const found =
-        std::find_if(std::begin(kTypes), std::end(kTypes), [&](const EditorType& row) { return row.roles == roles; });
+    const auto* const found = std::find_if(std::begin(kTypes), std::end(kTypes),
+                                           [&](const EditorType& row) { return row.roles == mReadRoles; });
     return found != std::end(kTypes) ? Text(found->type) : Text();
 }
 
@@ -134,9 +132,11 @@ void EditorForm::collect(bool /*isModelPreview*/) {
     const std::vector<Text> persons = names();
     for (const EditorType& row : kTypes) {
         if (row.type == type) {
+            const bool isAsRead = type == mShownType && isCombination(row.roles);
+            const std::array<bool, kRoles>& roles = isAsRead ? mReadRoles : row.roles;
             for (std::size_t role = 0; role < kRoles; ++role) {
                 // A role without a person would be written alone: "ed."
-                const bool hasRole = row.roles.at(role) && !persons.empty();
+                const bool hasRole = roles.at(role) && !persons.empty();
                 element().put(u"Anthologies", {Value(static_cast<std::int32_t>(role)), Value(hasRole)});
             }
         }
@@ -145,8 +145,16 @@ void EditorForm::collect(bool /*isModelPreview*/) {
     element().put(u"HasEtAl", mHasEtAl);
 }
 
+/// Whether the text that was read names a type's roles beside others, a combination that has no type: "ed. and trans."
+bool EditorForm::isCombination(const std::array<bool, kRoles>& ofType) const {
+    const bool isType = std::any_of(std::begin(kTypes), std::end(kTypes),
+                                    [&](const EditorType& row) { return row.roles == mReadRoles; });
+    return !isType && std::equal(ofType.begin(), ofType.end(), mReadRoles.begin(),
+                                 [](bool isOfType, bool isRead) { return !isOfType || isRead; });
+}
+
 std::pair<Text, Text> EditorForm::result() {
-    return {toString(), AuthorType()};
+    return {wholeText(), AuthorType()};
 }
 
 void EditorForm::nameRead() {

@@ -7,6 +7,9 @@ namespace quorvel::forms {
 /// Edits the editors, translators or compilers of a work (element type code 9).
 class EditorForm final : public NamesForm {
 public:
+    /// Editor, compiler, translator.
+    static constexpr std::size_t kRoles = 3;
+
     EditorForm();
 
     /// "Editor", "Translator", "Compiler" or "Compiler & Ed."; any other text selects none.
@@ -25,6 +28,10 @@ private:
     void showAuthorTypeOptions();
     /// The type that the element's roles make; empty when there are none.
     Text typeOfRoles();
+    bool isCombination(const std::array<bool, kRoles>& ofType) const;
+
+    std::array<bool, kRoles> mReadRoles{};
+    Text mShownType;
 
     /// The form does not show it, and reading a single name would lose it.
     bool mHasEtAl = false;

@@ -139,6 +139,9 @@ void Form::ParentWidgetChanged(const LateObjectRef& DefaultOutputTemplate, const
                    {u"secondaryText", secondaryText}},
                   [&] {
                       ++mShowings;
+                      mParentText = parentText;
+                      mSecondaryText = secondaryText;
+                      mIsChanged = false;
                       mDefaultOutputTemplate.hold(DefaultOutputTemplate);
                       mModelOutputTemplate.hold(modelOutputTemplate);
                       const Filling filling(*this);
@@ -522,6 +525,7 @@ void Form::userActivated() {
 void Form::TextBox_Change(Control& box) {
     procedure(*this, u"TextBox_Change", {{u"Index", box.index()}}, [&] {
         if (!mSuppressUpdatePreview) {
+            mIsChanged = true;
             {
                 const Filling filling(*this);
                 boxChanged(box);
@@ -551,6 +555,7 @@ void Form::TextBox_LostFocus(Control& box) {
 
 void Form::OptionButton_Click(Control& option) {
     procedure(*this, u"OptionButton_Click", {{u"Index", option.index()}}, [&] {
+        mIsChanged = mIsChanged || !mSuppressUpdatePreview;
         {
             const Filling filling(*this);
             choiceClicked(option);
@@ -561,6 +566,7 @@ void Form::OptionButton_Click(Control& option) {
 
 void Form::CheckBox_Click(Control& checkBox) {
     procedure(*this, u"CheckBox_Click", {{u"Index", checkBox.index()}}, [&] {
+        mIsChanged = mIsChanged || !mSuppressUpdatePreview;
         {
             const Filling filling(*this);
             choiceClicked(checkBox);

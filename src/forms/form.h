@@ -164,6 +164,11 @@ protected:
     Value callHost(const char16_t* member, std::initializer_list<Value> arguments) const;
     const Text& productName() const { return mProductName; }
     bool isFilling() const { return mSuppressUpdatePreview; }
+    /// The texts that the form was opened with.
+    const Text& parentText() const { return mParentText; }
+    const Text& secondaryText() const { return mSecondaryText; }
+    /// Whether somebody has changed a control since.
+    bool isChanged() const { return mIsChanged; }
     /// Of `dumpVariables`, behind the form's own.
     void dumpProtocol(VBWPROTECTOR& report) const;
 
@@ -202,6 +207,9 @@ private:
     int mHandled = 0;
     /// Counts the texts that the host showed, so that an OK under way knows whether there came another.
     int mShowings = 0;
+    Text mParentText;
+    Text mSecondaryText;
+    bool mIsChanged = false;
     bool mIsLayoutStale = true;
     bool mIsLayingOut = false;
     bool mIsEnabled = true;

@@ -111,7 +111,7 @@ Text captionOf(TextView stored, const std::vector<Text>& offered) {
 IssueForm::IssueForm() : Form(kDesign) {}
 
 void IssueForm::fill(TextView parentText, TextView secondaryText) {
-    read(element(), parentText, secondaryText);
+    mSurroundings = surroundingsOf(parentText, read(element(), parentText, secondaryText));
     forms::fill(*this, element(), kTexts);
     showTypes(offered(u"SupportedIssueTypes"), element().text(u"IssueType"));
     showParts();
@@ -162,7 +162,10 @@ void IssueForm::collect(bool /*isModelPreview*/) {
 
 std::pair<Text, Text> IssueForm::result() {
     const Text text = toString();
-    return {text, element().text(u"IssueType")};
+    const Text type = element().text(u"IssueType");
+    // A style may write the kind alone, or nothing of it.
+    const bool isKept = isChanged() || (!text.empty() && isReadBack(*this, element(), kTexts, text, type));
+    return {isKept ? mSurroundings.around(text) : parentText(), type};
 }
 
 }  // namespace quorvel::forms

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/form.h"
+#include "forms/surroundings.h"
 
 namespace quorvel::forms {
 
@@ -22,6 +23,9 @@ private:
     /// The caption of the option that is selected; empty when none is.
     Text selectedType();
     void showParts();
+
+    /// The journal behind the words of a special issue.
+    Surroundings mSurroundings;
 };
 
 }  // namespace quorvel::forms

@@ -57,6 +57,10 @@ public:
     virtual Value get(const char16_t* member) const = 0;
     /// Calls a method, or reads a property with arguments.
     virtual Value call(const char16_t* member, Arguments arguments) const = 0;
+    /// The same of a method that leaves something in its arguments: they hold it afterwards.
+    virtual Value callInOut(const char16_t* member, std::span<Value> arguments) const {
+        return call(member, arguments);
+    }
     /// Gives a property, with its indexes before the value if it has any, a new value.
     virtual void put(const char16_t* member, Arguments indexesAndValue) const = 0;
 };

@@ -83,6 +83,39 @@ std::vector<Text> NamesForm::names() {
     return result;
 }
 
+void NamesForm::readText(TextView parentText) {
+    mSurroundings = surroundingsOf(parentText, element().callWithRest(u"Parse", parentText));
+}
+
+NamesForm::List NamesForm::read(TextView text) {
+    element().call(u"Parse", {Value(text)});
+    return {element().texts(u"authors"), element().flag(u"HasEtAl")};
+}
+
+Text NamesForm::wholeText() {
+    const Text written = toString();
+    const List all = {names(), element().flag(u"HasEtAl")};
+    const List kept = read(written);
+    if (!isChanged() && kept != all) {
+        return parentText();
+    }
+    const bool isShortened = kept.names.size() < all.names.size() || (all.hasEtAl && !kept.hasEtAl);
+    return mSurroundings.around(isShortened ? withAllNames(all) : written);
+}
+
+/// The persons with their role, where the element reads them out of that again; else as the style writes them.
+Text NamesForm::withAllNames(const List& all) {
+    const Text written = toString();
+    Text whole = element().ifAny(u"toMergedString").value_or(Value()).asText();
+    if (all.hasEtAl) {
+        whole += u", et al.";
+    }
+    if (const Text role = element().ifAny(u"editor").value_or(Value()).asText(); !role.empty()) {
+        whole += concatenate({u", ", role});
+    }
+    return read(whole) == all ? whole : written;
+}
+
 void NamesForm::PrimePump() {
     procedure(*this, u"PrimePump", kNoParameters, [&] { boxChanged(box(1)); });
 }

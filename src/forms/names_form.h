@@ -3,6 +3,7 @@
 #include <array>
 
 #include "forms/form.h"
+#include "forms/surroundings.h"
 
 namespace quorvel::forms {
 
@@ -33,6 +34,11 @@ protected:
     /// The last enabled row is another.
     virtual void rowsChanged() {}
 
+    /// Lets the element read the host's text.
+    void readText(TextView parentText);
+    /// What OK gives: the names as the element writes them, with what stood beside them. Where the style leaves
+    /// persons, first names or et al. out, an unchanged text is that of the host, and a changed one has all persons.
+    Text wholeText();
     /// One name a row.
     void showNames(const std::vector<Text>& names);
     /// The names of the rows in use that are not empty, and those beyond the rows.
@@ -50,6 +56,15 @@ protected:
     std::vector<std::int16_t> mLabels;
 
 private:
+    /// What a list of names says.
+    struct List {
+        std::vector<Text> names;
+        bool hasEtAl = false;
+
+        bool operator==(const List&) const = default;
+    };
+    Text withAllNames(const List& all);
+    List read(TextView text);
     /// 0 for a control that is no box of a row.
     std::size_t rowOf(const Control& box) const;
     void insertNames(std::size_t row, const std::vector<Text>& names);
@@ -58,6 +73,8 @@ private:
     std::int16_t mLastRow = 1;
     /// Beyond the rows.
     std::vector<Text> mMoreNames;
+    /// What the element left to others: "(in press)".
+    Surroundings mSurroundings;
 };
 
 }  // namespace quorvel::forms

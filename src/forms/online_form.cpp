@@ -1,5 +1,7 @@
 #include "forms/online_form.h"
 
+#include "forms/surroundings.h"
+
 namespace quorvel::forms {
 
 namespace {
@@ -35,8 +37,8 @@ constexpr TextView kAdvance = u"Advance online publication";
 
 OnlineForm::OnlineForm() : Form(kDesign) {}
 
-void OnlineForm::read(TextView text) {
-    element().call(u"Parse", {Value(text)});
+Text OnlineForm::read(TextView text) {
+    return element().callWithRest(u"Parse", text);
 }
 
 /// Whether dates, numbers or notices stand around the source that the element has read: it does not write them.
@@ -51,10 +53,10 @@ bool OnlineForm::hasMoreThanSource(TextView text) {
 }
 
 void OnlineForm::fill(TextView parentText, TextView /*secondaryText*/) {
-    read(parentText);
+    const Text rest = read(parentText);
     // The source alone is shown where the element makes the same of it; schemes, marks of abstracts and dates of access
     // would be lost otherwise.
-    const bool hasMore = hasMoreThanSource(parentText);
+    const bool hasMore = hasMoreThanSource(parentText) || !surroundingsOf(parentText, rest).isEmpty();
     const Text whole = written(false, false);
     const Text source = element().text(u"Online");
     read(source);

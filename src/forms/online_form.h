@@ -17,7 +17,7 @@ private:
     void collect(bool isModelPreview) override;
     std::pair<Text, Text> result() override;
 
-    void read(TextView text);
+    Text read(TextView text);
     bool hasMoreThanSource(TextView text);
 };
 

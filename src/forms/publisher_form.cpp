@@ -74,6 +74,13 @@ void PublisherForm::collect(bool /*isModelPreview*/) {
     forms::collect(*this, element(), kKind);
 }
 
+std::pair<Text, Text> PublisherForm::result() {
+    const Text text = toString();
+    // A style may shorten the names.
+    const bool isKept = isChanged() || isReadBack(*this, element(), kTexts, text, {});
+    return {isKept ? text : parentText(), Text()};
+}
+
 void PublisherForm::boxChanged(Control& box) {
     // Who types a name knows it.
     if (!box.text().empty()) {

@@ -15,6 +15,7 @@ public:
 private:
     void fill(TextView parentText, TextView secondaryText) override;
     void collect(bool isModelPreview) override;
+    std::pair<Text, Text> result() override;
     void boxChanged(Control& box) override;
 };
 

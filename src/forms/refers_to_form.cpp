@@ -117,19 +117,16 @@ void RefersToForm::initialize() {
 }
 
 void RefersToForm::fill(TextView parentText, TextView secondaryText) {
-    element().call(u"Parse", {Value(parentText), Value(secondaryText)});
-    mReadText = parentText;
+    const Text rest = element().callWithRest(u"Parse", parentText, Text(secondaryText));
+    mSurroundings = surroundingsOf(parentText, rest);
     readKinds(secondaryText);
     readStatement();
     const Kind& read = mKinds.at(mReadKind);
     fillSeries(read.caption == kSeries ? TextView(mReadValues.front()) : TextView());
-    mBefore.clear();
-    mBehind.clear();
     if (isOneOf(read.caption, kPartsOfTexts)) {
         const Text written = element().call(u"toString", {Value(false)}).asText();
         if (const std::size_t at = parentText.find(written); !written.empty() && at != TextView::npos) {
-            mBefore = parentText.substr(0, at);
-            mBehind = parentText.substr(at + written.size());
+            mSurroundings = {Text(parentText.substr(0, at)), Text(parentText.substr(at + written.size()))};
         }
     }
     std::vector<Text> captions;
@@ -243,16 +240,16 @@ void RefersToForm::collect(bool /*isModelPreview*/) {
     }
 }
 
-/// Whether what was read is of a kind that has values here, but no boxes: the style may write nothing of them.
-bool RefersToForm::hasHiddenValues() {
+/// Whether what was read is of a kind that has no boxes here: the style may write nothing of it, or in other letters.
+bool RefersToForm::isWithoutBoxes() {
     const Kind& read = mKinds.at(mReadKind);
-    return read.caption != kSeries && !hasAny(read.captions) && hasAny(mReadValues);
+    return read.caption != kSeries && !hasAny(read.captions);
 }
 
 std::pair<Text, Text> RefersToForm::result() {
     Text text = toString();
     if (selectedKind() == mReadKind) {
-        text = hasHiddenValues() ? mReadText : concatenate({mBefore, text, mBehind});
+        text = isWithoutBoxes() ? parentText() : mSurroundings.around(text);
     }
     return {text, element().text(u"RefersToType")};
 }

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "forms/form.h"
+#include "forms/surroundings.h"
 
 namespace quorvel::forms {
 
@@ -38,7 +39,7 @@ private:
     void showKind(std::size_t kind);
     void keepTexts();
     std::vector<Text> valuesOf(std::size_t kind);
-    bool hasHiddenValues();
+    bool isWithoutBoxes();
     /// The kind of the selected option; beyond the kinds when there is none.
     std::size_t selectedKind();
 
@@ -47,11 +48,9 @@ private:
     /// What was read: the kind, as the element stores it, and its values.
     std::size_t mReadKind = 0;
     Text mReadType;
-    Text mReadText;
     std::vector<Text> mReadValues;
-    // What stands round the statement and belongs to none of its values.
-    Text mBefore;
-    Text mBehind;
+    /// What stands round the statement and belongs to none of its values.
+    Surroundings mSurroundings;
     /// The texts of boxes by the captions of their values.
     std::map<Text, Text> mTexts;
     /// What the options of series stand for, by their indexes; the first one for a number.

@@ -14,7 +14,6 @@ void VariantForm::fill(TextView parentText, TextView /*secondaryText*/) {
     element().call(u"Parse", {Value(parentText)});
     forms::fill(*this, element(), std::span(&mVariants.text, 1));
     forms::fill(*this, element(), mVariants.type);
-    mGivenText = parentText;
     mShownText = control(mVariants.text.box).text();
     mShownType = selectedOption(*this, mVariants.type.options);
 }
@@ -33,7 +32,7 @@ std::pair<Text, Text> VariantForm::result() {
     // A variant that the style in force does not offer is written without its marks, or not at all: the host would lose
     // it for the next style.
     if (isAsItCame() && mShownType > kPlain && !element().flag(mVariants.type.supports, mShownType)) {
-        return {mGivenText, Text()};
+        return {parentText(), Text()};
     }
     return Form::result();
 }

@@ -33,8 +33,7 @@ private:
     bool isAsItCame();
 
     const Variants mVariants;
-    // What the host gave, and what was shown of it.
-    Text mGivenText;
+    // What was shown of the host's text.
     Text mShownText;
     std::int16_t mShownType = kNoIndex;
 };

@@ -42,6 +42,19 @@ Reference ReferenceWriter::elementTexts(const Reference& reference) {
     return texts;
 }
 
+const PreparedSource* ReferenceWriter::sourceOf(const Reference& reference, const Field& field) {
+    const Template& assembly = templateFor(reference);
+    mFiller->begin(reference, assembly.slots, mStyle, Form::kList, {});
+    const PreparedSource* found = nullptr;
+    for (std::size_t i = 0; i < assembly.slots.size() && found == nullptr; ++i) {
+        const PreparedSource* filling = mFiller->filling(i);
+        const bool isIt = filling != nullptr && filling->element != nullptr && filling->source->field == &field;
+        if (isIt) found = filling;
+    }
+    mFiller->end();
+    return found;
+}
+
 const Field* ReferenceWriter::heading(const Reference& reference) {
     const Template& assembly = templateFor(reference);
     mFiller->begin(reference, assembly.slots, mStyle, Form::kList, {});

@@ -30,6 +30,9 @@ public:
     /// not print stay as they are: the host knows them still.
     Reference elementTexts(const Reference& reference);
 
+    /// What writes a field of the reference in a list of this style; null when nothing of the library does.
+    const PreparedSource* sourceOf(const Reference& reference, const Field& field);
+
     /// The field that heads the reference in a list of this style: author, editor, title.
     const Field* heading(const Reference& reference);
 

@@ -127,6 +127,16 @@ Value HostLateObject::call(const char16_t* member, Arguments arguments) const {
     return valueOf(mObject.callWith(wide(member), variantsOf(arguments)));
 }
 
+Value HostLateObject::callInOut(const char16_t* member, std::span<Value> arguments) const {
+    std::vector<Variant> variables = variantsOf(arguments);
+    std::vector<Variant> references;
+    references.reserve(variables.size());
+    std::transform(variables.begin(), variables.end(), std::back_inserter(references), Variant::referenceTo);
+    Value result = valueOf(mObject.callWith(wide(member), references));
+    std::transform(variables.begin(), variables.end(), arguments.begin(), valueOf);
+    return result;
+}
+
 void HostLateObject::put(const char16_t* member, Arguments indexesAndValue) const {
     mObject.putWith(wide(member), variantsOf(indexesAndValue));
 }

@@ -17,6 +17,7 @@ public:
 
     forms::Value get(const char16_t* member) const override;
     forms::Value call(const char16_t* member, Arguments arguments) const override;
+    forms::Value callInOut(const char16_t* member, std::span<forms::Value> arguments) const override;
     void put(const char16_t* member, Arguments indexesAndValue) const override;
 
     IDispatch* dispatch() const override { return mObject.dispatch(); }

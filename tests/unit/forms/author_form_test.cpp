@@ -26,7 +26,9 @@ std::shared_ptr<RecordingObject> authorElement() {
     author->does(u"Parse", [self](Arguments arguments) {
         Text text = arguments[0].asText();
         self->has(u"HasEtAl", Value(removeSuffix(text, u" et al.")));
-        self->has(u"Anthologies(2)", Value(removeSuffix(text, u", trans.")));
+        const bool isBoth = removeSuffix(text, u", ed. and trans.");
+        self->has(u"Anthologies(0)", Value(isBoth));
+        self->has(u"Anthologies(2)", Value(removeSuffix(text, u", trans.") || isBoth));
         self->has(u"authors", Value(text.empty() ? std::vector<Text>() : split(text, u"; ")));
         return Value();
     });
@@ -35,7 +37,9 @@ std::shared_ptr<RecordingObject> authorElement() {
         return Value(concatenate({join(self->valueOf(u"authors").asTexts(), u"; "),
                                   self->valueOf(u"AuthorType").asNumber() == 2 ? u" [" : u"", pseudo,
                                   self->valueOf(u"HasEtAl").asFlag() ? u" et al." : u"",
-                                  self->valueOf(u"Anthologies(2)").asFlag() ? u", trans." : u""}));
+                                  !self->valueOf(u"Anthologies(2)").asFlag()  ? u""
+                                  : self->valueOf(u"Anthologies(0)").asFlag() ? u", ed. and trans."
+                                                                              : u", trans."}));
     });
     return author;
 }
@@ -93,6 +97,35 @@ TEST(AuthorForm, LeavingABoxShowsTheNameAsItWasRead) {
     EXPECT_EQ(shown.preview(), u"X, Y; C; D et al., trans.") << "two names in a box become two rows";
 }
 
+TEST(AuthorForm, PersonsThatTheStyleLeavesOutAreKept) {
+    struct Case {
+        TextView text;
+        TextView rest;
+        TextView typed;
+        const char* told;
+    };
+    constexpr Case kCases[] = {
+        {u"A; B; C", u"", u"", "setParentWidgetsValue(A; B; C, )"},
+        {u"A; B; C", u"", u"X", "setParentWidgetsValue(X; B; C, trans., )"},
+        {u"A (in press)", u"(in press)", u"X", "setParentWidgetsValue(X et al. (in press), )"},
+    };
+    for (const Case& c : kCases) {
+        const auto author = authorElement();
+        RecordingObject* const self = author.get();
+        const auto names = [self] { return self->valueOf(u"authors").asTexts(); };
+        author->does(u"toString", [names](Arguments) { return Value(names().front() + u" et al."); });
+        author->does(u"toMergedString", [names](Arguments) { return Value(join(names(), u"; ")); });
+        author->has(u"editor", Value(TextView(u"trans.")));
+        author->leaves(u"Parse", Text(c.rest));
+        const ShownForm shown(0, author, c.text);
+        if (!c.typed.empty()) {
+            shown.type({u"authors", 1}, c.typed);
+        }
+        shown.clickOk();
+        EXPECT_EQ(told(shown).front(), c.told);
+    }
+}
+
 TEST(AuthorForm, KindsPseudonymsAndDiscussants) {
     const auto pseudonymous = authorElement();
     pseudonymous->has(u"AuthorType", Value(2));
@@ -128,6 +161,8 @@ TEST(EditorForm, TypeComesFromTheSecondTextTheRolesOrIsEditor) {
         {u"A", u"", false, u"EditorOption", "setParentWidgetsValue(A, Editor)"},
         {u"A, trans.", u"", false, u"TranslatorOption", "setParentWidgetsValue(A, trans., Translator)"},
         {u"A, trans.", u"Compiler & Ed.", true, u"CompilerAndEditorOption", "setParentWidgetsValue(A, Compiler & Ed.)"},
+        // The roles of a text that no type has stay together.
+        {u"A, ed. and trans.", u"Editor", false, u"EditorOption", "setParentWidgetsValue(A, ed. and trans., Editor)"},
         {u"A et al.", u"Compiler", false, u"CompilerOption", "setParentWidgetsValue(A et al., Compiler)"},
     };
     for (const Case& c : kCases) {

@@ -83,6 +83,32 @@ TEST(IssueForm, AnotherKindHasItsOwnPartsAndKeepsTheOthers) {
     EXPECT_EQ(element.element->IssueType(), u"Special issue") << "a theme issue is a special one in storage";
 }
 
+TEST(IssueForm, WhatTheStyleDoesNotWriteAndTheJournalStay) {
+    constexpr std::int16_t kApa = 1;
+    constexpr std::int16_t kMla = 2;
+    struct Case {
+        std::int16_t format;
+        TextView text;
+        TextView title;
+        std::string told;
+    };
+    const Case kCases[] = {
+        {kApa, u"4, suppl 2", u"", "4, suppl 2, Supplement"},
+        {kMla, u"Spec. issue of Critical Inquiry 18.4", u"", "Spec. issue of Critical Inquiry 18.4, Special issue"},
+        {-1, u"Spec. issue of Critical Inquiry 18.4", u"Identities",
+         "Identities. Spec. issue of Critical Inquiry 18.4, Special issue"},
+    };
+    for (const Case& c : kCases) {
+        const IssueElement element(c.format, kAll);
+        const ShownForm shown(11, element.object, c.text);
+        if (!c.title.empty()) {
+            shown.type({u"Textbox", 3}, c.title);
+        }
+        shown.clickOk();
+        EXPECT_EQ(told(shown).front(), "setParentWidgetsValue(" + c.told + ")");
+    }
+}
+
 TEST(IssueForm, AKindOfTheHostsOwnStays) {
     const auto element = std::make_shared<RecordingObject>();
     element->does(u"Parse", [](forms::LateObject::Arguments) { return Value(); });

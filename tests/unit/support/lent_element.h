@@ -18,9 +18,11 @@ public:
         element->Initialize(std::make_shared<RecordingSink>());
         element->Reset(options);
         const std::shared_ptr<Element> lent = element;
-        object->does(u"Parse", [lent](Arguments arguments) {
+        RecordingObject* const self = object.get();
+        object->does(u"Parse", [lent, self](Arguments arguments) {
             Text text = arguments[0].asText();
             lent->Parse(text, arguments.size() > 1 ? arguments[1].asText() : Text());
+            self->leaves(u"Parse", text);
             return forms::Value();
         });
         object->does(u"toString", [lent](Arguments) {

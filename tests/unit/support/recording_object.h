@@ -25,6 +25,8 @@ public:
     void does(const char16_t* member, Function function) { mFunctions[member] = std::move(function); }
     /// A property whose writing does something else.
     void takes(const char16_t* member, Function function) { mSetters[member] = std::move(function); }
+    /// What a method leaves in its first argument.
+    void leaves(const char16_t* member, Text rest) { mRests[member] = std::move(rest); }
     /// The call with this number, from 1, fails; 0 for none.
     void failAt(int call) { mFailingCall = call; }
     int failing() const { return mFailingCall; }
@@ -39,6 +41,13 @@ public:
 
     forms::Value get(const char16_t* member) const override { return answer(member, {}); }
     forms::Value call(const char16_t* member, Arguments arguments) const override { return answer(member, arguments); }
+    forms::Value callInOut(const char16_t* member, std::span<forms::Value> arguments) const override {
+        forms::Value result = answer(member, arguments);
+        if (const auto rest = mRests.find(member); rest != mRests.end()) {
+            arguments.front() = forms::Value(rest->second);
+        }
+        return result;
+    }
     void put(const char16_t* member, Arguments indexesAndValue) const override {
         const Text name = key(member, indexesAndValue.first(indexesAndValue.size() - 1));
         record(name + u"=" + written(indexesAndValue.back()));
@@ -88,6 +97,7 @@ private:
     mutable std::map<Text, forms::Value> mValues;
     std::map<Text, Function> mFunctions;
     std::map<Text, Function> mSetters;
+    std::map<Text, Text> mRests;
     int mFailingCall = 0;
 };
 
