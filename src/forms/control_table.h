@@ -38,8 +38,8 @@ struct Place {
     std::int16_t line = 0;
     std::int16_t x = 0;
     std::int16_t width = 0;
-    /// 0 for the height that is usual for the kind; a frame is as high as what it holds. Of a label, the greatest: it is
-    /// as high as its lines.
+    /// 0 for the height that is usual for the kind; a frame is as high as what it holds. Of a label, the greatest: it
+    /// is as high as its lines.
     std::int16_t height = 0;
 };
 
