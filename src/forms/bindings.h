@@ -12,7 +12,7 @@ class Form;
 /// A box that shows a member of the element.
 struct TextBinding {
     ControlName box;
-    const char16_t* member;
+    const char16_t* member = nullptr;
     /// Of a member with an index.
     std::int16_t memberIndex = kNoIndex;
 };
@@ -20,7 +20,7 @@ struct TextBinding {
 /// A check box that shows a flag of the element.
 struct FlagBinding {
     ControlName checkBox;
-    const char16_t* member;
+    const char16_t* member = nullptr;
     std::int16_t memberIndex = kNoIndex;
 };
 
@@ -28,7 +28,7 @@ struct FlagBinding {
 struct ChoiceBinding {
     /// The name of the array of options, whose indexes are the codes of the variants.
     TextView options;
-    const char16_t* member;
+    const char16_t* member = nullptr;
     /// The element's member that tells which variants the style offers; null when all are shown.
     const char16_t* supports = nullptr;
 };

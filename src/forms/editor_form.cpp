@@ -40,12 +40,13 @@ constexpr ControlRow kControls[] = {
     editorBox(6),
     label(u"MoreAuthors", u"", {7, 46, 180}).hidden(),
 };
+/// A design's members are called with forms of that design.
+EditorForm& own(Form& form) {
+    return static_cast<EditorForm&>(form);  // NOLINT(*-static-cast-downcast): see above
+}
 constexpr FormMember kMembers[] = {
-    {u"AuthorType",
-     [](Form& form, LateObject::Arguments) { return Value(static_cast<EditorForm&>(form).AuthorType()); },
-     [](Form& form, LateObject::Arguments value) {
-         static_cast<EditorForm&>(form).setAuthorType(value.back().asText());
-     }},
+    {u"AuthorType", [](Form& form, LateObject::Arguments) { return Value(own(form).AuthorType()); },
+     [](Form& form, LateObject::Arguments value) { own(form).setAuthorType(value.back().asText()); }},
 };
 constexpr FormDesign kDesign = {
     .className = u"EditorForm",

@@ -44,7 +44,7 @@ void NewspaperTitleForm::collect(bool /*isModelPreview*/) {
 Text NewspaperTitleForm::titleAlone() {
     const Text city = control(kCity).text();
     element().put(u"City", TextView());
-    const Text title = written(false, false);
+    Text title = written(false, false);
     element().put(u"City", city);
     return title;
 }

@@ -44,7 +44,7 @@ constexpr ClipboardFormat kTexts[] = {ClipboardFormat::Text, ClipboardFormat::Un
 
 struct NotesForm::ButtonProcedure {
     ControlName button;
-    void (NotesForm::*click)();
+    void (NotesForm::*click)() = nullptr;
 };
 constexpr NotesForm::ButtonProcedure NotesForm::kButtonProcedures[] = {
     {kCutButton, &NotesForm::CutButton_Click},     {kCopyButton, &NotesForm::CopyButton_Click},
