@@ -72,8 +72,6 @@ void VBWPROTECTOR::noteConcern() noexcept {
 
 void VBWPROTECTOR::releaseService() noexcept {
     mErrorParams.reset();
-    // Nothing is left behind where the thread ends.
-    mProcedure = Text();
     noteConcern();
 }
 
@@ -164,13 +162,8 @@ void VBWPROTECTOR::reportEntry(const Instrumented& self, TextView procedure, con
     try {
         const Text list = parameterList(parameters);
         if (hasService()) {
-            // In the memory of the name before, unless a report is under way in spite of all.
-            Text name = std::exchange(mProcedure, Text());
-            name.assign(kLibraryPrefix).append(self.className()).append(u".").append(procedure);
+            const Text name = concatenate({kLibraryPrefix, self.className(), u".", procedure});
             forward([&](ErrorReportService& service) { service.vbwProcIn(name, list); });
-            if (mErrorParams) {
-                mProcedure = std::move(name);
-            }
         }
     } catch (...) {  // NOLINT(bugprone-empty-catch): no memory is left for the list
     }

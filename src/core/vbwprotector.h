@@ -114,8 +114,6 @@ private:
     std::size_t mDepth = 0;
     bool mIsExhausted = false;
     bool mServiceIsAbsent = false;
-    // The name that was reported last; its memory serves the next one.
-    Text mProcedure;
     // The report under way, which has a place on the stack as well.
     const Reporting* mReporting = nullptr;
 };
