@@ -424,7 +424,8 @@ HRESULT DispatchTable::invoke(IDispatch* object, DISPID id, WORD flags, const DI
     Call call(*member, parameters);
     if (call.hasSurplus()) {
         fail(ErrorNumber::WrongNumberOfArguments,
-             concatenate({decimal(parameters.cArgs), u" given, ", decimal(member->parameters.size()), u" taken"}));
+             concatenate({decimal(parameters.cArgs), u" given, ",
+                          decimal(static_cast<std::int64_t>(member->parameters.size())), u" taken"}));
     }
     if (const Text lacked = call.lackedArguments(); !lacked.empty()) {
         fail(ErrorNumber::ArgumentNotOptional, lacked);
